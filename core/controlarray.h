@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/controls.h"
+
+#include <QObject>
+#include <map>
+
+/// The controls that are written as one array: "Command8(0)", "Command8(1)".
+///
+/// A control's index is part of its identity, so an array may have gaps and may be shared out: each pane
+/// holds its own part of `ListView3`. The widget's parent owns the widget; the array only knows it.
+///
+/// Invariant: every control in the array bears the object name "<array>(<index>)", and no index occurs twice.
+template<class W>
+class ControlArray final
+{
+    Q_DISABLE_COPY_MOVE(ControlArray)
+
+public:
+    explicit ControlArray(const char *name) : m_name(name) {}
+
+    W &add(int index, W *control)
+    {
+        Q_ASSERT(!contains(index));
+        m_controls.emplace(index, Controls::named(control, Controls::indexedName(m_name, index)));
+        return *control;
+    }
+
+    /// An index that is not here is a mistake in the program, not in its input.
+    W &operator[](int index) const
+    {
+        Q_ASSERT(contains(index));
+        return *m_controls.find(index)->second;
+    }
+
+    bool contains(int index) const { return m_controls.contains(index); }
+
+    /// In rising order of index.
+    auto begin() const { return m_controls.begin(); }
+    auto end() const { return m_controls.end(); }
+
+    /// Calls @p handler with the index of the control that emitted @p signal.
+    template<class Signal, class Handler>
+    void connectEach(Signal signal, const QObject *receiver, Handler handler) const
+    {
+        for (const auto &[index, control] : m_controls)
+            QObject::connect(control, signal, receiver, [handler, index = index] { handler(index); });
+    }
+
+private:
+    const char *const m_name;
+    std::map<int, W *> m_controls;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+
+/// Small helpers that every pane uses on its controls.
+namespace Controls {
+
+/// A control's own setting, whether or not the pane around it is on show. "Visible" never means anything else
+/// here.
+inline bool isShown(const QWidget &control)
+{
+    return !control.isHidden();
+}
+
+/// Gives @p control its name in the system and returns it.
+template<class W>
+W *named(W *control, const QString &name)
+{
+    control->setObjectName(name);
+    return control;
+}
+
+/// "ListView3" and 29 make "ListView3(29)".
+QString indexedName(const char *array, int index);
+
+/// A plain-text label of that name.
+QLabel *label(const QString &name, const QString &text, QWidget *parent);
+
+/// The same in bold, as heading of a block.
+QLabel *heading(const QString &name, const QString &text, QWidget *parent);
+
+} // namespace Controls

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/runtimeerror.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+/// The platform's number for a failed file operation, from what Qt and the file system tell.
+namespace FileErrors {
+
+/// For a @p file that could not be opened, read or written.
+inline RuntimeError of(const QFileDevice &file)
+{
+    const QString path = file.fileName();
+    const QFileInfo info(path);
+    if (info.isDir())
+        return RuntimeError(ErrorNumber::PathAccess, path);
+    switch (file.error()) {
+    case QFileDevice::ResourceError:
+    case QFileDevice::WriteError:
+        return RuntimeError(ErrorNumber::DiskFull, path);
+    case QFileDevice::PermissionsError:
+        return RuntimeError(ErrorNumber::PathAccess, path);
+    default:
+        break;
+    }
+    if (!info.dir().exists())
+        return RuntimeError(ErrorNumber::PathNotFound, path);
+    return RuntimeError(info.exists() ? ErrorNumber::PathAccess : ErrorNumber::FileNotFound, path);
+}
+
+} // namespace FileErrors

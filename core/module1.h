@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/optionslots.h"
+
+#include <QString>
+
+/// The program-wide values. One is made in `Main` and lives for the run; everybody else gets a reference.
+struct Module1
+{
+    /// The folder of the executable, "/" as separator, without one at its end.
+    QString AppFolder;
+
+    ::OptionSlots OptionSlots;
+
+    /// Unit names given to the lists of the conversions; the statistics show it.
+    int UnitItemCount = 0;
+
+    /// The chart or structure last chosen by its one-based number.
+    int SelectedChart = 0;
+
+    /// Stores @p folder as `AppFolder` and, only if @p request is "opt", reads the options file in it.
+    /// The result is always empty. A failure is the RuntimeError of OptionSlots::read.
+    QString ReadOptions(const QString &request, const QString &folder);
+
+    /// Writes the options file back. A failure is the RuntimeError of OptionSlots::write.
+    void WriteOptions() const;
+
+    /// "1.1.0"
+    static QString version();
+};

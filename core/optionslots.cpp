@@ -1,0 +1,129 @@
+#include "core/optionslots.h"
+
+#include "core/codepage.h"
+#include "core/fileerrors.h"
+#include "core/numbers.h"
+#include "core/runtimeerror.h"
+
+#include <QFile>
+
+namespace {
+
+/// Takes delimited values from a text one at a time: a comma or a line's end closes a value.
+class DelimitedReader
+{
+public:
+    explicit DelimitedReader(QStringView text) : m_rest(text) {}
+
+    bool atEnd() const { return m_rest.isEmpty(); }
+
+    Value next()
+    {
+        skipBlanks();
+        Value value = m_rest.startsWith(QLatin1Char('"')) ? quoted() : bare();
+        skipBlanks();
+        skipDelimiter();
+        return value;
+    }
+
+private:
+    void skipBlanks()
+    {
+        while (m_rest.startsWith(QLatin1Char(' ')) || m_rest.startsWith(QLatin1Char('\t')))
+            m_rest = m_rest.sliced(1);
+    }
+
+    void skipDelimiter()
+    {
+        if (m_rest.startsWith(QLatin1StringView("\r\n")))
+            m_rest = m_rest.sliced(2);
+        else if (!m_rest.isEmpty() && isDelimiter(m_rest.front()))
+            m_rest = m_rest.sliced(1);
+    }
+
+    static bool isDelimiter(QChar c)
+    {
+        return c == QLatin1Char(',') || c == QLatin1Char('\r') || c == QLatin1Char('\n');
+    }
+
+    // Up to the next quote, or to the end of the file where there is none.
+    Value quoted()
+    {
+        m_rest = m_rest.sliced(1);
+        const qsizetype end = m_rest.indexOf(QLatin1Char('"'));
+        const QStringView text = end < 0 ? m_rest : m_rest.first(end);
+        m_rest = end < 0 ? QStringView() : m_rest.sliced(end + 1);
+        return text.toString();
+    }
+
+    Value bare()
+    {
+        qsizetype end = 0;
+        while (end < m_rest.size() && !isDelimiter(m_rest[end]))
+            ++end;
+        const QStringView text = m_rest.first(end).trimmed();
+        m_rest = m_rest.sliced(end);
+        if (text.isEmpty())
+            return {};
+        if (const std::optional<double> number = Numbers::readFixed(text))
+            return *number;
+        return text.toString();
+    }
+
+    QStringView m_rest;
+};
+
+QByteArray delimited(const Value &value)
+{
+    return CodePage::encode(value.isText() ? QLatin1Char('"') + value.toText() + QLatin1Char('"')
+                                           : value.toText());
+}
+
+void requireIndex(int index)
+{
+    if (index < 0 || index > OptionSlots::LastIndex)
+        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("OptionSlots(%1)").arg(index));
+}
+
+} // namespace
+
+const Value &OptionSlots::operator()(int index) const
+{
+    requireIndex(index);
+    return m_slots[size_t(index)];
+}
+
+Value &OptionSlots::operator()(int index)
+{
+    requireIndex(index);
+    return m_slots[size_t(index)];
+}
+
+void OptionSlots::read(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw FileErrors::of(file);
+    const QString text = CodePage::decode(file.readAll());
+    if (file.error() != QFileDevice::NoError)
+        throw FileErrors::of(file);
+    DelimitedReader reader(text);
+    while (!reader.atEnd()) {
+        if (m_counter > LastIndex)
+            throw RuntimeError(ErrorNumber::Subscript, path);
+        (*this)(m_counter) = reader.next();
+        ++m_counter;
+    }
+    m_lastIndex = m_counter - 1;
+}
+
+void OptionSlots::write(const QString &path) const
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw FileErrors::of(file);
+    for (int index = 0; index <= m_lastIndex; ++index)
+        file.write(delimited((*this)(index)) + "\r\n");
+    if (!file.flush() || file.error() != QFileDevice::NoError)
+        throw FileErrors::of(file);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "core/value.h"
+
+#include <array>
+
+/// The slots that have a name in the code. The unit names stand in the slots between them.
+enum class Slot {
+    Decimals = 0,
+    GridLines = 53,
+    MenuStyle = 54,
+    Structures = 55,
+    TipAtStart = 56,
+    ToolTips = 57,
+    ElementZoom = 58,
+    ElementPicture = 74,
+    ReportStructures = 75,
+    ReportElementPictures = 76,
+    ReportColours = 77,
+    ReportPolarityChart = 78,
+    ReportIsotopes = 79,
+    TrayBalloon = 80,
+    MinimiseToTray = 81,
+    ReportGeneticCode = 82,
+    ReportSdsPage = 83,
+    ReportFluorochromes = 85,
+    StartModuleOn = 86,
+    StartModule = 88,
+    IrInFrequency = 89,
+};
+
+/// All settings of the program and the unit names of the conversions: 101 values known by their place alone.
+///
+/// The file that holds them, `options_uk.ini`, is a list of delimited values in Windows-1252, one to a line,
+/// ended by CR LF: texts in double quotes, numbers bare. Reading and writing share a counter that is never
+/// set back, and writing stops at the last index read, so the file keeps the length that it had.
+class OptionSlots final
+{
+public:
+    static constexpr int LastIndex = 100;
+
+    /// An index outside 0 to 100 is RuntimeError 9.
+    const Value &operator()(int index) const;
+    Value &operator()(int index);
+    const Value &operator()(Slot slot) const { return (*this)(int(slot)); }
+    Value &operator()(Slot slot) { return (*this)(int(slot)); }
+
+    /// Fills the slots from the file. RuntimeError 53, 75 or 70 if it cannot be opened, 9 at the 102nd value.
+    void read(const QString &path);
+
+    /// Replaces the file, in place and without a copy of the old one. RuntimeError 70, 75, 76 or 61 if it
+    /// fails.
+    void write(const QString &path) const;
+
+    /// Index of the last value read; -1 before reading and for an empty file.
+    int lastIndex() const { return m_lastIndex; }
+
+private:
+    std::array<Value, LastIndex + 1> m_slots;
+    int m_counter = 0;
+    int m_lastIndex = -1;
+};

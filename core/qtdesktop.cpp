@@ -1,0 +1,98 @@
+#include "core/qtdesktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+#include <QUrl>
+#include <cstdlib>
+
+namespace {
+
+QMessageBox::Icon iconOf(int style)
+{
+    switch (style & 0x70) {
+    case Desktop::Critical:
+        return QMessageBox::Critical;
+    case Desktop::Question:
+        return QMessageBox::Question;
+    case Desktop::Warning:
+        return QMessageBox::Warning;
+    case Desktop::Information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+// Only what a browser, a file transfer or a viewer of local files takes; anything else opens nothing.
+QUrl urlOf(const QString &target)
+{
+    if (QDir::isAbsolutePath(target))
+        return QUrl::fromLocalFile(target);
+    const QUrl url(target, QUrl::StrictMode);
+    const QString scheme = url.scheme();
+    const bool known = scheme == QLatin1StringView("http") || scheme == QLatin1StringView("https") ||
+                       scheme == QLatin1StringView("ftp");
+    return known && !url.host().isEmpty() ? url : QUrl();
+}
+
+} // namespace
+
+Desktop::Answer QtDesktop::messageBox(const QString &text, int style)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(QStringLiteral("Alembra"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setIcon(iconOf(style));
+    const bool yesNo = (style & 0x7) == YesNo;
+    box.setStandardButtons(yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    if (yesNo)
+        box.setEscapeButton(QMessageBox::No);
+    const int answer = box.exec();
+    if (!yesNo)
+        return Ok;
+    return answer == QMessageBox::Yes ? Yes : No;
+}
+
+QString QtDesktop::saveFile(const SaveRequest &request)
+{
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDirectory(request.folder);
+    dialog.setNameFilter(
+        QStringLiteral("%1 (%2)").arg(request.filterName, request.filterGlobs.join(QLatin1Char(' '))));
+    dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        throw RuntimeError(ErrorNumber::DialogCancelled);
+    return dialog.selectedFiles().constFirst();
+}
+
+void QtDesktop::openTarget(const QString &target)
+{
+    const QUrl url = urlOf(target);
+    if (url.isValid())
+        QDesktopServices::openUrl(url);
+}
+
+void QtDesktop::beep()
+{
+    QApplication::beep();
+}
+
+void QtDesktop::pause(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void QtDesktop::endProcess(int status)
+{
+    std::_Exit(status);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+
+/// The numbers that traps of the program look at or that a report to the user names.
+namespace ErrorNumber {
+
+inline constexpr int Overflow = 6;
+inline constexpr int Subscript = 9;
+inline constexpr int DivisionByZero = 11;
+inline constexpr int TypeMismatch = 13;
+inline constexpr int FileNotFound = 53;
+inline constexpr int DeviceError = 57;
+inline constexpr int DiskFull = 61;
+inline constexpr int PermissionDenied = 70;
+inline constexpr int PathAccess = 75;
+inline constexpr int PathNotFound = 76;
+inline constexpr int ObjectNotSet = 91;
+inline constexpr int InvalidNull = 94;
+inline constexpr int InvalidPicture = 481;
+inline constexpr int PastEnd = 3021;
+inline constexpr int ObjectClosed = 3704;
+inline constexpr int DialogCancelled = 32755;
+inline constexpr int TableNotFound = static_cast<int>(0x80040E37);
+inline constexpr int ColumnNotFound = static_cast<int>(0x80040E10);
+inline constexpr int DatabaseFailure = static_cast<int>(0x80004005);
+
+} // namespace ErrorNumber
+
+/// The one exception of the program: an error number of the platform and what it is about.
+///
+/// Low functions throw it; only the traps that the behaviour asks for catch it. One that meets no trap ends
+/// the process with its report.
+class RuntimeError final : public std::exception
+{
+public:
+    /// @p subject names the file, table or control concerned; it may be empty.
+    explicit RuntimeError(int number, QString subject = {});
+
+    int number() const { return m_number; }
+    const QString &subject() const { return m_subject; }
+
+    /// "Run-time error '53':", an empty line, the wording of the number and, in a line of its own, the
+    /// subject.
+    QString report() const;
+
+    const char *what() const noexcept override { return m_what.constData(); }
+
+private:
+    int m_number;
+    QString m_subject;
+    QByteArray m_what;
+};

@@ -1,0 +1,23 @@
+#include "core/sidewindow.h"
+
+#include <QCloseEvent>
+
+SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_owner(owner)
+{
+    setObjectName(QLatin1StringView(name));
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void SideWindow::showAboveOwner()
+{
+    m_owner.setEnabled(false);
+    setEnabled(true); // a window of a disabled owner is disabled with it
+    show();
+}
+
+void SideWindow::closeEvent(QCloseEvent *event)
+{
+    m_owner.setEnabled(true);
+    m_owner.activateWindow();
+    event->accept();
+}

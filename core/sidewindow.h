@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDialog>
+
+/// A window that lies above `Form1`, which answers nothing while it is open.
+///
+/// It is made when it is opened and destroyed when it is unloaded, so each opening runs its load anew.
+/// Closing it by any route enables `Form1` again. Escape closes it.
+class SideWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p owner is `Form1`; @p name the window's name in the system.
+    SideWindow(const char *name, QWidget &owner);
+
+    /// Disables the owner and shows the window, without a modal event loop.
+    void showAboveOwner();
+
+    void reject() override { close(); }
+    void accept() override { close(); }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+    QWidget &owner() const { return m_owner; }
+
+private:
+    QWidget &m_owner;
+};

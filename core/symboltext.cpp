@@ -1,0 +1,31 @@
+#include "core/symboltext.h"
+
+#include <array>
+
+namespace {
+
+// By the layout of the typeface: upper case "A" to "Z", then lower case "a" to "z".
+constexpr std::array<char16_t, 26> UpperCase{
+    u'Α', u'Β', u'Χ', u'Δ', u'Ε', u'Φ', u'Γ', u'Η', u'Ι', u'ϑ', u'Κ', u'Λ', u'Μ',
+    u'Ν', u'Ο', u'Π', u'Θ', u'Ρ', u'Σ', u'Τ', u'Υ', u'ς', u'Ω', u'Ξ', u'Ψ', u'Ζ',
+};
+constexpr std::array<char16_t, 26> LowerCase{
+    u'α', u'β', u'χ', u'δ', u'ε', u'φ', u'γ', u'η', u'ι', u'ϕ', u'κ', u'λ', u'μ',
+    u'ν', u'ο', u'π', u'θ', u'ρ', u'σ', u'τ', u'υ', u'ϖ', u'ω', u'ξ', u'ψ', u'ζ',
+};
+
+} // namespace
+
+QString SymbolText::toUnicode(const QString &letters)
+{
+    QString text = letters;
+    for (QChar &c : text) {
+        if (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
+            c = QChar(UpperCase[c.unicode() - u'A']);
+        else if (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+            c = QChar(LowerCase[c.unicode() - u'a']);
+        else if (c == QLatin1Char('-'))
+            c = QChar(u'−');
+    }
+    return text;
+}
