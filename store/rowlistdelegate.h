@@ -1,0 +1,26 @@
+#pragma once
+
+#include "store/rowlistmodel.h"
+
+#include <QStyledItemDelegate>
+
+/// Draws the cells of a list: generous rows, grid lines where the list has them, numbers by their decimal
+/// point.
+class RowListDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// Space left and right of a cell's text, logical pixels.
+    static constexpr int Padding = 6;
+
+    RowListDelegate(const RowList &list, const QList<ListColumn> &columns, QObject *parent);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+private:
+    const RowList &m_list;
+    const QList<ListColumn> m_columns;
+};

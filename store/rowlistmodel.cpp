@@ -1,0 +1,37 @@
+#include "store/rowlistmodel.h"
+
+#include "store/rowlist.h"
+
+RowListModel::RowListModel(const RowList &list, QList<ListColumn> columns, QObject *parent)
+    : QAbstractTableModel(parent), m_list(list), m_columns(std::move(columns))
+{
+    connect(&list, &RowList::reset, this, [this] {
+        beginResetModel();
+        endResetModel();
+    });
+}
+
+int RowListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_list.rowCount();
+}
+
+int RowListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+QVariant RowListModel::data(const QModelIndex &index, int role) const
+{
+    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= m_list.rowCount())
+        return {};
+    return index.column() == 0 ? m_list.text(index.row()) : m_list.subItem(index.row(), index.column());
+}
+
+QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
+        section < m_columns.size())
+        return m_columns[section].title;
+    return {};
+}

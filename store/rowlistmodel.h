@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QList>
+
+class RowList;
+
+/// A column of a list on the screen.
+struct ListColumn
+{
+    /// Numbers stand with their decimal points in one line; what is no number is centred.
+    enum class Kind { Text, Number };
+
+    QString title;
+    int width; ///< logical pixels
+    Kind kind = Kind::Text;
+};
+
+/// Shows one RowList to the views. Column 0 is the row's text, column n its sub-item n.
+class RowListModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// @p list outlives the model.
+    RowListModel(const RowList &list, QList<ListColumn> columns, QObject *parent);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    const QList<ListColumn> &columns() const { return m_columns; }
+
+private:
+    const RowList &m_list;
+    const QList<ListColumn> m_columns;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/runtimeerror.h"
+#include "store/rowlist.h"
+
+#include <array>
+
+/// The lists that are written as one array, "ListView3(29)", from index 0 on.
+template<size_t Count>
+class RowListArray final
+{
+public:
+    /// An index outside the array is RuntimeError 9.
+    RowList &operator[](int index)
+    {
+        if (index < 0 || size_t(index) >= Count)
+            throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("list %1").arg(index));
+        return m_lists[size_t(index)];
+    }
+    const RowList &operator[](int index) const { return const_cast<RowListArray &>(*this)[index]; }
+
+private:
+    std::array<RowList, Count> m_lists;
+};
+
+/// Every list of the system under its own name: the one store of the rows that panes, searches and reports
+/// read.
+///
+/// The drop-downs that are filled from tables stand here too, with a text a row: `Combo2(3)` are the names of
+/// the elements, `Combo2(4)` to `Combo2(9)` the colours of the rings, `Comb2` the amino acids, `Combo4` the
+/// codes.
+struct RowLists final
+{
+    RowList ListView1;         ///< solvents: properties
+    RowListArray<7> ListView2; ///< 0 to 4 constants; 6 the hits of a search
+    RowListArray<32> ListView3;
+    RowList ListView4;         ///< proton shifts of impurities
+    RowList ListView5;         ///< carbon shifts of impurities
+    RowList ListView6;         ///< miscibility and polarity
+    RowListArray<7> ListView7; ///< SI units
+    RowList ListView8;         ///< drying agents
+    RowList ListView9;         ///< cooling mixtures
+    RowListArray<10> Combo2;
+    RowList Comb2;
+    RowList Combo4;
+};

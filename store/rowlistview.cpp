@@ -1,0 +1,113 @@
+#include "store/rowlistview.h"
+
+#include "store/rowlist.h"
+#include "store/rowlistdelegate.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QToolTip>
+
+RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent)
+    : QTreeView(parent), m_model(new RowListModel(list, std::move(columns), this))
+{
+    setObjectName(name);
+    setModel(m_model);
+    setItemDelegate(new RowListDelegate(list, m_model->columns(), this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHeaderHidden(true);
+    header()->setMinimumSectionSize(8);
+    header()->setStretchLastSection(true);
+    header()->setSectionResizeMode(QHeaderView::Fixed);
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        header()->resizeSection(column, m_model->columns()[column].width);
+
+    connect(&list, &RowList::gridLinesChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(this, &QTreeView::clicked, this,
+            [this](const QModelIndex &index) { Q_EMIT rowClicked(index.row()); });
+    connect(this, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(index.row()); });
+}
+
+int RowListView::selectedRow() const
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
+}
+
+void RowListView::selectRow(int row)
+{
+    setCurrentIndex(m_model->index(row, 0));
+    scrollTo(m_model->index(row, 0));
+}
+
+QString RowListView::rowText(int row) const
+{
+    QStringList cells;
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        cells << m_model->index(row, column).data().toString();
+    return cells.join(QLatin1Char('\t'));
+}
+
+QString RowListView::selectedText() const
+{
+    return selectedRow() < 0 ? QString() : rowText(selectedRow());
+}
+
+QString RowListView::allText() const
+{
+    QStringList titles;
+    for (const ListColumn &column : columns())
+        titles << column.title;
+    QStringList lines(titles.join(QLatin1Char('\t')));
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        lines << rowText(row);
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+void RowListView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_C && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        QGuiApplication::clipboard()->setText(allText());
+        return;
+    }
+    if (event->matches(QKeySequence::Copy)) {
+        if (selectedRow() >= 0)
+            QGuiApplication::clipboard()->setText(selectedText());
+        return;
+    }
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && selectedRow() >= 0) {
+        Q_EMIT rowDoubleClicked(selectedRow());
+        return;
+    }
+    const int before = selectedRow();
+    QTreeView::keyPressEvent(event);
+    if (selectedRow() >= 0 && selectedRow() != before)
+        Q_EMIT rowClicked(selectedRow());
+}
+
+bool RowListView::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.data().toString();
+    const bool cut = index.isValid() && fontMetrics().horizontalAdvance(text) + 2 * RowListDelegate::Padding >
+                                            columnWidth(index.column());
+    if (cut)
+        QToolTip::showText(help->globalPos(), text, viewport(), visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}

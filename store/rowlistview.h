@@ -1,0 +1,45 @@
+#pragma once
+
+#include "store/rowlistmodel.h"
+
+#include <QTreeView>
+
+/// A report-view list on the screen: the rows of one RowList in columns of fixed width, one selected row.
+///
+/// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
+/// the columns to copied text and to screen readers. Ctrl+C copies the selected row, Ctrl+Shift+C the list
+/// with its titles, tab-separated. A text that does not fit shows whole on hover.
+class RowListView final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    /// @p list outlives the view; @p name is the list's name in the system.
+    RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent);
+
+    /// Zero-based; -1 without a selection.
+    int selectedRow() const;
+
+    /// Selects the row and scrolls it into view.
+    void selectRow(int row);
+
+    const QList<ListColumn> &columns() const { return m_model->columns(); }
+
+    /// The selected row, or all rows below their titles, as tab-separated lines.
+    QString selectedText() const;
+    QString allText() const;
+
+Q_SIGNALS:
+    /// A click on a row, or its choice by the keyboard. Zero-based.
+    void rowClicked(int row);
+    void rowDoubleClicked(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+
+private:
+    QString rowText(int row) const;
+
+    RowListModel *m_model;
+};
