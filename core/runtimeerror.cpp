@@ -23,6 +23,7 @@ constexpr std::array Wordings{
     Wording{ErrorNumber::PathNotFound, "Path not found"},
     Wording{ErrorNumber::ObjectNotSet, "Object variable or With block variable not set"},
     Wording{ErrorNumber::InvalidNull, "Invalid use of Null"},
+    Wording{ErrorNumber::InvalidFileFormat, "Invalid file format"},
     Wording{ErrorNumber::InvalidPicture, "Invalid picture"},
     Wording{ErrorNumber::PastEnd, "Either BOF or EOF is True, or the current record has been deleted"},
     Wording{ErrorNumber::ObjectClosed, "Operation is not allowed when the object is closed"},

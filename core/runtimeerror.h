@@ -18,6 +18,7 @@ inline constexpr int PathAccess = 75;
 inline constexpr int PathNotFound = 76;
 inline constexpr int ObjectNotSet = 91;
 inline constexpr int InvalidNull = 94;
+inline constexpr int InvalidFileFormat = 321;
 inline constexpr int InvalidPicture = 481;
 inline constexpr int PastEnd = 3021;
 inline constexpr int ObjectClosed = 3704;

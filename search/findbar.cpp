@@ -1,5 +1,6 @@
 #include "search/findbar.h"
 
+#include "core/icons.h"
 #include "store/datastore.h"
 #include "store/rowlistmodel.h"
 
@@ -19,7 +20,7 @@ FindBar::FindBar(DataStore &store, QLabel &panel3, QWidget *parent)
 void FindBar::buildControls()
 {
     Picture2 = Controls::named(new QToolButton(this), QStringLiteral("Picture2"));
-    Picture2->setIcon(QIcon(QStringLiteral(":/icons/close.svg")));
+    Picture2->setIcon(Icons::named(QStringLiteral("close")));
     Picture2->setAutoRaise(true);
     Picture2->setAccessibleName(tr("Close search engine"));
     TextBoxM6 = Controls::named(new QLineEdit(this), QStringLiteral("TextBoxM6"));
