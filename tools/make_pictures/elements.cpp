@@ -1,0 +1,280 @@
+#include "tools/make_pictures/elements.h"
+
+#include "tools/make_pictures/painting.h"
+#include "tools/make_pictures/picturefolder.h"
+#include "tools/make_pictures/table.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+namespace {
+
+struct FamilyColour
+{
+    const char *family;
+    QRgb colour;
+};
+
+constexpr std::array FamilyColours{
+    FamilyColour{"Alkali metal", 0xc0504d},     FamilyColour{"Alkaline earth metal", 0xc7792c},
+    FamilyColour{"Transition metal", 0x4f81bd}, FamilyColour{"Post-transition metal", 0x5f8f8b},
+    FamilyColour{"Metalloid", 0x7a8b3a},        FamilyColour{"Nonmetal", 0x3f9a52},
+    FamilyColour{"Halogen", 0x2f9c95},          FamilyColour{"Noble gas", 0x7d60a0},
+    FamilyColour{"Lanthanide", 0xb0568c},       FamilyColour{"Actinide", 0x8f5a6e},
+};
+
+/// One row of the table Elements and what the cards derive from it.
+struct Element
+{
+    const Table &table;
+    int row;
+    QList<int> shells;
+
+    QString operator[](const char *column) const { return table.cell(row, QString::fromLatin1(column)); }
+    int number() const { return row + 1; }
+
+    QColor colour() const
+    {
+        for (const FamilyColour &entry : FamilyColours) {
+            if ((*this)["famille"] == QLatin1String(entry.family))
+                return QColor(entry.colour);
+        }
+        table.fail(row, QStringLiteral("no colour for the family \"%1\"").arg((*this)["famille"]));
+    }
+
+    QString block() const { return QStringLiteral("%1-block").arg(QLatin1Char(blockOf(number()))); }
+};
+
+/// Puts the configuration of the noble gas for its symbol in brackets, as often as needed.
+QString writtenOut(const Table &table, int row)
+{
+    QString configuration = table.cell(row, QStringLiteral("elecconf"));
+    static const QRegularExpression core(QStringLiteral("^\\[([A-Z][a-z]?)\\]"));
+    for (int depth = 0; depth < 7; ++depth) {
+        const QRegularExpressionMatch match = core.match(configuration);
+        if (!match.hasMatch())
+            break;
+        const int gas = table.find(QStringLiteral("symb"), match.captured(1));
+        if (gas < 0 || gas >= row)
+            table.fail(row, QStringLiteral("no noble gas %1 above").arg(match.captured()));
+        configuration.replace(0, match.capturedLength(), table.cell(gas, QStringLiteral("elecconf")));
+    }
+    return configuration;
+}
+
+Element readElement(const Table &table, int row)
+{
+    const Element element{table, row, electronsInShells(writtenOut(table, row))};
+    if (element["nbato"] != QString::number(element.number()))
+        table.fail(row, QStringLiteral("atomic number %1 is out of order").arg(element["nbato"]));
+    if (std::accumulate(element.shells.begin(), element.shells.end(), 0) != element.number())
+        table.fail(row, QStringLiteral("\"%1\" does not hold %2 electrons")
+                            .arg(element["elecconf"])
+                            .arg(element.number()));
+    return element;
+}
+
+/// The electrons as dots on the circles of their shells, the symbol in the middle.
+void paintShells(QPainter &painter, const Element &element, QPointF centre, double radius, double dot)
+{
+    const double core = radius * 0.26;
+    const double step = (radius - core) / std::max(4.0, element.shells.size() + 0.2);
+    for (int shell = 0; shell < element.shells.size(); ++shell) {
+        const double r = core + step * (shell + 1);
+        painter.setPen(QPen(tint(element.colour(), 0.45), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(centre, r, r);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(element.colour().darker(130));
+        for (int i = 0; i < element.shells[shell]; ++i) {
+            const double angle = 2 * std::numbers::pi * i / element.shells[shell] - std::numbers::pi / 2;
+            painter.drawEllipse(centre + QPointF(std::cos(angle), std::sin(angle)) * r, dot, dot);
+        }
+    }
+    painter.setBrush(element.colour());
+    painter.drawEllipse(centre, core, core);
+    painter.setPen(Qt::white);
+    painter.setFont(textFont(int(core * (element["symb"].size() > 1 ? 0.95 : 1.1)), true));
+    painter.drawText(QRectF(centre - QPointF(core, core), QSizeF(2 * core, 2 * core)), Qt::AlignCenter,
+                     element["symb"]);
+}
+
+QString shellList(const Element &element)
+{
+    QStringList counts;
+    for (const int count : element.shells)
+        counts << QString::number(count);
+    return counts.join(QStringLiteral(", "));
+}
+
+QImage drawSmallCard(const Element &element)
+{
+    constexpr int Side = 160;
+    QImage picture = blankPicture(Side, Side);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(picture.rect(), tint(element.colour(), 0.13));
+    painter.fillRect(0, Side - 20, Side, 20, tint(element.colour(), 0.35));
+    paintShells(painter, element, {Side / 2.0, 70}, 66, 1.7);
+
+    painter.setPen(Ink);
+    painter.setFont(textFont(13, true));
+    painter.drawText(QRectF(6, 3, 60, 18), Qt::AlignLeft | Qt::AlignVCenter, element["nbato"]);
+    painter.drawText(QRectF(0, Side - 20, Side, 20), Qt::AlignCenter, element["atome"]);
+    painter.setFont(textFont(10));
+    painter.drawText(QRectF(Side - 60, 3, 55, 18), Qt::AlignRight | Qt::AlignVCenter,
+                     element.block().left(1));
+    return picture;
+}
+
+/// "4489 tp" as "4489 °C (triple point)"; "-" stays.
+QString temperature(const QString &cell)
+{
+    const QStringList parts = cell.split(QLatin1Char(' '));
+    if (cell == QLatin1String("-"))
+        return cell;
+    QString text = parts[0] + QStringLiteral(" °C");
+    if (parts.value(1) == QLatin1String("tp"))
+        text += QStringLiteral(" (triple point)");
+    if (parts.value(1) == QLatin1String("sp"))
+        text += QStringLiteral(" (sublimes)");
+    return text;
+}
+
+QString withUnit(const QString &cell, const QString &unit)
+{
+    return cell == QLatin1String("-") ? cell : cell + QLatin1Char(' ') + unit;
+}
+
+struct Fact
+{
+    QString caption;
+    QString value;
+};
+
+/// A minus sign before digits, a dash for what is not known.
+QString typeset(QString value)
+{
+    static const QRegularExpression negative(QStringLiteral("-(?=[0-9])"));
+    static const QRegularExpression unknown(QStringLiteral("(?<![^ ])-(?![^ ])"));
+    return value.replace(negative, QStringLiteral("−")).replace(unknown, QStringLiteral("–"));
+}
+
+/// A caption above its value.
+void paintFact(QPainter &painter, const Fact &fact, double x, double y)
+{
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(11));
+    painter.drawText(QPointF(x, y), fact.caption);
+    painter.setPen(Ink);
+    painter.setFont(textFont(14));
+    painter.drawText(QPointF(x, y + 17), typeset(fact.value));
+}
+
+void paintHeader(QPainter &painter, const Element &element, int width, int height)
+{
+    painter.fillRect(0, 0, width, height, tint(element.colour(), 0.35));
+    painter.setPen(Ink);
+    painter.setFont(textFont(46, true));
+    painter.drawText(QRectF(18, 0, 110, height), Qt::AlignLeft | Qt::AlignVCenter, element["symb"]);
+    painter.setFont(textFont(26, true));
+    painter.drawText(QPointF(126, 36), element["atome"]);
+    painter.setFont(textFont(13));
+    painter.drawText(QPointF(126, 60), QStringLiteral("Atomic number %1").arg(element["nbato"]));
+    painter.drawText(QRectF(0, 46, width - 18, 18), Qt::AlignRight,
+                     QStringLiteral("%1, %2").arg(element["famille"], element.block()));
+}
+
+QImage drawLargeCard(const Element &element)
+{
+    constexpr int Side = 480;
+    constexpr int Header = 76;
+    QImage picture = blankPicture(Side, Side);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(picture.rect(), tint(element.colour(), 0.08));
+    paintHeader(painter, element, Side, Header);
+    paintShells(painter, element, {345, 204}, 122, 2.6);
+
+    const std::array beside{
+        Fact{QStringLiteral("Relative atomic mass"), element["masseato"]},
+        Fact{QStringLiteral("Electron configuration"), {}},
+        Fact{QStringLiteral("Electrons in shells"), shellList(element)},
+        Fact{QStringLiteral("State at 25 °C"), element["etat"]},
+        Fact{QStringLiteral("Crystal structure"), element["cristallo"]},
+    };
+    double y = Header + 28;
+    for (const Fact &fact : beside) {
+        paintFact(painter, fact, 18, y);
+        y += 48;
+    }
+    painter.setPen(Ink);
+    ScriptText::configuration(element["elecconf"], 14).paint(painter, 18, Header + 28 + 48 + 17);
+    const std::array below{
+        Fact{QStringLiteral("Density"), withUnit(element["densite"], QStringLiteral("g/cm³"))},
+        Fact{QStringLiteral("Electronegativity (Pauling)"), element["electroneg"]},
+        Fact{QStringLiteral("Melting point"), temperature(element["melt"])},
+        Fact{QStringLiteral("Boiling point"), temperature(element["boilt"])},
+        Fact{QStringLiteral("First ionisation energy"), withUnit(element["ionis"], QStringLiteral("eV"))},
+        Fact{QStringLiteral("Oxidation states"), element["oxi"]},
+        Fact{QStringLiteral("Radius: covalent / metallic / van der Waals"),
+             withUnit(element["rayon"], QStringLiteral("Å"))},
+    };
+    y = 345;
+    for (int i = 0; i < int(below.size()); ++i)
+        paintFact(painter, below[i], i % 2 ? 208 : 18, y + (i / 2) * 36);
+    return picture;
+}
+
+} // namespace
+
+QList<int> electronsInShells(const QString &configuration)
+{
+    static const QRegularExpression subshell(QStringLiteral("^([1-7])[spdf]([1-9][0-9]?)$"));
+    QList<int> shells;
+    for (const QString &part : configuration.split(QLatin1Char(' '))) {
+        const QRegularExpressionMatch match = subshell.match(part);
+        if (!match.hasMatch())
+            return {};
+        const int shell = match.captured(1).toInt();
+        if (shells.size() < shell)
+            shells.resize(shell);
+        shells[shell - 1] += match.captured(2).toInt();
+    }
+    return shells;
+}
+
+char blockOf(int atomicNumber)
+{
+    for (const int gas : {0, 2, 10, 18, 36, 54, 86}) {
+        if (atomicNumber == gas + 1 || atomicNumber == gas + 2)
+            return 's';
+    }
+    for (const int gas : {10, 18, 36, 54, 86, 118}) {
+        if (atomicNumber > gas - 6 && atomicNumber <= gas)
+            return 'p';
+    }
+    return (atomicNumber >= 58 && atomicNumber <= 71) || (atomicNumber >= 90 && atomicNumber <= 103) ? 'f'
+                                                                                                     : 'd';
+}
+
+void drawElements(const QString &data, const PictureFolder &pictures)
+{
+    QStringList columns;
+    for (const char *column : {"atome", "symb", "nbato", "masseato", "elecconf", "densite", "melt", "boilt",
+                               "electroneg", "ionis", "rayon", "oxi", "etat", "famille", "cristallo"})
+        columns << QString::fromLatin1(column);
+    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"), columns);
+    if (table.rowCount() < LastCard)
+        table.fail(table.rowCount() - 1, QStringLiteral("the table ends before element %1").arg(LastCard));
+    for (int row = 0; row < LastCard; ++row) {
+        const Element element = readElement(table, row);
+        pictures.write(QStringLiteral("elements/%1.jpg").arg(element.number()), drawSmallCard(element));
+        pictures.write(QStringLiteral("elements/%1b.jpg").arg(element.number()), drawLargeCard(element));
+    }
+}

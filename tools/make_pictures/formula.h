@@ -1,0 +1,46 @@
+// Structural formulas, laid out and drawn by RDKit.
+#pragma once
+
+#include <QColor>
+#include <QPointF>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class QPainter;
+class QSvgRenderer;
+
+namespace RDKit {
+class RWMol;
+}
+
+/// One structural formula, ready to paint: black lines, no background, methyl groups written out, D for
+/// deuterium.
+class Formula
+{
+public:
+    /// The scale is fixed by the style, so that the formulas of one kind of picture can be compared. A bond
+    /// of 1.5 Å is 1.5 × pixelsPerAngstrom long.
+    struct Style
+    {
+        double pixelsPerAngstrom;
+        int fontPixels;
+        QColor mark = QColor(0xff, 0xd2, 0x66); ///< behind marked atoms
+    };
+
+    /// Nothing if @p smiles is not a structure.
+    static std::optional<Formula> fromSmiles(const QString &smiles, const Style &style);
+
+    /// Takes coordinates from RDKit; the atoms with the property "marked" get a coloured disc behind them.
+    Formula(RDKit::RWMol &molecule, const Style &style);
+
+    /// Pixels, with the margin that the labels need.
+    QSizeF size() const;
+
+    void paint(QPainter &painter, QPointF topLeft) const;
+
+private:
+    std::shared_ptr<QSvgRenderer> m_drawing;
+};

@@ -1,0 +1,95 @@
+#include "tools/make_pictures/painting.h"
+
+#include "tools/make_pictures/table.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+
+namespace {
+
+constexpr char Typeface[] = "DejaVu Sans";
+
+} // namespace
+
+void requireTypeface()
+{
+    if (!QFontDatabase::families().contains(QLatin1String(Typeface)))
+        throw PictureError(QStringLiteral("the typeface %1 is not installed").arg(QLatin1String(Typeface)));
+}
+
+QFont textFont(int pixels, bool bold)
+{
+    QFont font{QString::fromLatin1(Typeface)};
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
+}
+
+QImage blankPicture(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    return picture;
+}
+
+QColor tint(const QColor &colour, double share)
+{
+    const auto mix = [share](int channel) { return int(255 - share * (255 - channel) + 0.5); };
+    return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
+}
+
+QImage inGreys(const QImage &picture)
+{
+    return picture.convertToFormat(QImage::Format_Grayscale8);
+}
+
+QStringList wrapped(const QString &text, const QFont &font, int width)
+{
+    const QFontMetricsF metrics(font);
+    QStringList lines(QString{});
+    for (const QString &word : text.split(QLatin1Char(' '))) {
+        const QString longer = lines.last().isEmpty() ? word : lines.last() + QLatin1Char(' ') + word;
+        if (lines.last().isEmpty() || metrics.horizontalAdvance(longer) <= width)
+            lines.last() = longer;
+        else
+            lines << word;
+    }
+    return lines;
+}
+
+ScriptText ScriptText::formula(const QString &text, int pixels, bool bold)
+{
+    return {text, textFont(pixels, bold), pixels * 0.2,
+            [](QChar before) { return before.isLetter() || before == QLatin1Char(')'); }};
+}
+
+ScriptText ScriptText::configuration(const QString &text, int pixels)
+{
+    return {text, textFont(pixels), pixels * -0.35, [](QChar before) { return before.isLetter(); }};
+}
+
+ScriptText::ScriptText(const QString &text, const QFont &font, double shift, IsScript isScript)
+    : m_font(font), m_small(font), m_shift(shift)
+{
+    m_small.setPixelSize(font.pixelSize() * 7 / 10);
+    for (int i = 0; i < text.size(); ++i) {
+        const bool continues = i > 0 && text[i - 1].isDigit() && m_runs.last().script;
+        const bool script = i > 0 && text[i].isDigit() && (continues || isScript(text[i - 1]));
+        if (m_runs.isEmpty() || m_runs.last().script != script)
+            m_runs << Run{{}, script};
+        m_runs.last().text += text[i];
+    }
+    for (const Run &run : m_runs)
+        m_width += QFontMetricsF(run.script ? m_small : m_font).horizontalAdvance(run.text);
+}
+
+void ScriptText::paint(QPainter &painter, double x, double baseline) const
+{
+    for (const Run &run : m_runs) {
+        const QFont &font = run.script ? m_small : m_font;
+        painter.setFont(font);
+        painter.drawText(QPointF(x, baseline + (run.script ? m_shift : 0)), run.text);
+        x += QFontMetricsF(font).horizontalAdvance(run.text);
+    }
+}

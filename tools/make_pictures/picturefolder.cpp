@@ -1,0 +1,106 @@
+#include "tools/make_pictures/picturefolder.h"
+
+#include "tools/make_pictures/table.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QImageWriter>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <gif_lib.h>
+#include <memory>
+
+namespace {
+
+constexpr int GifColours = 256;
+constexpr int JpegQuality = 92;
+
+int appendToBytes(GifFileType *file, const GifByteType *bytes, int count)
+{
+    static_cast<QByteArray *>(file->UserData)->append(reinterpret_cast<const char *>(bytes), count);
+    return count;
+}
+
+/// The colours of the picture, the most frequent first, ties by value: the order must not depend on hashing.
+QList<QRgb> coloursByFrequency(const QImage &picture)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x)
+            ++counts[line[x] | 0xff000000];
+    }
+    QList<QRgb> colours = counts.keys();
+    std::sort(colours.begin(), colours.end(),
+              [&](QRgb a, QRgb b) { return counts[a] != counts[b] ? counts[a] > counts[b] : a < b; });
+    return colours;
+}
+
+QByteArray encodeByQt(const QImage &picture, const QByteArray &format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(JpegQuality);
+    if (!writer.write(picture))
+        throw PictureError(writer.errorString());
+    return bytes;
+}
+
+} // namespace
+
+QByteArray encodeGif(const QImage &picture)
+{
+    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
+    QList<QRgb> colours = coloursByFrequency(image);
+    colours.resize(std::min<qsizetype>(colours.size(), GifColours));
+    const QImage indexed =
+        image.convertToFormat(QImage::Format_Indexed8, colours, Qt::ThresholdDither | Qt::AvoidDither);
+
+    // giflib takes palettes of a power of two only.
+    int size = 2;
+    while (size < colours.size())
+        size *= 2;
+    const std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)> palette(
+        GifMakeMapObject(size, nullptr), GifFreeMapObject);
+    for (int i = 0; i < colours.size(); ++i)
+        palette->Colors[i] = {GifByteType(qRed(colours[i])), GifByteType(qGreen(colours[i])),
+                              GifByteType(qBlue(colours[i]))};
+
+    QByteArray bytes;
+    int error = 0;
+    GifFileType *file = EGifOpen(&bytes, appendToBytes, &error);
+    if (!file)
+        throw PictureError(QString::fromLatin1(GifErrorString(error)));
+    const int width = indexed.width();
+    bool ok = EGifPutScreenDesc(file, width, indexed.height(), 8, 0, palette.get()) == GIF_OK &&
+              EGifPutImageDesc(file, 0, 0, width, indexed.height(), false, nullptr) == GIF_OK;
+    for (int y = 0; ok && y < indexed.height(); ++y)
+        ok = EGifPutLine(file, const_cast<GifPixelType *>(indexed.constScanLine(y)), width) == GIF_OK;
+    const bool closed = EGifCloseFile(file, &error) == GIF_OK;
+    if (!ok || !closed)
+        throw PictureError(QStringLiteral("the picture cannot be written as GIF"));
+    return bytes;
+}
+
+void PictureFolder::write(const QString &name, const QImage &picture) const
+{
+    const QString path = m_root + QLatin1Char('/') + name;
+    const QByteArray format = QFileInfo(name).suffix().toLatin1();
+    const QByteArray bytes = format == "gif" ? encodeGif(picture) : encodeByQt(picture, format);
+
+    QFile present(path);
+    if (present.size() == bytes.size() && present.open(QIODevice::ReadOnly) && present.readAll() == bytes) {
+        ++m_unchanged;
+        return;
+    }
+    QDir().mkpath(QFileInfo(path).path());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw PictureError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    ++m_written;
+}

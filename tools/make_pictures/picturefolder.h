@@ -1,0 +1,28 @@
+// Where the pictures go: encodes them and writes only what has changed.
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+/// The folder "Data" of a program folder. Equal pictures give equal bytes, and a file that already holds them
+/// is left alone, so that its date tells when its picture last changed.
+class PictureFolder
+{
+public:
+    explicit PictureFolder(const QString &root) : m_root(root) {}
+
+    /// Writes @p picture to @p name below the folder, in the format of its suffix: jpg, png, bmp or gif.
+    /// Folders are made as needed. Throws PictureError if that fails.
+    void write(const QString &name, const QImage &picture) const;
+
+    int written() const { return m_written; }
+    int unchanged() const { return m_unchanged; }
+
+private:
+    const QString m_root;
+    mutable int m_written = 0;
+    mutable int m_unchanged = 0;
+};
+
+/// The picture as a GIF file: at most 256 colours, the most frequent ones, without dithering.
+QByteArray encodeGif(const QImage &picture);
