@@ -1,0 +1,72 @@
+#include "core/picturewindow.h"
+
+#include "core/controls.h"
+#include "core/windowunits.h"
+
+#include <QPushButton>
+
+namespace {
+
+constexpr double BelowSheet = 119; ///< twips that the picture is not centred over
+constexpr int Margin = 8;
+constexpr int LabelHeight = 28;
+
+QFrame *whiteSheet(QWidget *parent)
+{
+    auto *sheet = new QFrame(parent);
+    sheet->setFrameShape(QFrame::StyledPanel);
+    sheet->setAutoFillBackground(true);
+    // Formulas are black on white on a dark desktop too, and so is what is written beside them.
+    QPalette palette = sheet->palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    sheet->setPalette(palette);
+    return sheet;
+}
+
+} // namespace
+
+PictureWindow::PictureWindow(const Design &design, QWidget &owner)
+    : SideWindow(design.name, owner), m_besideSheet(design.besideSheet)
+{
+    setWindowTitle(QLatin1StringView(design.caption));
+    setFixedSize(design.size);
+    const int right = WindowUnits::pixels(m_besideSheet);
+    const QRect sheetArea(Margin, Margin, width() - right - 2 * Margin,
+                          height() - WindowUnits::pixels(BelowSheet) - 2 * Margin);
+    QFrame *sheet = whiteSheet(this);
+    sheet->setGeometry(sheetArea);
+
+    Label1 = Controls::heading(QStringLiteral("Label1"), {}, sheet);
+    Label1->setAlignment(Qt::AlignCenter);
+    Label1->setGeometry(0, 2, sheetArea.width(), LabelHeight);
+    Label2 = Controls::label(QStringLiteral("Label2"), {}, sheet);
+    Label2->setAlignment(Qt::AlignCenter);
+    Label2->setGeometry(0, LabelHeight, sheetArea.width(), sheetArea.height() - 2 * LabelHeight);
+    Label2->hide();
+    Picture1 = new PictureBox(QStringLiteral("Picture1"), this);
+
+    auto *cmdOK = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdOK->setGeometry(sheetArea.right() + 1 + Margin / 2, sheetArea.bottom() - 29,
+                       right + Margin - Margin / 2, 30);
+    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void PictureWindow::setPicture(const QImage &picture)
+{
+    const QSize room(width() - WindowUnits::pixels(m_besideSheet) - 4 * Margin,
+                     height() - WindowUnits::pixels(BelowSheet) - 2 * (Margin + LabelHeight + 2));
+    QSize shown = picture.size();
+    if (shown.width() > room.width() || shown.height() > room.height())
+        shown.scale(room, Qt::KeepAspectRatio);
+    Picture1->setPicture(picture);
+    Picture1->setAccessibleName(Label1->text());
+    Picture1->resize(shown);
+    Picture1->move(WindowUnits::pixels((width() * WindowUnits::TwipsPerPixel - m_besideSheet -
+                                        shown.width() * WindowUnits::TwipsPerPixel) /
+                                       2),
+                   WindowUnits::pixels((height() * WindowUnits::TwipsPerPixel - BelowSheet -
+                                        shown.height() * WindowUnits::TwipsPerPixel) /
+                                       2));
+}

@@ -1,0 +1,34 @@
+#include "core/structurewindow.h"
+
+#include "core/module1.h"
+#include "core/picturefile.h"
+#include "core/picturewindow.h"
+#include "core/runtimeerror.h"
+
+#include <memory>
+
+namespace {
+
+constexpr PictureWindow::Design Form2{"Form2", "Chimical structure", {640, 420}, 750};
+
+} // namespace
+
+void openStructureWindow(Module1 &module1, QWidget &form1, int row, const QString &text)
+{
+    module1.SelectedChart = row;
+    auto window = std::make_unique<PictureWindow>(Form2, form1);
+    window->Label1->setText(text);
+    try {
+        window->setPicture(
+            PictureFile::load(QStringLiteral("%1/Data/chemicals/%2.bmp").arg(module1.AppFolder).arg(row)));
+    } catch (const RuntimeError &error) {
+        // Many rows have no formula, which the window says. A picture that is there and cannot be shown is
+        // not worth an interruption: the double click then does nothing.
+        if (error.number() != ErrorNumber::FileNotFound)
+            return;
+        window->Label2->setText(QStringLiteral("Image unavailable"));
+        window->Label2->show();
+        window->Picture1->hide();
+    }
+    window.release()->showAboveOwner();
+}
