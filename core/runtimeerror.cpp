@@ -27,6 +27,7 @@ constexpr std::array Wordings{
     Wording{ErrorNumber::InvalidPicture, "Invalid picture"},
     Wording{ErrorNumber::PastEnd, "Either BOF or EOF is True, or the current record has been deleted"},
     Wording{ErrorNumber::ObjectClosed, "Operation is not allowed when the object is closed"},
+    Wording{ErrorNumber::ObjectOpen, "Operation is not allowed when the object is open"},
     Wording{ErrorNumber::DialogCancelled, "Cancel was selected"},
     Wording{ErrorNumber::TableNotFound, "The table does not exist"},
     Wording{ErrorNumber::ColumnNotFound, "A column of the statement does not exist"},

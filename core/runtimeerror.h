@@ -22,6 +22,7 @@ inline constexpr int InvalidFileFormat = 321;
 inline constexpr int InvalidPicture = 481;
 inline constexpr int PastEnd = 3021;
 inline constexpr int ObjectClosed = 3704;
+inline constexpr int ObjectOpen = 3705;
 inline constexpr int DialogCancelled = 32755;
 inline constexpr int TableNotFound = static_cast<int>(0x80040E37);
 inline constexpr int ColumnNotFound = static_cast<int>(0x80040E10);
