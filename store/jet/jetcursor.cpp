@@ -1,0 +1,49 @@
+#include "store/jet/jetcursor.h"
+
+JetCursor::JetCursor(std::shared_ptr<const JetPages> pages, JetDefinition definition)
+    : m_pages(std::move(pages)), m_definition(std::move(definition)), m_texts(*m_pages),
+      m_dataPages(m_pages->usageMap(m_definition.ownedPages))
+{}
+
+bool JetCursor::next()
+{
+    m_row.reset();
+    for (;;) {
+        while (m_nextSlot == m_slots.size()) {
+            if (m_nextPage == m_dataPages.size()) {
+                if (m_rows != m_definition.rowCount)
+                    jetDamage("a table has fewer rows than it announces");
+                return false;
+            }
+            m_slots = m_pages->slotsOf(m_dataPages[m_nextPage++], m_definition.page);
+            m_nextSlot = 0;
+        }
+        const JetSlot &slot = m_slots[m_nextSlot++];
+        if (slot.isDeleted)
+            continue;
+        if (m_rows++ == m_definition.rowCount)
+            jetDamage("a table has more rows than it announces");
+        m_row.emplace(slot.isPointer ? movedRow(slot.bytes.u32(0)) : slot.bytes, m_definition);
+        return true;
+    }
+}
+
+// The slot where a moved row lies is flagged as deleted, so that it comes only once. It never moves on: its
+// first slot is pointed anew.
+JetBytes JetCursor::movedRow(JetRowPointer pointer)
+{
+    if (m_moved.contains(pointer))
+        jetDamage("two rows of a table are the same");
+    m_moved.insert(pointer);
+    return m_pages->row(pointer, m_definition.page, true);
+}
+
+std::optional<QString> JetCursor::text(const JetColumn &column)
+{
+    if (column.type == Jet::Type::Boolean)
+        return JetTexts::fromBoolean(m_row->bit(column));
+    const std::optional<JetBytes> cell = m_row->cell(column);
+    if (!cell)
+        return std::nullopt;
+    return m_texts.text(column, *cell);
+}

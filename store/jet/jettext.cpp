@@ -1,0 +1,198 @@
+#include "store/jet/jettext.h"
+
+#include "core/numbers.h"
+#include "core/runtimeerror.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QTime>
+#include <QUuid>
+#include <array>
+#include <cmath>
+
+using namespace Jet;
+
+namespace {
+
+QString plainText(JetBytes bytes)
+{
+    if (bytes.size() % 2 != 0)
+        jetDamage("a text has half a character");
+    QString text(bytes.size() / 2, Qt::Uninitialized);
+    for (qsizetype i = 0; i < text.size(); ++i)
+        text[i] = QChar(bytes.u16(2 * i));
+    return text;
+}
+
+// Behind the mark FF FE, one byte is one character; a zero byte switches to two bytes for each character and
+// the next one back.
+QString packedText(JetBytes bytes)
+{
+    QString text;
+    text.reserve(bytes.size());
+    bool wide = false;
+    for (qsizetype at = 2; at < bytes.size(); ++at) {
+        if (bytes.u8(at) == 0)
+            wide = !wide;
+        else if (wide)
+            text += QChar(bytes.u16(at++));
+        else
+            text += QChar(bytes.u8(at));
+    }
+    return text;
+}
+
+QString anyText(const JetColumn &column, JetBytes bytes)
+{
+    if (column.mayBePacked && bytes.view().startsWith("\xFF\xFE"))
+        return packedText(bytes);
+    return plainText(bytes);
+}
+
+QString withPoint(QString digits, int scale, bool negative)
+{
+    if (scale > 0) {
+        digits = digits.rightJustified(scale + 1, QLatin1Char('0'));
+        while (scale > 0 && digits.endsWith(QLatin1Char('0'))) {
+            digits.chop(1);
+            --scale;
+        }
+        if (scale > 0)
+            digits.insert(digits.size() - scale, Numbers::decimalPoint());
+    }
+    return negative && digits != QLatin1StringView("0") ? QLatin1Char('-') + digits : digits;
+}
+
+QString currencyText(qint64 tenThousandths)
+{
+    const bool negative = tenThousandths < 0;
+    const quint64 amount = negative ? 0 - quint64(tenThousandths) : quint64(tenThousandths);
+    return withPoint(QString::number(amount), 4, negative);
+}
+
+// A sign byte and 128 bits, in words of 32 of which the highest comes first.
+QString decimalText(JetBytes bytes, int scale)
+{
+    std::array<quint32, 4> words;
+    for (size_t i = 0; i < words.size(); ++i)
+        words[i] = bytes.u32(1 + 4 * qsizetype(i));
+    QString digits;
+    while (words != std::array<quint32, 4>{}) {
+        quint64 rest = 0;
+        for (quint32 &word : words) {
+            const quint64 part = rest << 32 | word;
+            word = quint32(part / 10);
+            rest = part % 10;
+        }
+        digits.prepend(QChar(u'0' + char16_t(rest)));
+    }
+    if (digits.isEmpty())
+        digits = QStringLiteral("0");
+    return withPoint(digits, scale, (bytes.u8(0) & 0x80) != 0);
+}
+
+QString numberText(double number)
+{
+    if (!std::isfinite(number))
+        jetDamage("a number is not finite");
+    return Numbers::write(number);
+}
+
+QString singleText(float number)
+{
+    if (!std::isfinite(number))
+        jetDamage("a number is not finite");
+    return Numbers::write(QByteArray::number(double(number), 'g', 7).toDouble());
+}
+
+// The time alone on day 0, the date alone at midnight, else both. The time of day counts away from zero also
+// before day 0: -1.25 is the 29th of December 1899, 6 o'clock.
+QString dateText(double days)
+{
+    constexpr double FirstDay = -657434; // year 100
+    constexpr double LastDay = 2958466;  // behind the year 9999
+    if (!(days >= FirstDay && days < LastDay))
+        jetDamage("a date is out of range");
+    const double day = std::trunc(days);
+    const int seconds = int(std::lround(std::abs(days - day) * 86400));
+    const QLocale locale = QLocale::system();
+    const QString date =
+        locale.toString(QDate(1899, 12, 30).addDays(qint64(day) + seconds / 86400), QLocale::ShortFormat);
+    const QString time = locale.toString(QTime(0, 0).addSecs(seconds % 86400), QStringLiteral("HH:mm:ss"));
+    if (day == 0)
+        return time;
+    return seconds % 86400 == 0 ? date : date + QLatin1Char(' ') + time;
+}
+
+} // namespace
+
+JetTexts::JetTexts(const JetPages &pages) : m_pages(pages), m_longBytesLeft(pages.size())
+{}
+
+QString JetTexts::fromBoolean(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+QString JetTexts::text(const JetColumn &column, JetBytes cell)
+{
+    switch (column.type) {
+    case Type::Byte:
+        return QString::number(cell.u8(0));
+    case Type::Int16:
+        return QString::number(cell.number<qint16>(0));
+    case Type::Int32:
+        return QString::number(cell.number<qint32>(0));
+    case Type::Currency:
+        return currencyText(cell.number<qint64>(0));
+    case Type::Single:
+        return singleText(cell.number<float>(0));
+    case Type::Double:
+        return numberText(cell.number<double>(0));
+    case Type::Date:
+        return dateText(cell.number<double>(0));
+    case Type::Text:
+        return anyText(column, cell);
+    case Type::Memo:
+        return anyText(column, JetBytes(longValue(cell)));
+    case Type::Guid:
+        return QUuid(cell.u32(0), cell.u16(4), cell.u16(6), cell.u8(8), cell.u8(9), cell.u8(10), cell.u8(11),
+                     cell.u8(12), cell.u8(13), cell.u8(14), cell.u8(15))
+            .toString()
+            .toUpper();
+    case Type::Decimal:
+        return decimalText(cell, column.scale);
+    default:
+        throw RuntimeError(ErrorNumber::TypeMismatch, column.name);
+    }
+}
+
+// A long value stands in the row itself, in one row elsewhere, or in a chain of rows.
+QByteArray JetTexts::longValue(JetBytes cell)
+{
+    constexpr quint32 InRow = 0x80000000;
+    constexpr quint32 InOneRow = 0x40000000;
+    constexpr qsizetype HeaderSize = 12;
+    const quint32 flags = cell.u32(0);
+    const qsizetype size = flags & 0x3FFFFFFF;
+    JetRowPointer next = cell.u32(4);
+    if ((flags & InRow) != 0)
+        return cell.mid(HeaderSize, size).view().toByteArray();
+
+    if (size > m_longBytesLeft)
+        jetDamage("a long text is longer than what the file holds");
+    m_longBytesLeft -= size;
+    if ((flags & InOneRow) != 0)
+        return m_pages.row(next, LongValueOwner).mid(0, size).view().toByteArray();
+    QByteArray value;
+    while (value.size() < size) {
+        const JetBytes piece = m_pages.row(next, LongValueOwner);
+        next = piece.u32(0);
+        if (piece.size() == 4)
+            jetDamage("a long text does not go on");
+        value += piece.from(4).view();
+    }
+    if (value.size() != size || next != 0)
+        jetDamage("a long text has another length than it announces");
+    return value;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "store/jet/jetdefinition.h"
+
+#include <QString>
+
+/// Cells of a Jet 4 file as texts.
+///
+/// What was stored as text comes as it stands. Other types become what the platform makes of them: numbers in
+/// the user's locale without group separators (a Single with 7 significant digits, a Double with 15), "True"
+/// or "False", dates in the short form of the locale. RuntimeError TypeMismatch for a type that has no text
+/// (Binary, Ole and unknown ones), DatabaseFailure on damage.
+class JetTexts final
+{
+public:
+    explicit JetTexts(const JetPages &pages);
+
+    /// @p cell is not Null. Not for Boolean, which has no bytes.
+    QString text(const JetColumn &column, JetBytes cell);
+
+    static QString fromBoolean(bool value);
+
+private:
+    QByteArray longValue(JetBytes cell);
+
+    const JetPages &m_pages;
+    qsizetype m_longBytesLeft; ///< a file holds every long value once; to read more than it holds is a circle
+};
