@@ -1,0 +1,49 @@
+#include "store/recordset.h"
+
+#include "core/runtimeerror.h"
+#include "store/selectstatement.h"
+
+Recordset::Recordset(const QString &statement, const DatabaseConnection &connection)
+{
+    const JetFile &file = connection.file();
+    const std::optional<SelectStatement> select = SelectStatement::parse(statement);
+    if (!select)
+        throw RuntimeError(ErrorNumber::DatabaseFailure, statement);
+    const JetDefinition table = file.table(select->table);
+    for (const QString &name : select->columns) {
+        const JetColumn *column = table.find(name);
+        if (column == nullptr)
+            throw RuntimeError(ErrorNumber::ColumnNotFound, select->table + QLatin1Char('.') + name);
+        m_columns.append(*column);
+    }
+    m_cursor.emplace(file.rows(table));
+    fetch();
+}
+
+void Recordset::fetch()
+{
+    m_fields.clear();
+    m_atEnd = true;
+    if (!m_cursor->next())
+        return;
+    for (const JetColumn &column : std::as_const(m_columns))
+        m_fields.append(m_cursor->text(column));
+    m_atEnd = false;
+}
+
+QString Recordset::field(int index) const
+{
+    if (m_atEnd)
+        throw RuntimeError(ErrorNumber::PastEnd);
+    Q_ASSERT(index >= 0 && index < m_fields.size());
+    if (!m_fields[index])
+        throw RuntimeError(ErrorNumber::InvalidNull, m_columns[index].name);
+    return *m_fields[index];
+}
+
+void Recordset::moveNext()
+{
+    if (m_atEnd)
+        throw RuntimeError(ErrorNumber::PastEnd);
+    fetch();
+}
