@@ -1,0 +1,71 @@
+// Makes the database that the program ships from the reviewable table files:
+//   make_database <folder of the table files> <database>
+// A table file is called "<table>.tsv" and holds the columns of the schema and, last, `source`. With anything
+// wrong, nothing is written, "<file>:<line>: <message>" goes to standard error, and the status is 1.
+
+#include "store/databasepassword.h"
+#include "store/tablecatalog.h"
+#include "tools/make_database/builderror.h"
+#include "tools/make_database/databasefile.h"
+#include "tools/make_database/tablefile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace {
+
+// Reports are 8-bit texts of Windows-1252; chart names are the only texts of the database that none prints.
+bool isNeverPrinted(const QString &table)
+{
+    return table == QLatin1StringView("RMN1Hspectro") || table == QLatin1StringView("RMN13Cspectro");
+}
+
+QList<TableData> readTables(const QDir &folder)
+{
+    QList<TableData> tables;
+    QStringList files;
+    for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step) {
+        TableRules rules;
+        rules.name = TableCatalog::table(step);
+        rules.columns = TableCatalog::columns(step) + QStringList{QStringLiteral("source")};
+        rules.rows = TableCatalog::rowCount(step).value_or(0);
+        rules.anyCharacters = isNeverPrinted(rules.name);
+        files.append(rules.name + QStringLiteral(".tsv"));
+        tables.append(TableFile::read(folder.filePath(files.last()), rules));
+    }
+    // A misspelt file name must not pass as a table that nobody missed.
+    for (const QString &file : folder.entryList(QDir::Files)) {
+        if (!files.contains(file))
+            throw BuildError(folder.filePath(file), 1, QStringLiteral("no table of the program"));
+    }
+    return tables;
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw BuildError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    QTextStream errors(stderr);
+    if (arguments.size() != 3) {
+        errors << "usage: make_database <folder of the table files> <database>\n";
+        return 2;
+    }
+    try {
+        write(arguments[2], DatabaseFile::make(readTables(QDir(arguments[1])), DatabasePassword));
+    } catch (const BuildError &error) {
+        errors << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

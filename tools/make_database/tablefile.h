@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the database is to hold of one table.
+struct TableData
+{
+    QString name;
+    QString file; ///< for messages
+    QStringList columns;
+    QList<QStringList> rows; ///< each as long as the columns; row i stands in line i + 2 of the file
+};
+
+/// What a table file must hold.
+struct TableRules
+{
+    QString name;
+    QStringList columns;         ///< in this order
+    int rows = 0;                ///< 0: any number
+    bool anyCharacters = false;  ///< else those of Windows-1252, because reports print the table
+    qsizetype longestCell = 255; ///< in characters
+};
+
+namespace TableFile {
+
+/// Reads a file of tab-separated UTF-8, line feed at the end of each line, header row of column names, no
+/// quoting. Throws BuildError at the first thing that breaks the rules.
+TableData read(const QString &path, const TableRules &rules);
+
+} // namespace TableFile
