@@ -35,6 +35,13 @@ int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &ce
     return qMax(cell.left(), qMin(left, cell.right() - width));
 }
 
+// Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one.
+QString wrappable(QString text)
+{
+    constexpr QChar WordJoiner(u'\u2060');
+    return text.replace(QLatin1Char('-'), QLatin1Char('-') + QString(WordJoiner));
+}
+
 } // namespace
 
 RowListDelegate::RowListDelegate(const RowList &list, const QList<ListColumn> &columns, QObject *parent)
@@ -54,10 +61,17 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
     QRect cell = item.rect.adjusted(Padding, 0, -Padding, 0);
-    if (m_columns[index.column()].kind == ListColumn::Kind::Number)
+    const ListColumn &column = m_columns[index.column()];
+    if (column.kind != ListColumn::Kind::Text)
+        cell.setWidth(column.width - 2 * Padding); // the last column may be drawn wider than it was made
+    if (column.kind == ListColumn::Kind::Number)
         cell.setLeft(numberLeft(item.fontMetrics, text, cell));
-    painter->drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine,
-                      item.fontMetrics.elidedText(text, Qt::ElideRight, cell.width() + 1));
+    if (column.kind == ListColumn::Kind::Wrapped) {
+        painter->drawText(cell, Qt::AlignVCenter | Qt::TextWordWrap, wrappable(text));
+    } else {
+        painter->drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine,
+                          item.fontMetrics.elidedText(text, Qt::ElideRight, cell.width() + 1));
+    }
     if (m_list.gridLines()) {
         painter->setPen(item.palette.color(QPalette::Midlight));
         painter->drawLine(item.rect.bottomLeft(), item.rect.bottomRight());
@@ -66,7 +80,13 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->restore();
 }
 
-QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return {0, option.fontMetrics.height() + 7};
+    constexpr int Leading = 7; // between two rows
+    const ListColumn &column = m_columns[index.column()];
+    if (column.kind != ListColumn::Kind::Wrapped)
+        return {0, option.fontMetrics.height() + Leading};
+    const QRect room(0, 0, column.width - 2 * Padding, 1);
+    const QString text = wrappable(index.data().toString());
+    return {0, option.fontMetrics.boundingRect(room, Qt::TextWordWrap, text).height() + Leading};
 }

@@ -8,8 +8,9 @@ class RowList;
 /// A column of a list on the screen.
 struct ListColumn
 {
-    /// Numbers stand with their decimal points in one line; what is no number is centred.
-    enum class Kind { Text, Number };
+    /// Numbers stand with their decimal points in one line; what is no number is centred. A wrapped text
+    /// takes as many lines as it needs, and the row grows with it.
+    enum class Kind { Text, Number, Wrapped };
 
     QString title;
     int width; ///< logical pixels

@@ -9,6 +9,21 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QToolTip>
+#include <algorithm>
+
+namespace {
+
+bool isWrapped(const ListColumn &column)
+{
+    return column.kind == ListColumn::Kind::Wrapped;
+}
+
+bool anyWrapped(const QList<ListColumn> &columns)
+{
+    return std::any_of(columns.begin(), columns.end(), isWrapped);
+}
+
+} // namespace
 
 RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent)
     : QTreeView(parent), m_model(new RowListModel(list, std::move(columns), this))
@@ -18,12 +33,13 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     setItemDelegate(new RowListDelegate(list, m_model->columns(), this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
-    setUniformRowHeights(true);
+    setUniformRowHeights(!anyWrapped(m_model->columns()));
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the titles above would not move along
     setHeaderHidden(true);
     header()->setMinimumSectionSize(8);
     header()->setStretchLastSection(true);
@@ -103,8 +119,9 @@ bool RowListView::viewportEvent(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
     const QString text = index.data().toString();
-    const bool cut = index.isValid() && fontMetrics().horizontalAdvance(text) + 2 * RowListDelegate::Padding >
-                                            columnWidth(index.column());
+    const bool cut =
+        index.isValid() && !isWrapped(columns()[index.column()]) &&
+        fontMetrics().horizontalAdvance(text) + 2 * RowListDelegate::Padding > columnWidth(index.column());
     if (cut)
         QToolTip::showText(help->globalPos(), text, viewport(), visualRect(index));
     else

@@ -3,10 +3,13 @@
 #include "store/rowlistdelegate.h"
 #include "store/rowlistview.h"
 
+#include <numeric>
+
 TitleFrame::TitleFrame(const QString &name, QWidget *parent) : QFrame(parent)
 {
     setObjectName(name);
     setFrameShape(NoFrame);
+    setAutoFillBackground(true); // frames lie one over another
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);
@@ -19,20 +22,25 @@ void TitleFrame::addTitles(const RowListView &list, ControlArray<QLabel> &labels
         addTitle(list, column, labels, indices[column]);
 }
 
-void TitleFrame::addTitle(const RowListView &list, int column, ControlArray<QLabel> &labels, int index)
+void TitleFrame::addTitle(const RowListView &list, int column, ControlArray<QLabel> &labels, int index,
+                          int span)
 {
-    const ListColumn &titled = list.columns()[column];
-    int left = list.frameWidth();
-    for (int before = 0; before < column; ++before)
-        left += list.columns()[before].width;
+    const QList<ListColumn> &columns = list.columns();
+    const auto widthOf = [&columns](int first, int count) {
+        return std::accumulate(columns.begin() + first, columns.begin() + first + count, 0,
+                               [](int sum, const ListColumn &each) { return sum + each.width; });
+    };
+    const int left = list.frameWidth() + widthOf(0, column);
+    const ListColumn &titled = columns[column];
+    const bool centred = titled.kind == ListColumn::Kind::Number && span == 1;
+    const bool last = column + span == columns.size();
+    const int width = last && !centred ? list.width() - left : widthOf(column, span);
 
-    const bool last = column + 1 == list.columns().size();
-    const int width = last ? qMax(titled.width, list.width() - left) : titled.width;
     auto *label = new QLabel(titled.title, this);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    label->setGeometry(left + RowListDelegate::Padding, 0, width - 2 * RowListDelegate::Padding, Height);
-    const bool number = titled.kind == ListColumn::Kind::Number;
-    label->setAlignment((number ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignBottom);
+    const int padding = centred ? 1 : RowListDelegate::Padding;
+    label->setGeometry(left + padding, 0, width - 2 * padding, Height);
+    label->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignBottom);
     labels.add(index, label);
 }

@@ -25,6 +25,6 @@ public:
     /// The frame takes the list's width and lies right above it.
     void addTitles(const RowListView &list, ControlArray<QLabel> &labels, const QList<int> &indices);
 
-    /// One more label, over column @p column of @p list.
-    void addTitle(const RowListView &list, int column, ControlArray<QLabel> &labels, int index);
+    /// One more label, over column @p column of @p list and, as @p span tells, over those that follow it.
+    void addTitle(const RowListView &list, int column, ControlArray<QLabel> &labels, int index, int span = 1);
 };
