@@ -1,0 +1,90 @@
+#include "browsers/polarityladder.h"
+
+#include <QGridLayout>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+struct Rung
+{
+    QString group;
+    QString example;
+};
+
+// From non polar to polar.
+const QList<Rung> &rungs()
+{
+    static const QList<Rung> table{
+        {"Alkanes", "Petroleum ether, Hexane"},
+        {"Aromatics", "Toluene, benzene"},
+        {"Ethers", "Diethyl ether"},
+        {"Alkyl halides", "Tetrachloromethane, chloroform"},
+        {"Esters", "Ethyl acetate"},
+        {"Aldehydes and cétones", "Acetone, methylethyl ketone"},
+        {"Amines", "Pyridine, triethylamine"},
+        {"Alcohols", "Methanol, ethanol, 2-propanol, butanol"},
+        {"Amides", "Dimethylformamide"},
+        {"Carboxylic acids", "Ethanoic acid"},
+    };
+    return table;
+}
+
+constexpr int FirstGroup = 3; // Label10(3) to Label10(12), the examples follow
+constexpr int FirstExample = 13;
+constexpr int ArrowWidth = 12;
+
+} // namespace
+
+PolarityLadder::PolarityLadder(QWidget *parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("framepola"));
+    setFrameShape(StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+
+    auto *grid = new QGridLayout(this);
+    grid->setHorizontalSpacing(10);
+    grid->setColumnMinimumWidth(0, ArrowWidth);
+    grid->setColumnStretch(2, 1);
+    const auto place = [&](int index, const QString &text, int row, int column, bool heading = false) {
+        QLabel *label = heading ? Controls::heading({}, text, this) : Controls::label({}, text, this);
+        label->setWordWrap(column == 2);
+        Label10.add(index, label);
+        grid->addWidget(label, row, column, 1, column == 0 ? 3 : 1);
+    };
+    int row = 0;
+    place(2, QStringLiteral("Relative polarities"), row++, 0, true);
+    place(27, QStringLiteral("Group"), row, 1, true);
+    place(26, QStringLiteral("Example"), row++, 2, true);
+    place(0, QStringLiteral("Non polar"), row++, 0);
+    for (int rung = 0; rung < rungs().size(); ++rung, ++row) {
+        place(FirstGroup + rung, rungs()[rung].group, row, 1);
+        place(FirstExample + rung, rungs()[rung].example, row, 2);
+    }
+    Label13 = Controls::label(QStringLiteral("Label13"), QStringLiteral("Water"), this);
+    grid->addWidget(Label13, row, 1);
+    place(24, QStringLiteral("Water"), row++, 2);
+    place(1, QStringLiteral("Polar"), row++, 0);
+}
+
+void PolarityLadder::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    const int left = Label10[0].x();
+    const QRectF room(QPointF(left, Label10[FirstGroup].y()),
+                      QPointF(left + ArrowWidth, Label13->geometry().bottom()));
+    const double middle = room.center().x();
+    constexpr double Head = 10;
+    QPainterPath arrow;
+    arrow.addRect(QRectF(middle - 2.5, room.top(), 5, room.height() - Head));
+    arrow.addPolygon(QPolygonF({{room.left(), room.bottom() - Head},
+                                {room.right(), room.bottom() - Head},
+                                {middle, room.bottom()}}));
+    QLinearGradient growing(room.topLeft(), room.bottomLeft());
+    growing.setColorAt(0, palette().color(QPalette::Midlight));
+    growing.setColorAt(1, palette().color(QPalette::Highlight));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(arrow, growing);
+}

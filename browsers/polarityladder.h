@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/controlarray.h"
+
+#include <QFrame>
+#include <QLabel>
+
+/// `framepola`: the classes of solvents in the order of their polarity, each beside examples, from non polar
+/// at the top to water at the bottom.
+class PolarityLadder final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit PolarityLadder(QWidget *parent);
+
+protected:
+    /// Draws the arrow along the ladder.
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    ControlArray<QLabel> Label10{"Label10"};
+    QLabel *Label13;
+};
