@@ -48,8 +48,8 @@ PictureWindow::PictureWindow(const Design &design, QWidget &owner)
 
     auto *cmdOK = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
-    cmdOK->setGeometry(sheetArea.right() + 1 + Margin / 2, sheetArea.bottom() - 29,
-                       right + Margin - Margin / 2, 30);
+    const int left = sheetArea.right() + 1 + Margin;
+    cmdOK->setGeometry(left, sheetArea.bottom() - 29, width() - left - Margin, 30);
     connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
 }
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr PictureWindow::Design Form2{"Form2", "Chimical structure", {640, 420}, 750};
+constexpr PictureWindow::Design Form2{"Form2", "Chimical structure", {540, 340}, 750};
 
 } // namespace
 
