@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/controlarray.h"
+
+#include <QFrame>
+#include <QLabel>
+
+class ElementPanel;
+
+/// `ReyFrame1`: the fifteen values of the element on show, each with its name and unit.
+class DataPanel final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit DataPanel(QWidget *parent);
+
+    void showValues(const ElementPanel &panel);
+
+    ControlArray<QLabel> lblatome{"lblatome"};
+
+private:
+    void buildHeading();
+    void buildRows();
+    void addValue(int index, QLabel *value);
+};
+
+/// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number.
+class IsotopePanel final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit IsotopePanel(QWidget *parent);
+
+    void showValues(const ElementPanel &panel);
+
+    ControlArray<QLabel> Label11{"Label11"};
+
+private:
+    void buildTitles();
+    void buildRow(int row);
+};

@@ -1,0 +1,62 @@
+#include "elements/elementbutton.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+const QColor GridLine(0x8a, 0x93, 0x9c);
+const QColor Mark(0x1f, 0x6f, 0xd6);
+
+bool isArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
+
+ElementButton::ElementButton(const QString &symbol, QWidget *parent) : QPushButton(symbol, parent)
+{
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void ElementButton::setMarked(bool marked)
+{
+    if (m_marked == marked)
+        return;
+    m_marked = marked;
+    if (marked)
+        raise(); // neighbours share the line between them
+    update();
+}
+
+// Drawn by hand: no style promises white, and two palettes a hundred times cost more than this.
+void ElementButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    const bool lively = m_marked || underMouse() || isDown();
+    const int thickness = m_marked || isDown() ? 3 : 1;
+    painter.setPen(QPen(lively ? Mark : GridLine, thickness, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    const double inset = thickness / 2.0;
+    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+    if (hasFocus()) // a bar below the symbol: a ring would run into three letters
+        painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
+    painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}
+
+void ElementButton::keyPressEvent(QKeyEvent *event)
+{
+    if (isArrow(event->key()))
+        event->ignore();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+bool ElementButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave)
+        update();
+    return QPushButton::event(event);
+}

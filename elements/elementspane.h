@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/controlarray.h"
+#include "core/modulepanel.h"
+#include "elements/elementpanel.h"
+
+class DataPanel;
+class Desktop;
+class FindBar;
+class IsotopePanel;
+class PeriodicTable;
+class PictureBox;
+class Portrait;
+class QPushButton;
+class QToolButton;
+struct DataStore;
+
+/// `Frametable`: the periodic table with the data, the isotopes and the picture of the selected element.
+///
+/// Elements are chosen by a click, by the arrow buttons, by the arrow keys on the table, which do the same,
+/// and by name from the Find bar's list.
+class ElementsPane final : public ModulePanel
+{
+    Q_OBJECT
+
+public:
+    ElementsPane(Module1 &module1, DataStore &store, Desktop &desktop, FindBar &findBar, QWidget *parent);
+
+    ElementPanel &panel() { return m_panel; }
+    void focusElement(int element);
+
+    /// Gives or takes the help balloons, by the option. Covers the Find bar's close button too; whoever has
+    /// other such controls follows toolTipsRefreshed().
+    void refreshToolTips();
+
+    /// The pointer over the element's picture, by the option "Zoom-in on the element picture".
+    void refreshZoomPointer();
+
+    /// Picture or portrait, after the option "Picture of elements" was changed.
+    void applyPictureOption();
+
+Q_SIGNALS:
+    void toolTipsRefreshed();
+
+    /// `cmdhelp` was pressed: the legend of the panel is wanted.
+    void helpRequested();
+
+protected:
+    void buildContents() override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void buildPictures();
+    void buildArrows();
+    void buildButtons();
+    void connectControls();
+
+    void select(int element);
+    void move(Direction direction);
+    void pick();
+    void takeOverPick();
+    void zoom();
+    void showCrystal();
+    bool isPickInUse() const;
+    void showPanel();
+    void showVisibility();
+
+    Module1 &m_module1;
+    Desktop &m_desktop;
+    FindBar &m_findBar;
+    ElementPanel m_panel;
+
+    PeriodicTable *m_table = nullptr;
+    DataPanel *ReyFrame1 = nullptr;
+    IsotopePanel *ReyFrame2 = nullptr;
+    PictureBox *imgato = nullptr;
+    Portrait *Picture1 = nullptr;
+    ControlArray<QToolButton> cmdpre{"cmdpre"}; ///< by Direction
+    QPushButton *Command9 = nullptr;
+    QPushButton *cmdhelp = nullptr;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/controlarray.h"
+#include "elements/elementbutton.h"
+
+#include <QLabel>
+
+/// The printed periodic table: the 118 buttons `Command7` with the numbers of groups and periods around them.
+///
+/// It is as large as the pane, so that positions in it are those of the pane. The keyboard enters it at one
+/// button only, the one marked.
+class PeriodicTable final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PeriodicTable(QWidget *parent);
+
+    ControlArray<ElementButton> Command7{"Command7"};
+
+    /// Marks the element on show; -1 marks none.
+    void mark(int element);
+
+    /// Gives the keyboard to the button of @p element.
+    void focusElement(int element);
+
+private:
+    void buildButtons();
+    void buildGroupNumbers();
+    void buildPeriodNumbers();
+    void letKeyboardIn(int element);
+
+    int m_marked = -1;
+    int m_entry = 0; ///< the button that Tab leads to
+};
