@@ -7,6 +7,7 @@ using namespace Jet;
 namespace {
 
 constexpr int MaxColumns = 255;
+constexpr int MaxPages = 64; // far more than all columns and indexes that a table may have
 constexpr int MaxNameBytes = 128;
 constexpr int RowCountAt = 16;
 constexpr int ColumnsEverAt = 41;
@@ -24,8 +25,8 @@ QByteArray joined(const JetPages &pages, quint32 first)
     JetBytes page = pages.page(first, DefinitionPage);
     QByteArray data = page.view().toByteArray();
     quint32 next = page.u32(4);
-    for (quint32 steps = 0; next != 0; ++steps) {
-        if (steps == pages.count())
+    for (int count = 1; next != 0; ++count) {
+        if (count == MaxPages)
             jetDamage("the definition of a table runs in a circle");
         page = pages.page(next, DefinitionPage);
         data += page.from(8).view();
