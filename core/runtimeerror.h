@@ -54,3 +54,14 @@ private:
     QString m_subject;
     QByteArray m_what;
 };
+
+/// Runs @p step and goes on past its failure, where the behaviour is to ignore errors.
+template<class Step>
+void passingOverErrors(Step step)
+{
+    try {
+        step();
+    } catch (const RuntimeError &) {
+        // Ignored on purpose: the statement after a failed one runs as if nothing had happened.
+    }
+}
