@@ -34,15 +34,16 @@ struct Compound
 QList<std::optional<Compound>> readCompounds(const QString &file)
 {
     const Table table = Table::read(file, {QStringLiteral("name"), QStringLiteral("smiles")});
-    QList<std::optional<Compound>> compounds(table.rowCount());
+    QList<std::optional<Compound>> compounds;
     for (int row = 0; row < table.rowCount(); ++row) {
+        compounds << std::nullopt;
         const QString smiles = table.cell(row, QStringLiteral("smiles"));
         if (smiles.isEmpty())
             continue;
         const std::optional<Formula> formula = Formula::fromSmiles(smiles, Scale);
         if (!formula)
             table.fail(row, QStringLiteral("\"%1\" is not a structure").arg(smiles));
-        compounds[row] = Compound{table.cell(row, QStringLiteral("name")), *formula};
+        compounds.last() = Compound{table.cell(row, QStringLiteral("name")), *formula};
     }
     return compounds;
 }

@@ -1,0 +1,213 @@
+#include "app/form1.h"
+
+#include "app/frmload.h"
+#include "app/menulayout.h"
+#include "core/buildsettings.h"
+#include "core/desktop.h"
+#include "core/icons.h"
+#include "core/module1.h"
+#include "core/modulepanel.h"
+#include "store/datastore.h"
+#include "store/loadtable.h"
+#include "store/tablecatalog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QStatusBar>
+
+Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
+    : m_module(module), m_store(store), m_desktop(desktop)
+{
+    setObjectName(QStringLiteral("Form1"));
+    setWindowTitle(QStringLiteral("Alembra"));
+    setWindowIcon(Icons::program());
+    buildStatusBar();
+    m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
+    buildPaneArea();
+    connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
+    connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
+}
+
+void Form1::buildPaneArea()
+{
+    m_paneArea = new QWidget;
+    m_paneArea->setFixedSize(ModulePanel::Size);
+    for (const PanelName &panel : Panels)
+        m_panes->add(panel.panel, *makePanel(panel.panel));
+
+    // Two boxes over the periodic table that name the rows standing apart from it.
+    const auto addCompanion = [&](const QString &name, const QString &text, const QRect &place) {
+        auto *box = Controls::named(new QLineEdit(text, &m_panes->panel(PanelId::Elements)), name);
+        box->setReadOnly(true);
+        box->setFrame(false);
+        box->setFocusPolicy(Qt::NoFocus);
+        box->setGeometry(place);
+        m_panes->addElementsCompanion(*box);
+    };
+    addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(36, 430, 84, 20));
+    addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(36, 462, 84, 20));
+
+    auto *scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    scroll->setWidget(m_paneArea);
+    setCentralWidget(scroll);
+    m_panes->panel(PanelId::Elements).setVisible(true);
+}
+
+ModulePanel *Form1::makePanel(PanelId id)
+{
+    return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
+}
+
+void Form1::buildStatusBar()
+{
+    const auto addPanel = [this](int number, const QString &text, int stretch) {
+        const QString name = QStringLiteral("StatusBar1.Panels(%1)").arg(number);
+        QLabel *panel = Controls::label(name, text, this);
+        panel->setContentsMargins(6, 0, 6, 0);
+        statusBar()->addWidget(panel, stretch);
+        return panel;
+    };
+    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    statusBar()->setSizeGripEnabled(false);
+    m_panel1 = addPanel(1, QStringLiteral("Elements"), 0);
+    addPanel(2, {}, 1);
+    m_panel3 = addPanel(3, {}, 0);
+    m_findBar = new FindBar(m_store, *m_panel3, this);
+    statusBar()->addWidget(m_findBar);
+    statusBar()->setFixedHeight(statusBar()->sizeHint().height() + 8);
+}
+
+void Form1::load(frmload &splash, TableLoader &loader)
+{
+    splash.showAndPause(m_desktop);
+    splash.ProgressTick();
+    m_module.ReadOptions(QStringLiteral("opt"), QCoreApplication::applicationDirPath());
+    loadTables(splash, loader);
+    loadMenus();
+    m_decimals = m_module.OptionSlots(Slot::Decimals);
+}
+
+void Form1::loadTables(frmload &splash, TableLoader &loader)
+{
+    constexpr int LastLoadedStep = 31;
+    loader.LoadCounter = 1;
+    splash.setMaximum(185);
+    for (int step = TableCatalog::FirstStep; step <= LastLoadedStep; ++step) {
+        splash.ProgressTick();
+        loader.LoadTable(TableCatalog::statement(step));
+        if (step == 29)
+            splash.ProgressTick(); // one tick without a load, kept
+        ++loader.LoadCounter;
+    }
+    // The last four tables, resistors and reactions, are in the catalogue but not loaded: their lists stay
+    // empty.
+    for (int step = LastLoadedStep + 1; step <= TableCatalog::LastStep; ++step) {
+        splash.ProgressTick();
+        if (step < TableCatalog::LastStep)
+            ++loader.LoadCounter;
+    }
+}
+
+void Form1::loadMenus()
+{
+    m_commandBars.load(MenuLayout::read(m_module.AppFolder + QStringLiteral("/menuc_uk.xcb")));
+    m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
+    updateCommands();
+}
+
+void Form1::showStartModule()
+{
+    if (!m_module.OptionSlots(Slot::StartModuleOn).equals(1))
+        return;
+    for (size_t module = 0; module < StartModules.size(); ++module) {
+        if (m_module.OptionSlots(Slot::StartModule).equals(double(module)))
+            m_panes->showAtStart(StartModules[module]);
+    }
+    updateCommands();
+}
+
+void Form1::executeCommand(int id)
+{
+    if (const Command *command = findCommand(id))
+        passingOverErrors([&] { run(*command); });
+    updateCommands();
+}
+
+void Form1::run(const Command &command)
+{
+    switch (command.kind) {
+    case CommandKind::Quit:
+        return unloadAllWindows();
+    case CommandKind::ShowPanel:
+        return m_panes->show(command.panel);
+    case CommandKind::ShowPanelOnce:
+        if (!m_panes->isShown(command.panel))
+            m_panes->show(command.panel);
+        return;
+    case CommandKind::SolventTab:
+        return m_panes->show(command.panel);
+    case CommandKind::SpectroscopyMode:
+        return m_panes->show(command.panel);
+    case CommandKind::Help:
+        return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
+    case CommandKind::WebSite:
+        return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
+    case CommandKind::Options:
+    case CommandKind::Find:
+    case CommandKind::About:
+    case CommandKind::Export:
+    case CommandKind::CheckVersion:
+    case CommandKind::Nothing:
+        return;
+    }
+}
+
+void Form1::updateCommands()
+{
+    const auto anyShown = [this](std::initializer_list<PanelId> panels) {
+        return std::any_of(panels.begin(), panels.end(), [this](PanelId id) { return m_panes->isShown(id); });
+    };
+    m_commandBars.action(1121).setEnabled(anyShown({PanelId::Elements}));
+    m_commandBars.action(1124).setEnabled(
+        anyShown({PanelId::Solvents, PanelId::Calculations, PanelId::Solutions, PanelId::Elements,
+                  PanelId::Biochemistry}));
+    m_commandBars.action(1125).setEnabled(false);
+}
+
+void Form1::restoreAndRaise()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void Form1::closeEvent(QCloseEvent *event)
+{
+    if (!isEnabled()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    unloadAllWindows();
+}
+
+void Form1::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+}
+
+void Form1::unloadAllWindows()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window != this)
+            window->close();
+    }
+    hide();
+    QCoreApplication::quit();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/commandbars.h"
+#include "app/paneswitch.h"
+#include "search/findbar.h"
+
+#include <QLabel>
+#include <QMainWindow>
+
+class Desktop;
+class TableLoader;
+class frmload;
+struct DataStore;
+struct Module1;
+
+/// The main window: owner of the panes and switchboard of the commands. It neither computes nor searches.
+class Form1 final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    Form1(Module1 &module, DataStore &store, Desktop &desktop);
+
+    /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
+    void load(frmload &splash, TableLoader &loader);
+
+    /// The start module of the options, if there is one.
+    void showStartModule();
+
+    /// Runs command @p id; ids without a command do nothing. Failures inside are passed over.
+    void executeCommand(int id);
+
+    /// Enables what can be used with the pane and tab on show.
+    void updateCommands();
+
+    /// Out of the tray or from behind other windows.
+    void restoreAndRaise();
+
+protected:
+    /// Closing by any route unloads every window. A side window that is open keeps the main window from
+    /// closing.
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildPaneArea();
+    void buildStatusBar();
+    ModulePanel *makePanel(PanelId id);
+    void loadTables(frmload &splash, TableLoader &loader);
+    void loadMenus();
+    void run(const Command &command);
+    void unloadAllWindows();
+
+    Module1 &m_module;
+    DataStore &m_store;
+    Desktop &m_desktop;
+
+    CommandBars m_commandBars{*this};
+    QLabel *m_panel1;
+    QLabel *m_panel3;
+    FindBar *m_findBar;
+    QWidget *m_paneArea;
+    std::unique_ptr<PaneSwitch> m_panes;
+
+    Value m_decimals; ///< decimals of the calculators, from the options
+};

@@ -1,0 +1,86 @@
+#include "app/frmload.h"
+
+#include "core/controls.h"
+#include "core/desktop.h"
+#include "core/icons.h"
+#include "core/module1.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <cmath>
+
+namespace {
+
+constexpr QSize WindowSize{440, 216};
+constexpr int TextLeft = 128;
+constexpr int PauseMilliseconds = 50;
+
+const QString Description =
+    QStringLiteral("Alembra, the swiss army knife of the lab worker, is the essential software "
+                   "of the scientist, containing numerous data very useful in a laboratory.");
+const QString LegalNotice =
+    QStringLiteral("© 2026 the Alembra developers. Free software under the MIT licence.");
+
+} // namespace
+
+int progressPercent(int value, int maximum)
+{
+    const float top = float(maximum);
+    return int(std::nearbyint((1.0F - (top - float(value)) / top) * 100.0F));
+}
+
+frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+{
+    setObjectName(QStringLiteral("frmload"));
+    setWindowTitle(QStringLiteral("0% Alembra"));
+    setFixedSize(WindowSize);
+
+    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
+    picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
+    picture->setGeometry(20, 24, 88, 88);
+
+    QLabel *title = addLine("lblTitle", QStringLiteral("Alembra"), 16, 34);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.9);
+    large.setBold(true);
+    title->setFont(large);
+    addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
+    addLine("lblDescription", Description, 72, 54);
+    addLine("lblcopy", LegalNotice, 128, 34);
+
+    auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
+    doing->setGeometry(20, 164, WindowSize.width() - 40, 18);
+    m_progressBar = Controls::named(new QProgressBar(this), QStringLiteral("ProgressBar1"));
+    m_progressBar->setTextVisible(false);
+    m_progressBar->setGeometry(20, 186, WindowSize.width() - 40, 14);
+    m_progressBar->setRange(0, 100);
+    m_progressBar->setValue(0);
+}
+
+QLabel *frmload::addLine(const char *name, const QString &text, int top, int height)
+{
+    QLabel *line = Controls::label(QLatin1StringView(name), text, this);
+    line->setWordWrap(true);
+    line->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    line->setGeometry(TextLeft, top, WindowSize.width() - TextLeft - 16, height);
+    return line;
+}
+
+void frmload::showAndPause(Desktop &desktop)
+{
+    show();
+    desktop.pause(PauseMilliseconds);
+}
+
+void frmload::setMaximum(int maximum)
+{
+    m_progressBar->setMaximum(maximum);
+}
+
+void frmload::ProgressTick()
+{
+    m_progressBar->setValue(m_progressBar->value() + 5);
+    setWindowTitle(
+        QStringLiteral("%1% Alembra").arg(progressPercent(m_progressBar->value(), m_progressBar->maximum())));
+    m_progressBar->repaint(); // nothing else paints during the load
+}

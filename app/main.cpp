@@ -1,0 +1,18 @@
+#include "app/program.h"
+#include "core/desktop.h"
+#include "core/qtdesktop.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Alembra_uk"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Alembra"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QtDesktop desktop;
+    int status = 1;
+    atEdge(desktop, [&] { status = Main(desktop); });
+    return status;
+}

@@ -1,0 +1,48 @@
+#include "app/paneswitch.h"
+
+#include "core/controls.h"
+#include "core/modulepanel.h"
+#include "core/runtimeerror.h"
+#include "search/findbar.h"
+
+void PaneSwitch::show(PanelId id, const std::function<void()> &beforePanelText)
+{
+    m_findBar.ResetSearchPanel();
+    makeVisible(id);
+    for (size_t i = 0; i < m_companionCount; ++i)
+        m_companions[i]->setVisible(id == PanelId::Elements);
+    if (m_clearChartPanels)
+        m_clearChartPanels();
+    if (beforePanelText)
+        passingOverErrors(beforePanelText);
+    setPanelText(id);
+}
+
+void PaneSwitch::showAtStart(PanelId id)
+{
+    m_findBar.ResetSearchPanel();
+    makeVisible(id);
+    setPanelText(id);
+}
+
+bool PaneSwitch::isShown(PanelId id) const
+{
+    return Controls::isShown(panel(id));
+}
+
+// The new pane first, so that the window never stands empty between the two.
+void PaneSwitch::makeVisible(PanelId id)
+{
+    panel(id).setVisible(true);
+    panel(id).raise();
+    for (const PanelName &other : Panels) {
+        if (other.panel != id)
+            panel(other.panel).setVisible(false);
+    }
+}
+
+void PaneSwitch::setPanelText(PanelId id)
+{
+    if (const char *text = Panels[size_t(id)].statusText)
+        m_panel1.setText(QString::fromLatin1(text));
+}

@@ -1,0 +1,45 @@
+#include "app/program.h"
+
+#include "app/form1.h"
+#include "app/frmload.h"
+#include "app/singleinstance.h"
+#include "core/desktop.h"
+#include "core/module1.h"
+#include "store/databaseconnection.h"
+#include "store/databaserecovery.h"
+#include "store/datastore.h"
+#include "store/gridlines.h"
+#include "store/loadtable.h"
+#include "store/recordset.h"
+
+#include <QApplication>
+
+int Main(Desktop &desktop)
+{
+    const QString appFolder = QCoreApplication::applicationDirPath();
+    SingleInstance instance(appFolder);
+    if (instance.activatePrevious())
+        return 0;
+    instance.listen();
+
+    Module1 module;
+    DataStore store;
+    DatabaseConnection connection;
+    DatabaseRecovery recovery(desktop, connection, appFolder);
+    recovery.ConnectDatabase();
+
+    TableLoader loader(
+        store, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },
+        [&] { recovery.offerAfterMissingTable(); });
+    frmload splash;
+    Form1 form(module, store, desktop);
+    QObject::connect(&instance, &SingleInstance::activated, &form, &Form1::restoreAndRaise);
+    form.load(splash, loader);
+    form.show();
+
+    recovery.DisconnectDatabase();
+    ApplyGridLines(store.lists, module.OptionSlots(Slot::GridLines).equals(1));
+    splash.close();
+    form.showStartModule();
+    return QApplication::exec();
+}
