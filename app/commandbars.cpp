@@ -57,6 +57,8 @@ void CommandBars::load(const MenuLayout &layout)
             }
             QAction &command = action(entry.id);
             command.setText(entry.caption);
+            if (!entry.shortCaption.isEmpty())
+                command.setIconText(entry.shortCaption);
             command.setShortcut(QKeySequence(entry.shortcut, QKeySequence::PortableText));
             command.setIcon(Icons::named(entry.icon));
             shown->addAction(&command);

@@ -2,6 +2,7 @@
 
 #include "app/frmload.h"
 #include "app/menulayout.h"
+#include "browsers/solventspane.h"
 #include "core/buildsettings.h"
 #include "core/desktop.h"
 #include "core/icons.h"
@@ -17,6 +18,19 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QStatusBar>
+
+namespace {
+
+/// Asks for room for a whole pane; in a smaller window the pane scrolls, in a larger one it stays at the top
+/// left.
+class PaneScroll final : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+    QSize sizeHint() const override { return ModulePanel::Size; }
+};
+
+} // namespace
 
 Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     : m_module(module), m_store(store), m_desktop(desktop)
@@ -50,7 +64,7 @@ void Form1::buildPaneArea()
     addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(36, 430, 84, 20));
     addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(36, 462, 84, 20));
 
-    auto *scroll = new QScrollArea(this);
+    auto *scroll = new PaneScroll(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     scroll->setWidget(m_paneArea);
@@ -60,7 +74,14 @@ void Form1::buildPaneArea()
 
 ModulePanel *Form1::makePanel(PanelId id)
 {
-    return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
+    switch (id) {
+    case PanelId::Solvents:
+        m_solvents = new SolventsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
+        connect(m_solvents, &SolventsPane::tabChanged, this, &Form1::updateCommands);
+        return m_solvents;
+    default:
+        return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
+    }
 }
 
 void Form1::buildStatusBar()
@@ -118,6 +139,7 @@ void Form1::loadMenus()
     m_commandBars.load(MenuLayout::read(m_module.AppFolder + QStringLiteral("/menuc_uk.xcb")));
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
+    resize(sizeHint()); // adjustSize() would hold it to two thirds of the screen
 }
 
 void Form1::showStartModule()
@@ -150,7 +172,8 @@ void Form1::run(const Command &command)
             m_panes->show(command.panel);
         return;
     case CommandKind::SolventTab:
-        return m_panes->show(command.panel);
+        m_panes->show(command.panel);
+        return m_solvents->selectTab(command.argument);
     case CommandKind::SpectroscopyMode:
         return m_panes->show(command.panel);
     case CommandKind::Help:
@@ -172,7 +195,9 @@ void Form1::updateCommands()
     const auto anyShown = [this](std::initializer_list<PanelId> panels) {
         return std::any_of(panels.begin(), panels.end(), [this](PanelId id) { return m_panes->isShown(id); });
     };
-    m_commandBars.action(1121).setEnabled(anyShown({PanelId::Elements}));
+    const bool searchable = m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown();
+    m_commandBars.action(1121).setEnabled(anyShown({PanelId::Elements}) ||
+                                          (anyShown({PanelId::Solvents}) && searchable));
     m_commandBars.action(1124).setEnabled(
         anyShown({PanelId::Solvents, PanelId::Calculations, PanelId::Solutions, PanelId::Elements,
                   PanelId::Biochemistry}));

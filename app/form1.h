@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 class Desktop;
+class SolventsPane;
 class TableLoader;
 class frmload;
 struct DataStore;
@@ -60,6 +61,7 @@ private:
     QLabel *m_panel3;
     FindBar *m_findBar;
     QWidget *m_paneArea;
+    SolventsPane *m_solvents = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
 
     Value m_decimals; ///< decimals of the calculators, from the options

@@ -68,7 +68,7 @@ private:
             return attributes.value(QLatin1StringView(name)).toString();
         };
         const MenuLayout::Entry entry{attributes.value(QLatin1StringView("id")).toInt(), text("caption"),
-                                      text("shortcut"), text("icon")};
+                                      text("short"), text("shortcut"), text("icon")};
         if (entry.id <= 0)
             m_xml.raiseError(QStringLiteral("a command without an id"));
         return entry;

@@ -11,8 +11,9 @@ struct MenuLayout
     {
         int id = 0;
         QString caption;
-        QString shortcut; ///< portable form, "Ctrl+F"
-        QString icon;     ///< name of a drawn icon
+        QString shortCaption; ///< for a tool bar; empty where the caption serves
+        QString shortcut;     ///< portable form, "Ctrl+F"
+        QString icon;         ///< name of a drawn icon
     };
 
     struct Menu

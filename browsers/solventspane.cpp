@@ -148,6 +148,7 @@ void SolventsPane::changeTab(int number)
     if (!SolventTabs::all()[number - 1].searchable)
         m_findBar.ResetSearchPanel();
     apply(SolventTabs::change(number, NmrNucleus));
+    Q_EMIT tabChanged();
 }
 
 void SolventsPane::chooseNucleus(SolventTabs::Nucleus nucleus)

@@ -33,6 +33,9 @@ public:
     RowListView *ListView1 = nullptr;
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 26
 
+Q_SIGNALS:
+    void tabChanged();
+
 protected:
     void buildContents() override;
 

@@ -3,7 +3,32 @@
 #include "store/rowlistdelegate.h"
 #include "store/rowlistview.h"
 
+#include <QPainter>
+#include <QStyle>
 #include <numeric>
+
+namespace {
+
+/// A title that does not fit in one line breaks before its unit, "Molar mass" over "(g/mol)", and nowhere
+/// inside it.
+class TitleLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QString shown = text();
+        if (fontMetrics().horizontalAdvance(shown) > width())
+            shown.replace(QLatin1StringView(" ("), QLatin1StringView("\n("));
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect(), int(alignment()) | Qt::TextWordWrap, palette(), isEnabled(),
+                              shown, foregroundRole());
+    }
+};
+
+} // namespace
 
 TitleFrame::TitleFrame(const QString &name, QWidget *parent) : QFrame(parent)
 {
@@ -36,7 +61,7 @@ void TitleFrame::addTitle(const RowListView &list, int column, ControlArray<QLab
     const bool last = column + span == columns.size();
     const int width = last && !centred ? list.width() - left : widthOf(column, span);
 
-    auto *label = new QLabel(titled.title, this);
+    auto *label = new TitleLabel(titled.title, this);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     const int padding = centred ? 1 : RowListDelegate::Padding;

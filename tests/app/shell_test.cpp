@@ -111,7 +111,7 @@ void ShellTest::unknownIdsArePlacedAndDoNothing()
     QMainWindow window;
     CommandBars bars(window);
     MenuLayout layout;
-    layout.menus << MenuLayout::Menu{QStringLiteral("Menu"), {{1107, QStringLiteral("Unknown"), {}, {}}, {}}};
+    layout.menus << MenuLayout::Menu{QStringLiteral("Menu"), {{1107, QStringLiteral("Unknown"), {}, {}, {}}, {}}};
     bars.load(layout);
     QCOMPARE(window.menuBar()->actions().constFirst()->text(), QStringLiteral("Menu"));
     QCOMPARE(bars.action(1107).objectName(), QStringLiteral("Id1107"));
