@@ -21,7 +21,7 @@ std::optional<Formula> Formula::fromSmiles(const QString &smiles, const Style &s
     std::unique_ptr<RDKit::RWMol> molecule;
     try {
         molecule.reset(RDKit::SmilesToMol(smiles.toStdString()));
-    } catch (const RDKit::MolSanitizeException &) {
+    } catch (const std::exception &) { // RDKit has a type of its own for each fault
         return std::nullopt;
     }
     if (!molecule || molecule->getNumAtoms() == 0)
@@ -39,6 +39,7 @@ Formula::Formula(RDKit::RWMol &molecule, const Style &style)
     options.padding = 0.01;
     options.bondLineWidth = 1.5;
     options.explicitMethyl = true;
+    options.dummiesAreAttachments = true;
     options.atomLabelDeuteriumTritium = true;
     options.clearBackground = false;
     options.includeMetadata = false;

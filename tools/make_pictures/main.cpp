@@ -3,6 +3,8 @@
 
 #include "tools/make_pictures/crystals.h"
 #include "tools/make_pictures/elements.h"
+#include "tools/make_pictures/ircharts.h"
+#include "tools/make_pictures/nmrcharts.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/structures.h"
@@ -22,9 +24,8 @@ struct Kind
 };
 
 constexpr std::array Kinds{
-    Kind{"elements", drawElements},
-    Kind{"crystals", drawCrystals},
-    Kind{"structures", drawStructures},
+    Kind{"elements", drawElements}, Kind{"crystals", drawCrystals}, Kind{"structures", drawStructures},
+    Kind{"ir", drawIrCharts},       Kind{"nmr", drawNmrCharts},
 };
 
 void drawKinds(const QString &data, const PictureFolder &pictures, const QStringList &wanted)

@@ -4,6 +4,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QRegularExpression>
 
 namespace {
 
@@ -60,13 +61,19 @@ QStringList wrapped(const QString &text, const QFont &font, int width)
 
 ScriptText ScriptText::formula(const QString &text, int pixels, bool bold)
 {
-    return {text, textFont(pixels, bold), pixels * 0.2,
-            [](QChar before) { return before.isLetter() || before == QLatin1Char(')'); }};
+    static const QRegularExpression position(QStringLiteral("(?<![^ (])[CHN][0-9]+(?![0-9A-Za-z])"));
+    return {text, textFont(pixels, bold), pixels * 0.2, [](const QString &whole, int digit) {
+                const QRegularExpressionMatch match = position.match(whole, digit - 1);
+                const bool isPosition = match.hasMatch() && match.capturedStart() == digit - 1;
+                const QChar before = whole[digit - 1];
+                return (before.isLetter() && !isPosition) || before == QLatin1Char(')');
+            }};
 }
 
 ScriptText ScriptText::configuration(const QString &text, int pixels)
 {
-    return {text, textFont(pixels), pixels * -0.35, [](QChar before) { return before.isLetter(); }};
+    return {text, textFont(pixels), pixels * -0.35,
+            [](const QString &whole, int digit) { return whole[digit - 1].isLetter(); }};
 }
 
 ScriptText::ScriptText(const QString &text, const QFont &font, double shift, IsScript isScript)
@@ -75,7 +82,7 @@ ScriptText::ScriptText(const QString &text, const QFont &font, double shift, IsS
     m_small.setPixelSize(font.pixelSize() * 7 / 10);
     for (int i = 0; i < text.size(); ++i) {
         const bool continues = i > 0 && text[i - 1].isDigit() && m_runs.last().script;
-        const bool script = i > 0 && text[i].isDigit() && (continues || isScript(text[i - 1]));
+        const bool script = i > 0 && text[i].isDigit() && (continues || isScript(text, i));
         if (m_runs.isEmpty() || m_runs.last().script != script)
             m_runs << Run{{}, script};
         m_runs.last().text += text[i];

@@ -32,7 +32,8 @@ QStringList wrapped(const QString &text, const QFont &font, int width);
 class ScriptText
 {
 public:
-    /// Digits after an element, a bracket or R are subscripts: "CH3-CO-NR2".
+    /// Digits after an element, a bracket or R are subscripts: "CH3-CO-NR2". A word that is one letter and a
+    /// number tells a position: "furan C2-H", "H3".
     static ScriptText formula(const QString &text, int pixels, bool bold = false);
 
     /// The numbers after the letter of a subshell are superscripts: "[Ar] 3d6 4s2".
@@ -44,7 +45,7 @@ public:
     void paint(QPainter &painter, double x, double baseline) const;
 
 private:
-    using IsScript = bool (*)(QChar before);
+    using IsScript = bool (*)(const QString &text, int digit);
 
     ScriptText(const QString &text, const QFont &font, double shift, IsScript isScript);
 

@@ -31,13 +31,49 @@ QList<QRgb> coloursByFrequency(const QImage &picture)
     QHash<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width(); ++x)
-            ++counts[line[x] | 0xff000000];
+        // Most neighbours are alike: one look-up for a run of them.
+        for (int x = 0, end = 0; x < picture.width(); x = end) {
+            while (end < picture.width() && line[end] == line[x])
+                ++end;
+            counts[line[x] | 0xff000000] += end - x;
+        }
     }
     QList<QRgb> colours = counts.keys();
     std::sort(colours.begin(), colours.end(),
               [&](QRgb a, QRgb b) { return counts[a] != counts[b] ? counts[a] > counts[b] : a < b; });
     return colours;
+}
+
+/// The picture with a palette; a colour that the palette lacks takes the nearest one of it.
+QImage indexedPicture(const QImage &picture, const QList<QRgb> &palette)
+{
+    QHash<QRgb, uchar> indices;
+    for (int i = 0; i < palette.size(); ++i)
+        indices.insert(palette[i], uchar(i));
+    const auto distance = [](QRgb a, QRgb b) {
+        const int red = qRed(a) - qRed(b);
+        const int green = qGreen(a) - qGreen(b);
+        const int blue = qBlue(a) - qBlue(b);
+        return red * red + green * green + blue * blue;
+    };
+    const auto indexOf = [&](QRgb colour) {
+        const auto known = indices.constFind(colour);
+        if (known != indices.constEnd())
+            return *known;
+        const auto nearest = std::min_element(palette.begin(), palette.end(), [&](QRgb a, QRgb b) {
+            return distance(a, colour) < distance(b, colour);
+        });
+        return *indices.insert(colour, uchar(nearest - palette.begin()));
+    };
+    QImage indexed(picture.size(), QImage::Format_Indexed8);
+    indexed.setColorTable(palette);
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *from = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        uchar *to = indexed.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x)
+            to[x] = x > 0 && from[x] == from[x - 1] ? to[x - 1] : indexOf(from[x] | 0xff000000);
+    }
+    return indexed;
 }
 
 QByteArray encodeByQt(const QImage &picture, const QByteArray &format)
@@ -58,8 +94,7 @@ QByteArray encodeGif(const QImage &picture)
     const QImage image = picture.convertToFormat(QImage::Format_RGB32);
     QList<QRgb> colours = coloursByFrequency(image);
     colours.resize(std::min<qsizetype>(colours.size(), GifColours));
-    const QImage indexed =
-        image.convertToFormat(QImage::Format_Indexed8, colours, Qt::ThresholdDither | Qt::AvoidDither);
+    const QImage indexed = indexedPicture(image, colours);
 
     // giflib takes palettes of a power of two only.
     int size = 2;

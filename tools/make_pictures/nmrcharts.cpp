@@ -1,0 +1,355 @@
+#include "tools/make_pictures/nmrcharts.h"
+
+#include "charts/chartgeometry.h"
+#include "tools/make_pictures/motif.h"
+#include "tools/make_pictures/painting.h"
+#include "tools/make_pictures/picturefolder.h"
+#include "tools/make_pictures/shiftaxis.h"
+#include "tools/make_pictures/table.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using namespace ChartGeometry;
+
+/// What differs between the two lists.
+struct Nucleus
+{
+    const char *symbol; ///< as the overview table writes it
+    const char *folder;
+    const char *table;
+    const char *motifColumn;
+    const char *notes;
+    double lowest; ///< the whole scale, in ppm
+    double highest;
+};
+
+constexpr Nucleus Proton{"1H", "nmr/1h", "/drawing/nmr_1h.tsv", "motif", "/notes/RMN1Hspectro.tsv", -1, 17};
+constexpr Nucleus Carbon{"13C", "nmr/13c", "/drawing/nmr_13c.tsv", "motif2", "/notes/RMN13Cspectro.tsv",
+                         -30,   250};
+
+/// Below this many observations a range says little, below the second number it runs from lowest to highest.
+constexpr int FewObservations = 10;
+constexpr int ExtremesOnly = 8;
+
+struct Motif
+{
+    int row = 0;
+    QString name;
+    QString group;
+    QString smarts;
+    QString lowText; ///< as the table gives it, with its number of decimals
+    QString typicalText;
+    QString highText;
+    ShiftRange range;
+    int observations = 0; ///< 0: general correlation values
+    QString remark;       ///< what narrows or qualifies the range
+
+    bool isOverview() const { return group == QLatin1String("Overview"); }
+};
+
+QString minusSign(QString text)
+{
+    return text.replace(QLatin1Char('-'), QStringLiteral("−"));
+}
+
+/// The parts of a note that a user of the chart should know, without those that the chart says anyway.
+QString remarkOf(const QString &note)
+{
+    static const QRegularExpression known(QStringLiteral(
+        "^(percentiles|min / median|few data|overview row|[0-9]+ outlier|[0-9]+ value\\(s\\)|narrowed: )"));
+    QStringList parts;
+    for (const QString &part : note.split(QStringLiteral("; "))) {
+        if (part.startsWith(QLatin1String("narrowed: ")))
+            parts << part.mid(10);
+        else if (!part.contains(known))
+            parts << part;
+    }
+    QString remark = parts.join(QStringLiteral("; "));
+    if (!remark.isEmpty())
+        remark[0] = remark[0].toUpper();
+    return remark;
+}
+
+QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table &table)
+{
+    const auto at = [](const char *name) { return QString::fromLatin1(name); };
+    const Table notes = Table::read(data + at(nucleus.notes), {at("row"), at("note")});
+    QList<Motif> motifs;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        Motif motif;
+        motif.row = row;
+        motif.name = table.cell(row, at(nucleus.motifColumn));
+        motif.group = table.cell(row, at("group"));
+        motif.smarts = table.cell(row, at("smarts"));
+        motif.lowText = minusSign(table.cell(row, at("low")));
+        motif.typicalText = minusSign(table.cell(row, at("typical")));
+        motif.highText = minusSign(table.cell(row, at("high")));
+        motif.range.low = table.number(row, at("low"));
+        motif.range.high = table.number(row, at("high"));
+        if (!motif.isOverview())
+            motif.range.typical = table.number(row, at("typical"));
+        if (!table.cell(row, at("n")).isEmpty())
+            motif.observations = int(table.number(row, at("n")));
+        if (!motif.isOverview() &&
+            !(motif.range.low <= motif.range.typical && motif.range.typical <= motif.range.high))
+            table.fail(row, QStringLiteral("the typical shift lies outside its range"));
+        if (const int note = notes.find(at("row"), QString::number(row + 1)); note >= 0)
+            motif.remark = remarkOf(notes.cell(note, at("note")));
+        motifs << motif;
+    }
+    return motifs;
+}
+
+QString basis(const Motif &motif)
+{
+    const QString few = motif.observations < FewObservations ? QStringLiteral(" (few data)") : QString();
+    if (motif.observations == 0)
+        return QStringLiteral("general correlation values, not from a set of spectra");
+    if (motif.observations < ExtremesOnly)
+        return QStringLiteral("lowest to highest of %1 observations").arg(motif.observations) + few;
+    return QStringLiteral("2.5 to 97.5 percentile of %1 observations").arg(motif.observations) + few;
+}
+
+/// Lines of a formula text, one below the other; gives the ordinate below the last one.
+double paintFormulaLines(QPainter &painter, const QString &text, int pixels, bool bold, QRectF place)
+{
+    const QStringList lines = wrapped(text, textFont(pixels, bold), int(place.width()));
+    const double height = pixels * 1.3;
+    double baseline = place.center().y() - (lines.size() - 1) * height / 2 + pixels * 0.35;
+    for (const QString &line : lines) {
+        ScriptText::formula(line, pixels, bold).paint(painter, place.left(), baseline);
+        baseline += height;
+    }
+    return place.top() + lines.size() * height;
+}
+
+/// The motif at the left, its values at the right.
+void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, double height)
+{
+    const QSizeF size = formula.size();
+    formula.paint(
+        painter, {std::max(4.0, (300 - size.width()) / 2), std::max(2.0, (height - 14 - size.height()) / 2)});
+
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(10));
+    painter.drawText(QRectF(0, height - 14, 310, 14), Qt::AlignCenter,
+                     QStringLiteral("R carbon group, Ar aromatic ring, wavy bond any group or H"));
+
+    const QRectF texts(316, 10, Width - 316 - 8, height - 10);
+    painter.setPen(Ink);
+    const double lines = wrapped(motif.name, textFont(14, true), int(texts.width())).size();
+    paintFormulaLines(painter, motif.name, 14, true,
+                      QRectF(texts.left(), texts.top(), texts.width(), lines * 19));
+    double y = texts.top() + lines * 19 + 34;
+    painter.setPen(classColour(motif.group).darker(115));
+    painter.setFont(textFont(28, true));
+    painter.drawText(QPointF(texts.left(), y), QStringLiteral("δ %1").arg(motif.typicalText));
+    const double wide =
+        QFontMetricsF(painter.font()).horizontalAdvance(QStringLiteral("δ %1 ").arg(motif.typicalText));
+    painter.setFont(textFont(14));
+    painter.drawText(QPointF(texts.left() + wide, y), QStringLiteral("ppm (typical)"));
+    y += 24;
+    painter.setPen(Ink);
+    painter.drawText(QPointF(texts.left(), y),
+                     QStringLiteral("Range %1 to %2 ppm").arg(motif.lowText, motif.highText));
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(11));
+    QStringList small = wrapped(basis(motif), painter.font(), int(texts.width()));
+    if (!motif.remark.isEmpty())
+        small += wrapped(motif.remark, painter.font(), int(texts.width()));
+    for (const QString &line : small)
+        painter.drawText(QPointF(texts.left(), y += 16), line);
+}
+
+/// The whole scale of the nucleus with the range on it and the part that is drawn larger below.
+void paintWholeScale(QPainter &painter, const Nucleus &nucleus, const Motif &motif, const ShiftAxis &detail,
+                     double y)
+{
+    const ShiftAxis whole(nucleus.highest, nucleus.lowest, 14, Width - 76);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tint(Grid, 0.7));
+    const double left = whole.abscissa(detail.high());
+    painter.drawRect(QRectF(left, y, whole.abscissa(detail.low()) - left, 16));
+    motif.range.paint(painter, whole, y + 4, 8, classColour(motif.group));
+    whole.paint(painter, y + 16);
+}
+
+/// Up to this many motifs of the group stand together on one chart.
+constexpr int RowsOfGroup = 7;
+
+QList<Motif> neighboursInGroup(const QList<Motif> &motifs, const Motif &motif)
+{
+    QList<Motif> group;
+    qsizetype place = 0;
+    for (const Motif &other : motifs) {
+        if (other.group != motif.group)
+            continue;
+        if (other.row == motif.row)
+            place = group.size();
+        group << other;
+    }
+    const qsizetype first =
+        std::clamp<qsizetype>(place - RowsOfGroup / 2, 0, std::max<qsizetype>(0, group.size() - RowsOfGroup));
+    return group.mid(first, RowsOfGroup);
+}
+
+/// Columns of the bars: the names left, the numbers of observations right.
+constexpr int NameLeft = 10;
+constexpr int BarsLeft = 244;
+constexpr int BarsRight = 582;
+constexpr int CountRight = Width - 12;
+
+void paintCount(QPainter &painter, int observations, double top, double height)
+{
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(11));
+    painter.drawText(QRectF(BarsRight, top, CountRight - BarsRight, height),
+                     Qt::AlignRight | Qt::AlignVCenter,
+                     observations > 0 ? QString::number(observations) : QStringLiteral("–"));
+}
+
+void paintColumnTitles(QPainter &painter, const QString &title, double y)
+{
+    painter.setPen(Ink);
+    ScriptText::formula(title, 12, true).paint(painter, NameLeft, y);
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(11));
+    painter.drawText(QRectF(BarsRight, y - 12, CountRight - BarsRight, 16), Qt::AlignRight | Qt::AlignVCenter,
+                     QStringLiteral("n"));
+}
+
+QImage drawMotifChart(const Nucleus &nucleus, const QList<Motif> &motifs, const Motif &motif,
+                      const Formula &formula)
+{
+    constexpr double HeadHeight = 164;
+    constexpr double ScaleTop = 170;
+    constexpr double RowsTop = 236;
+    constexpr double RowHeight = 25;
+    const QList<Motif> rows = neighboursInGroup(motifs, motif);
+    const auto low = std::min_element(
+        rows.begin(), rows.end(), [](const Motif &a, const Motif &b) { return a.range.low < b.range.low; });
+    const auto high = std::max_element(
+        rows.begin(), rows.end(), [](const Motif &a, const Motif &b) { return a.range.high < b.range.high; });
+    const ShiftAxis axis = ShiftAxis::around(low->range.low, high->range.high, BarsLeft, BarsRight);
+
+    const double rowsBottom = RowsTop + rows.size() * RowHeight;
+    QImage picture = blankPicture(Width, int(rowsBottom) + 26);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintHead(painter, motif, formula, HeadHeight);
+    paintWholeScale(painter, nucleus, motif, axis, ScaleTop);
+    paintColumnTitles(painter, motif.group, RowsTop - 8);
+    const QColor colour = classColour(motif.group);
+    for (int i = 0; i < rows.size(); ++i) {
+        const double top = RowsTop + i * RowHeight;
+        const bool current = rows[i].row == motif.row;
+        if (current)
+            painter.fillRect(QRectF(4, top, Width - 8, RowHeight), tint(colour, 0.12));
+    }
+    axis.paintGrid(painter, RowsTop, rowsBottom);
+    for (int i = 0; i < rows.size(); ++i) {
+        const double top = RowsTop + i * RowHeight;
+        const bool current = rows[i].row == motif.row;
+        rows[i].range.paint(painter, axis, top + 7, RowHeight - 14, current ? colour : tint(colour, 0.5));
+        painter.setPen(Ink);
+        const QRectF place(NameLeft, top, BarsLeft - NameLeft - 16, RowHeight);
+        const bool wide = wrapped(rows[i].name, textFont(11, current), int(place.width())).size() > 1;
+        paintFormulaLines(painter, rows[i].name, wide ? 10 : 11, current, place);
+        paintCount(painter, rows[i].observations, top, RowHeight);
+    }
+    axis.paint(painter, rowsBottom);
+    return picture;
+}
+
+/// One bar for each class of the overview on the whole scale.
+QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &overview)
+{
+    const auto at = [](const char *name) { return QString::fromLatin1(name); };
+    constexpr double RowsTop = 48;
+    const double rowHeight = std::min(24.0, (VisibleHeight - RowsTop - 26) / double(rows.size()));
+    const double rowsBottom = RowsTop + rows.size() * rowHeight;
+    double low = overview.range.low;
+    double high = overview.range.high;
+    for (const int row : rows) {
+        low = std::min(low, classes.number(row, at("low")));
+        high = std::max(high, classes.number(row, at("high")));
+    }
+    const ShiftAxis axis = ShiftAxis::around(low, high, BarsLeft - 30, BarsRight);
+
+    QImage picture = blankPicture(Width, int(std::ceil(rowsBottom)) + 26);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(SoftInk);
+    painter.setFont(textFont(11));
+    painter.drawText(QPointF(NameLeft, 18),
+                     QStringLiteral("Bar: 2.5 to 97.5 percentile of n observations.  Mark: "
+                                    "typical value (median)."));
+    paintColumnTitles(painter, {}, RowsTop - 6);
+    axis.paintGrid(painter, RowsTop, rowsBottom);
+    for (int i = 0; i < rows.size(); ++i) {
+        const double top = RowsTop + i * rowHeight;
+        const QString label = classes.cell(rows[i], at("label"));
+        const ShiftRange range{classes.number(rows[i], at("low")), classes.number(rows[i], at("typical")),
+                               classes.number(rows[i], at("high"))};
+        const double bar = std::min(11.0, rowHeight - 5);
+        range.paint(painter, axis, top + (rowHeight - bar) / 2, bar, classColour(label));
+        painter.setPen(Ink);
+        paintFormulaLines(painter, label, 11, false, {NameLeft, top, BarsLeft - NameLeft - 36., rowHeight});
+        paintCount(painter, int(classes.number(rows[i], at("n"))), top, rowHeight);
+    }
+    axis.paint(painter, rowsBottom);
+    return picture;
+}
+
+QList<int> rowsOfOverview(const Table &classes, const Nucleus &nucleus, int position)
+{
+    QList<int> rows;
+    for (int row = 0; row < classes.rowCount(); ++row) {
+        if (classes.cell(row, QStringLiteral("nucleus")) == QLatin1String(nucleus.symbol) &&
+            classes.cell(row, QStringLiteral("chart_position")) == QString::number(position))
+            rows << row;
+    }
+    return rows;
+}
+
+void drawCharts(const Nucleus &nucleus, const QString &data, const PictureFolder &pictures)
+{
+    QStringList columns{QString::fromLatin1(nucleus.motifColumn)};
+    for (const char *column : {"smarts", "low", "typical", "high", "n", "group"})
+        columns << QString::fromLatin1(column);
+    const Table table = Table::read(data + QString::fromLatin1(nucleus.table), columns);
+    columns = {};
+    for (const char *column : {"nucleus", "chart_position", "label", "low", "typical", "high", "n"})
+        columns << QString::fromLatin1(column);
+    const Table classes = Table::read(data + QStringLiteral("/drawing/nmr_overview.tsv"), columns);
+
+    const QList<Motif> motifs = readMotifs(nucleus, data, table);
+    int overviews = 0;
+    for (const Motif &motif : motifs) {
+        const QString name = QString::fromLatin1(nucleus.folder) + QStringLiteral("/%1.gif");
+        if (motif.isOverview()) {
+            const QList<int> rows = rowsOfOverview(classes, nucleus, ++overviews);
+            if (rows.isEmpty() || overviews != motif.row + 1)
+                table.fail(motif.row, QStringLiteral("an overview row without classes or below a motif row"));
+            pictures.write(name.arg(999 + overviews), drawOverview(classes, rows, motif));
+            continue;
+        }
+        const std::optional<Formula> formula = motifFormula(motif.smarts, {20, 13});
+        if (!formula)
+            table.fail(motif.row, QStringLiteral("\"%1\" cannot be drawn").arg(motif.smarts));
+        pictures.write(name.arg(motif.row + 2 - overviews), drawMotifChart(nucleus, motifs, motif, *formula));
+    }
+}
+
+} // namespace
+
+void drawNmrCharts(const QString &data, const PictureFolder &pictures)
+{
+    drawCharts(Proton, data, pictures);
+    drawCharts(Carbon, data, pictures);
+}

@@ -1,0 +1,57 @@
+// Scales of chemical shift, and the ranges that stand on them.
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/// A scale in ppm that falls from left to right, as spectra are printed.
+class ShiftAxis
+{
+public:
+    /// From @p high ppm at the abscissa @p left to @p low ppm at @p right, in pixels.
+    ShiftAxis(double high, double low, double left, double right);
+
+    /// A scale that holds [@p low, @p high], rounded outwards to whole ticks.
+    static ShiftAxis around(double low, double high, double left, double right);
+
+    double abscissa(double shift) const;
+    double left() const { return m_left; }
+    double right() const { return m_right; }
+    double high() const { return m_high; }
+    double low() const { return m_low; }
+
+    /// Vertical lines at the ticks between @p top and @p bottom.
+    void paintGrid(QPainter &painter, double top, double bottom) const;
+
+    /// The line with ticks and numbers below @p y, then "δ / ppm" right of it where @p unit is set. Takes 20
+    /// pixels.
+    void paint(QPainter &painter, double y, bool unit = true) const;
+
+private:
+    QList<double> ticks() const;
+
+    double m_high;
+    double m_low;
+    double m_left;
+    double m_right;
+    double m_step;
+};
+
+/// The shifts of one motif, in ppm.
+struct ShiftRange
+{
+    double low = 0;
+    double typical = 0;
+    double high = 0;
+
+    /// A bar from high to low with a mark at the typical value, @p bar giving top and height.
+    void paint(QPainter &painter, const ShiftAxis &axis, double top, double height,
+               const QColor &colour) const;
+};
+
+/// The colour of a class of motifs, told from its name: "CH2 next to oxygen", "Ar-NH". Heteroatoms have the
+/// colours that the infrared charts give to bonds with them, softened.
+QColor classColour(const QString &name);
