@@ -1,28 +1,18 @@
 // The pictures of the built program folder, and the drawing behind them.
 
+#include "tests/tools/pictures_data.h"
 #include "tools/make_pictures/crystals.h"
 #include "tools/make_pictures/elements.h"
-#include "tools/make_pictures/picturefolder.h"
+#include "tools/make_pictures/ircharts.h"
 #include "tools/make_pictures/structures.h"
-#include "tools/make_pictures/table.h"
 
-#include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QImageReader>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
-
-const QString Pictures = QStringLiteral(ALEMBRA_FOLDER "/Data/");
-const QString Data = QStringLiteral(ALEMBRA_SOURCE "/data");
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 int darkPixels(const QImage &picture)
 {
@@ -34,38 +24,7 @@ int darkPixels(const QImage &picture)
     return dark;
 }
 
-/// A data folder with one table that differs from the delivered one.
-class ChangedData
-{
-public:
-    ChangedData(const QString &table, const QByteArray &before, const QByteArray &after)
-    {
-        for (const QString &folder : {QStringLiteral("tables"), QStringLiteral("drawing")}) {
-            QDir().mkpath(m_folder.filePath(folder));
-            for (const QFileInfo &file : QDir(Data + QLatin1Char('/') + folder).entryInfoList(QDir::Files))
-                QFile::copy(file.filePath(), m_folder.filePath(folder + QLatin1Char('/') + file.fileName()));
-        }
-        QByteArray bytes = bytesOf(m_folder.filePath(table));
-        m_changed = bytes.contains(before);
-        QFile::remove(m_folder.filePath(table));
-        QFile file(m_folder.filePath(table));
-        m_changed = m_changed && file.open(QIODevice::WriteOnly);
-        file.write(bytes.replace(before, after));
-    }
-
-    bool changed() const { return m_changed; }
-    QString path() const { return m_folder.path(); }
-
-private:
-    QTemporaryDir m_folder;
-    bool m_changed;
-};
-
-using Draw = void (*)(const QString &, const PictureFolder &);
-
 } // namespace
-
-Q_DECLARE_METATYPE(Draw)
 
 class PicturesTest : public QObject
 {
@@ -150,16 +109,16 @@ void PicturesTest::drawingAgainGivesTheSameBytesAndWritesNothing()
 {
     QTemporaryDir folder;
     const PictureFolder fresh(folder.path());
-    for (const Draw draw : {drawCrystals, drawElements, drawStructures})
+    for (const Draw draw : {drawCrystals, drawElements, drawStructures, drawIrCharts})
         draw(Data, fresh);
     QCOMPARE(fresh.unchanged(), 0);
     for (const QString &name :
          {QStringLiteral("elements/92b.jpg"), QStringLiteral("cristal/Diamond cubic.bmp"),
-          QStringLiteral("chemicals/18.bmp")})
+          QStringLiteral("chemicals/18.bmp"), QStringLiteral("ir/3.gif")})
         QCOMPARE(bytesOf(folder.filePath(name)), bytesOf(Pictures + name));
 
     const PictureFolder again(folder.path());
-    for (const Draw draw : {drawCrystals, drawElements, drawStructures})
+    for (const Draw draw : {drawCrystals, drawElements, drawStructures, drawIrCharts})
         draw(Data, again);
     QCOMPARE(again.written(), 0);
     QCOMPARE(again.unchanged(), fresh.written());
@@ -200,15 +159,7 @@ void PicturesTest::wrongDataIsRefusedWithFileAndLine()
     QFETCH(QByteArray, after);
     QFETCH(Draw, draw);
     QFETCH(QString, place);
-    const ChangedData data(table, before, after);
-    QVERIFY(data.changed());
-    QTemporaryDir folder;
-    QString message;
-    try {
-        draw(data.path(), PictureFolder(folder.path()));
-    } catch (const PictureError &error) {
-        message = QString::fromUtf8(error.what());
-    }
+    const QString message = WrongData{table, before, after, draw}.refusal();
     QVERIFY2(message.contains(place), qPrintable(message));
 }
 
