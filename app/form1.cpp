@@ -107,7 +107,7 @@ void Form1::load(frmload &splash, TableLoader &loader)
 {
     splash.showAndPause(m_desktop);
     splash.ProgressTick();
-    m_module.ReadOptions(QStringLiteral("opt"), QCoreApplication::applicationDirPath());
+    m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);
     loadTables(splash, loader);
     loadMenus();
     m_decimals = m_module.OptionSlots(Slot::Decimals);

@@ -13,6 +13,6 @@ int main(int argc, char *argv[])
 
     QtDesktop desktop;
     int status = 1;
-    atEdge(desktop, [&] { status = Main(desktop); });
+    atEdge(desktop, [&] { status = Main(desktop, QApplication::applicationDirPath()); });
     return status;
 }

@@ -14,15 +14,15 @@
 
 #include <QApplication>
 
-int Main(Desktop &desktop)
+int Main(Desktop &desktop, const QString &appFolder)
 {
-    const QString appFolder = QCoreApplication::applicationDirPath();
     SingleInstance instance(appFolder);
     if (instance.activatePrevious())
         return 0;
     instance.listen();
 
     Module1 module;
+    module.AppFolder = appFolder;
     DataStore store;
     DatabaseConnection connection;
     DatabaseRecovery recovery(desktop, connection, appFolder);

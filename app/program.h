@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QString>
+
 class Desktop;
 
 /// One run of the program: the order in which database, options and windows come up and go.
 ///
 /// Returns the status of the process. Errors that meet no trap leave as RuntimeError, for the caller to
 /// report.
-int Main(Desktop &desktop);
+///
+/// @p appFolder is the program folder, "/" as separator, without one at its end.
+int Main(Desktop &desktop, const QString &appFolder);

@@ -1,0 +1,338 @@
+#include "app/commands.h"
+#include "app/form1.h"
+#include "app/program.h"
+#include "core/modulepanel.h"
+#include "store/rowlistview.h"
+#include "tests/support/programfolder.h"
+#include "tests/support/scripteddesktop.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+/// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
+class RunTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyPaneIsShownAloneAndNamed();
+    void listsShowTheTables_data();
+    void listsShowTheTables();
+    void solventCommandsSelectTheirTabs();
+    void commandsGreyOutByPaneAndTab();
+    void secondClickRunsTheSwitchAgainButNotForSpectroscopy();
+    void startModuleLeavesTheBoxesOfTheTableAlone();
+    void anotherStartModuleSwitchesNothing();
+    void failuresOfTheStartAreReported_data();
+    void failuresOfTheStartAreReported();
+    void damagedDatabaseAsksBeforeAnyWindow();
+    void missingTableAsksUnderTheSplash();
+    void missingColumnIsPassedOver();
+
+private:
+    // Runs the program and @p walk in its event loop, then quits it. The status of the process.
+    int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
+    {
+        QTimer::singleShot(0, this, [&] {
+            Form1 *form = mainWindow();
+            if (form)
+                walk(*form);
+            if (form)
+                form->executeCommand(1005);
+        });
+        try {
+            return Main(m_desktop, folder.root());
+        } catch (const ProcessEnded &end) {
+            return end.status;
+        }
+    }
+
+    static Form1 *mainWindow()
+    {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (auto *form = qobject_cast<Form1 *>(window))
+                return form;
+        }
+        return nullptr;
+    }
+
+    static QStringList shownPanes(const Form1 &form)
+    {
+        QStringList shown;
+        for (const ModulePanel *panel : form.findChildren<ModulePanel *>()) {
+            if (panel->isVisible())
+                shown << panel->objectName();
+        }
+        return shown;
+    }
+
+    static QString statusText(const Form1 &form)
+    {
+        return form.findChild<QLabel *>(QStringLiteral("StatusBar1.Panels(1)"))->text();
+    }
+
+    static QAction *action(const Form1 &form, int id)
+    {
+        return form.findChild<QAction *>(QStringLiteral("Id%1").arg(id));
+    }
+
+    // What is in a table file, without its source column.
+    static QList<QStringList> table(const QString &name)
+    {
+        QFile file(QStringLiteral(ALEMBRA_SOURCE "/data/tables/%1.tsv").arg(name));
+        QList<QStringList> rows;
+        if (!file.open(QIODevice::ReadOnly))
+            return rows;
+        const QStringList lines =
+            QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        for (const QString &line : lines.sliced(1))
+            rows << line.split(QLatin1Char('\t'));
+        return rows;
+    }
+
+    ScriptedDesktop m_desktop;
+};
+
+void RunTest::everyPaneIsShownAloneAndNamed()
+{
+    const ProgramFolder folder;
+    QCOMPARE(run(folder,
+                 [&](Form1 &form) {
+                     for (const Command &command : Commands) {
+                         if (command.kind != CommandKind::ShowPanel &&
+                             command.kind != CommandKind::ShowPanelOnce)
+                             continue;
+                         action(form, command.id)->trigger();
+                         const PanelName &name = Panels[size_t(command.panel)];
+                         QCOMPARE(shownPanes(form), QStringList(QString::fromLatin1(name.frame)));
+                         QCOMPARE(statusText(form), QString::fromLatin1(name.statusText));
+                         const auto *box = form.findChild<QWidget *>(QStringLiteral("Text2(10)"));
+                         QCOMPARE(!box->isHidden(), command.panel == PanelId::Elements);
+                     }
+                     form.executeCommand(1107); // no command
+                     form.executeCommand(99999);
+                 }),
+             0);
+    QCOMPARE(m_desktop.boxes.size(), 0);
+}
+
+void RunTest::listsShowTheTables_data()
+{
+    QTest::addColumn<int>("command");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("tableName");
+    QTest::addColumn<QList<int>>("fields");
+
+    QTest::newRow("properties") << 1119 << "ListView1"
+                                << "Solvants" << QList<int>{0, 1, 2, 3, 4, 6, 5};
+    QTest::newRow("miscibility") << 1116 << "ListView6"
+                                 << "Miscibilite" << QList<int>{0, 1, 2, 3};
+    QTest::newRow("proton shifts") << 1115 << "ListView4"
+                                   << "RMN1H" << QList<int>{0, 1, 2, 3, 9};
+    QTest::newRow("masses") << 1133 << "ListView3(26)"
+                            << "Masse" << QList<int>{0, 1, 10};
+    QTest::newRow("drying") << 1118 << "ListView8"
+                            << "Dessiccation" << QList<int>{0, 1};
+    QTest::newRow("cooling") << 1117 << "ListView9"
+                             << "Refrigeration" << QList<int>{0, 1};
+}
+
+void RunTest::listsShowTheTables()
+{
+    QFETCH(int, command);
+    QFETCH(QString, list);
+    QFETCH(QString, tableName);
+    QFETCH(QList<int>, fields);
+    const ProgramFolder folder;
+    run(folder, [&](Form1 &form) {
+        form.executeCommand(command);
+        const auto *view = form.findChild<RowListView *>(list);
+        QVERIFY(view);
+        QVERIFY(view->isVisible());
+        const QList<QStringList> rows = table(tableName);
+        QVERIFY(!rows.isEmpty());
+        QCOMPARE(view->model()->rowCount(), rows.size());
+        for (int row = 0; row < rows.size(); ++row) {
+            for (int column = 0; column < fields.size(); ++column) {
+                const int shownColumn = tableName == QStringLiteral("Solvants") ? column : fields[column];
+                QCOMPARE(view->model()->index(row, shownColumn).data().toString(), rows[row][fields[column]]);
+            }
+        }
+    });
+}
+
+void RunTest::solventCommandsSelectTheirTabs()
+{
+    const ProgramFolder folder;
+    run(folder, [&](Form1 &form) {
+        for (const Command &command : Commands) {
+            if (command.kind != CommandKind::SolventTab)
+                continue;
+            form.executeCommand(1108);
+            form.executeCommand(command.id);
+            QCOMPARE(form.findChild<QTabBar *>(QStringLiteral("TabStrip1"))->currentIndex() + 1,
+                     command.argument);
+            QCOMPARE(statusText(form), QStringLiteral("Solvents"));
+        }
+    });
+}
+
+void RunTest::commandsGreyOutByPaneAndTab()
+{
+    const ProgramFolder folder;
+    run(folder, [&](Form1 &form) {
+        const auto enabledAfter = [&](int command) {
+            form.executeCommand(command);
+            return QList<bool>{action(form, 1121)->isEnabled(), action(form, 1124)->isEnabled(),
+                               action(form, 1125)->isEnabled()};
+        };
+        QCOMPARE(enabledAfter(1108), (QList<bool>{true, true, false}));
+        QCOMPARE(enabledAfter(1119), (QList<bool>{true, true, false}));
+        QCOMPARE(enabledAfter(1116), (QList<bool>{false, true, false}));
+        QCOMPARE(enabledAfter(1133), (QList<bool>{true, true, false}));
+        QCOMPARE(enabledAfter(1120), (QList<bool>{false, true, false}));
+        QCOMPARE(enabledAfter(1132), (QList<bool>{false, false, false}));
+        QCOMPARE(enabledAfter(1142), (QList<bool>{false, false, false}));
+        // A tab that is chosen by hand counts too.
+        form.executeCommand(1119);
+        form.findChild<QTabBar *>(QStringLiteral("TabStrip1"))->setCurrentIndex(4);
+        QVERIFY(!action(form, 1121)->isEnabled());
+    });
+}
+
+void RunTest::secondClickRunsTheSwitchAgainButNotForSpectroscopy()
+{
+    const ProgramFolder folder;
+    run(folder, [&](Form1 &form) {
+        auto *panel1 = form.findChild<QLabel *>(QStringLiteral("StatusBar1.Panels(1)"));
+        const auto renamedBySecondClick = [&](int command) {
+            form.executeCommand(command);
+            panel1->setText(QStringLiteral("mark"));
+            form.executeCommand(command);
+            return panel1->text() != QStringLiteral("mark");
+        };
+        QVERIFY(renamedBySecondClick(1113));
+        QVERIFY(!renamedBySecondClick(1111));
+        QVERIFY(!renamedBySecondClick(1139));
+    });
+}
+
+void RunTest::startModuleLeavesTheBoxesOfTheTableAlone()
+{
+    const ProgramFolder folder;
+    folder.setOption(86, "1");
+    folder.setOption(88, "3");
+    run(folder, [&](Form1 &form) {
+        QCOMPARE(shownPanes(form), QStringList("frmbioch"));
+        QCOMPARE(statusText(form), QStringLiteral("Biochemistry"));
+        QVERIFY(!form.findChild<QWidget *>(QStringLiteral("Text2(10)"))->isHidden());
+    });
+}
+
+void RunTest::anotherStartModuleSwitchesNothing()
+{
+    const ProgramFolder folder;
+    folder.setOption(88, "6");
+    run(folder, [&](Form1 &form) {
+        QCOMPARE(shownPanes(form), QStringList("Frametable"));
+        QCOMPARE(statusText(form), QStringLiteral("Elements"));
+    });
+}
+
+void RunTest::failuresOfTheStartAreReported_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("number");
+
+    QTest::newRow("no options") << "options_uk.ini" << QByteArray() << 53;
+    QTest::newRow("too many options") << "options_uk.ini" << QByteArray("1\r\n").repeated(102) << 9;
+    QTest::newRow("no menus") << "menuc_uk.xcb" << QByteArray() << 53;
+    QTest::newRow("malformed menus") << "menuc_uk.xcb" << QByteArray("<layout>") << 321;
+}
+
+void RunTest::failuresOfTheStartAreReported()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    QFETCH(int, number);
+    const ProgramFolder folder;
+    QVERIFY(QFile::remove(folder.path(file)));
+    if (!content.isEmpty())
+        folder.write(file, content);
+    try {
+        Main(m_desktop, folder.root());
+        QFAIL("the program started");
+    } catch (const RuntimeError &error) {
+        QCOMPARE(error.number(), number);
+        QVERIFY(error.report().contains(folder.path(file)));
+    }
+}
+
+void RunTest::damagedDatabaseAsksBeforeAnyWindow()
+{
+    const ProgramFolder folder;
+    folder.write(QStringLiteral("Data/Database_uk.mdb"), "no database");
+    m_desktop.boxes.clear();
+    m_desktop.answers = {Desktop::Yes};
+    try {
+        Main(m_desktop, folder.root());
+        QFAIL("the program went on");
+    } catch (const ProcessEnded &end) {
+        QCOMPARE(end.status, 0);
+    }
+    QVERIFY(!mainWindow());
+    QCOMPARE(m_desktop.boxes.size(), 2);
+    m_desktop.boxes.clear();
+    QCOMPARE(run(folder, [&](Form1 &form) { QVERIFY(form.isVisible()); }), 0); // the next start succeeds
+    QCOMPARE(m_desktop.boxes.size(), 0);
+}
+
+// Renames something in every copy of its name in the database file; names lie there as UTF-16.
+static void renameInDatabase(const ProgramFolder &folder, const QString &from, const QString &to)
+{
+    const auto bytes = [](const QString &text) {
+        return QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
+    };
+    const QString file = QStringLiteral("Data/Database_uk.mdb");
+    QByteArray content = folder.read(file);
+    content.replace(bytes(from), bytes(to));
+    folder.write(file, content);
+}
+
+void RunTest::missingTableAsksUnderTheSplash()
+{
+    const ProgramFolder folder;
+    renameInDatabase(folder, QStringLiteral("Masse"), QStringLiteral("Mosse"));
+    m_desktop.boxes.clear();
+    m_desktop.answers = {Desktop::No};
+    try {
+        Main(m_desktop, folder.root());
+        QFAIL("the program went on");
+    } catch (const ProcessEnded &end) {
+        QCOMPARE(end.status, 0);
+    }
+    QCOMPARE(m_desktop.boxes.size(), 1);
+    QCOMPARE(m_desktop.boxes.constFirst().second, 20);
+    QVERIFY(!QFile::exists(folder.path(QStringLiteral("Data/Database.mdb"))));
+}
+
+void RunTest::missingColumnIsPassedOver()
+{
+    const ProgramFolder folder;
+    renameInDatabase(folder, QStringLiteral("temp"), QStringLiteral("tomp")); // of the cooling mixtures
+    m_desktop.boxes.clear();
+    run(folder, [&](Form1 &form) {
+        form.executeCommand(1117);
+        QCOMPARE(form.findChild<RowListView *>(QStringLiteral("ListView9"))->model()->rowCount(), 0);
+        form.executeCommand(1118);
+        QVERIFY(form.findChild<RowListView *>(QStringLiteral("ListView8"))->model()->rowCount() > 0);
+    });
+    QCOMPARE(m_desktop.boxes.size(), 0);
+}
+
+QTEST_MAIN(RunTest)
+#include "run_test.moc"
