@@ -8,7 +8,9 @@
 #include "core/icons.h"
 #include "core/module1.h"
 #include "core/modulepanel.h"
+#include "elements/elementspane.h"
 #include "store/datastore.h"
+#include "store/gridlines.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
 
@@ -58,6 +60,9 @@ void Form1::buildPaneArea()
         box->setReadOnly(true);
         box->setFrame(false);
         box->setFocusPolicy(Qt::NoFocus);
+        QPalette onThePane = box->palette();
+        onThePane.setColor(QPalette::Base, Qt::transparent);
+        box->setPalette(onThePane);
         box->setGeometry(place);
         m_panes->addElementsCompanion(*box);
     };
@@ -75,6 +80,9 @@ void Form1::buildPaneArea()
 ModulePanel *Form1::makePanel(PanelId id)
 {
     switch (id) {
+    case PanelId::Elements:
+        m_elements = new ElementsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
+        return m_elements;
     case PanelId::Solvents:
         m_solvents = new SolventsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
         connect(m_solvents, &SolventsPane::tabChanged, this, &Form1::updateCommands);
@@ -142,15 +150,22 @@ void Form1::loadMenus()
     resize(sizeHint()); // adjustSize() would hold it to two thirds of the screen
 }
 
+void Form1::applyOptions()
+{
+    m_elements->refreshToolTips();
+    ApplyGridLines(m_store.lists, m_module.OptionSlots(Slot::GridLines).equals(1));
+    m_elements->refreshZoomPointer();
+}
+
 void Form1::showStartModule()
 {
-    if (!m_module.OptionSlots(Slot::StartModuleOn).equals(1))
-        return;
-    for (size_t module = 0; module < StartModules.size(); ++module) {
+    const bool wanted = m_module.OptionSlots(Slot::StartModuleOn).equals(1);
+    for (size_t module = 0; wanted && module < StartModules.size(); ++module) {
         if (m_module.OptionSlots(Slot::StartModule).equals(double(module)))
             m_panes->showAtStart(StartModules[module]);
     }
     updateCommands();
+    focusPanel();
 }
 
 void Form1::executeCommand(int id)
@@ -160,13 +175,26 @@ void Form1::executeCommand(int id)
     updateCommands();
 }
 
+void Form1::showPanel(PanelId id)
+{
+    m_panes->show(id);
+    focusPanel();
+}
+
+// The keyboard goes where the eyes are.
+void Form1::focusPanel()
+{
+    if (m_panes->isShown(PanelId::Elements))
+        m_elements->focusElement(m_elements->panel().CurrentElement);
+}
+
 void Form1::run(const Command &command)
 {
     switch (command.kind) {
     case CommandKind::Quit:
         return unloadAllWindows();
     case CommandKind::ShowPanel:
-        return m_panes->show(command.panel);
+        return showPanel(command.panel);
     case CommandKind::ShowPanelOnce:
         if (!m_panes->isShown(command.panel))
             m_panes->show(command.panel);

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 class Desktop;
+class ElementsPane;
 class SolventsPane;
 class TableLoader;
 class frmload;
@@ -24,6 +25,10 @@ public:
 
     /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
     void load(frmload &splash, TableLoader &loader);
+
+    /// What the options set on the main window at start: grid lines, help balloons, the pointer over the
+    /// picture.
+    void applyOptions();
 
     /// The start module of the options, if there is one.
     void showStartModule();
@@ -50,6 +55,8 @@ private:
     void loadTables(frmload &splash, TableLoader &loader);
     void loadMenus();
     void run(const Command &command);
+    void showPanel(PanelId id);
+    void focusPanel();
     void unloadAllWindows();
 
     Module1 &m_module;
@@ -61,6 +68,7 @@ private:
     QLabel *m_panel3;
     FindBar *m_findBar;
     QWidget *m_paneArea;
+    ElementsPane *m_elements = nullptr;
     SolventsPane *m_solvents = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
 

@@ -8,7 +8,6 @@
 #include "store/databaseconnection.h"
 #include "store/databaserecovery.h"
 #include "store/datastore.h"
-#include "store/gridlines.h"
 #include "store/loadtable.h"
 #include "store/recordset.h"
 
@@ -38,7 +37,7 @@ int Main(Desktop &desktop, const QString &appFolder)
     form.show();
 
     recovery.DisconnectDatabase();
-    ApplyGridLines(store.lists, module.OptionSlots(Slot::GridLines).equals(1));
+    form.applyOptions();
     splash.close();
     form.showStartModule();
     return QApplication::exec();
