@@ -35,11 +35,20 @@ int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &ce
     return qMax(cell.left(), qMin(left, cell.right() - width));
 }
 
-// Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one.
-QString wrappable(QString text)
+// Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one. A word that is wider
+// than the whole line breaks behind its hyphens and brackets.
+QString wrappable(const QString &text, const QFontMetrics &metrics, int width)
 {
     constexpr QChar WordJoiner(u'\u2060');
-    return text.replace(QLatin1Char('-'), QLatin1Char('-') + QString(WordJoiner));
+    constexpr QChar BreakHere(u'\u200B');
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString &word : words) {
+        const bool fits = metrics.horizontalAdvance(word) <= width;
+        word.replace(QLatin1Char('-'), QLatin1Char('-') + QString(fits ? WordJoiner : BreakHere));
+        if (!fits)
+            word.replace(QLatin1Char(')'), QLatin1Char(')') + QString(BreakHere));
+    }
+    return words.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -47,6 +56,23 @@ QString wrappable(QString text)
 RowListDelegate::RowListDelegate(const RowList &list, const QList<ListColumn> &columns, QObject *parent)
     : QStyledItemDelegate(parent), m_list(list), m_columns(columns)
 {}
+
+bool RowListDelegate::isHeading(int row) const
+{
+    if (!m_recipes || m_list.text(row).isEmpty())
+        return false;
+    for (int number = 1; number < m_columns.size(); ++number) {
+        if (!m_list.subItem(row, number).isEmpty())
+            return false;
+    }
+    return true;
+}
+
+int RowListDelegate::leftInset(const QModelIndex &index) const
+{
+    constexpr int Indent = 14;
+    return Padding + (m_recipes && index.column() == 0 && !isHeading(index.row()) ? Indent : 0);
+}
 
 void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                             const QModelIndex &index) const
@@ -57,21 +83,13 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
+    const bool heading = isHeading(index.row());
+    item.font.setBold(heading);
     const bool selected = item.state.testFlag(QStyle::State_Selected);
     painter->save();
+    painter->setFont(item.font);
     painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    QRect cell = item.rect.adjusted(Padding, 0, -Padding, 0);
-    const ListColumn &column = m_columns[index.column()];
-    if (column.kind != ListColumn::Kind::Text)
-        cell.setWidth(column.width - 2 * Padding); // the last column may be drawn wider than it was made
-    if (column.kind == ListColumn::Kind::Number)
-        cell.setLeft(numberLeft(item.fontMetrics, text, cell));
-    if (column.kind == ListColumn::Kind::Wrapped) {
-        painter->drawText(cell, Qt::AlignVCenter | Qt::TextWordWrap, wrappable(text));
-    } else {
-        painter->drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine,
-                          item.fontMetrics.elidedText(text, Qt::ElideRight, cell.width() + 1));
-    }
+    drawText(*painter, item.rect, text, index, heading);
     if (m_list.gridLines()) {
         painter->setPen(item.palette.color(QPalette::Midlight));
         painter->drawLine(item.rect.bottomLeft(), item.rect.bottomRight());
@@ -80,13 +98,33 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->restore();
 }
 
+void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QString &text,
+                               const QModelIndex &index, bool heading) const
+{
+    const ListColumn &column = m_columns[index.column()];
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int left = leftInset(index);
+    QRect cell = rect.adjusted(left, 0, -Padding, 0);
+    // The last column may be drawn wider than it was made, and a heading runs over all columns.
+    if (column.kind != ListColumn::Kind::Text && !heading)
+        cell.setWidth(column.width - left - Padding);
+    if (column.kind == ListColumn::Kind::Number)
+        cell.setLeft(numberLeft(metrics, text, cell));
+    if (column.kind == ListColumn::Kind::Wrapped && !heading)
+        painter.drawText(cell, Qt::AlignVCenter | Qt::TextWordWrap, wrappable(text, metrics, cell.width()));
+    else
+        painter.drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine,
+                         metrics.elidedText(text, Qt::ElideRight, cell.width() + 1));
+}
+
 QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     constexpr int Leading = 7; // between two rows
     const ListColumn &column = m_columns[index.column()];
-    if (column.kind != ListColumn::Kind::Wrapped)
-        return {0, option.fontMetrics.height() + Leading};
-    const QRect room(0, 0, column.width - 2 * Padding, 1);
-    const QString text = wrappable(index.data().toString());
-    return {0, option.fontMetrics.boundingRect(room, Qt::TextWordWrap, text).height() + Leading};
+    const QFontMetrics &metrics = option.fontMetrics;
+    if (column.kind != ListColumn::Kind::Wrapped || isHeading(index.row()))
+        return {0, metrics.height() + Leading};
+    const int width = column.width - leftInset(index) - Padding;
+    const QString text = wrappable(index.data().toString(), metrics, width);
+    return {0, metrics.boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text).height() + Leading};
 }

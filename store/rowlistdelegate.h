@@ -20,7 +20,17 @@ public:
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
+    /// Rows that are a text alone are drawn as headings, the texts of the others set in below them.
+    void setRecipes(bool on) { m_recipes = on; }
+
+    bool isHeading(int row) const;
+
 private:
+    int leftInset(const QModelIndex &index) const;
+    void drawText(QPainter &painter, const QRect &rect, const QString &text, const QModelIndex &index,
+                  bool heading) const;
+
+    bool m_recipes = false;
     const RowList &m_list;
     const QList<ListColumn> m_columns;
 };

@@ -30,7 +30,8 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
 {
     setObjectName(name);
     setModel(m_model);
-    setItemDelegate(new RowListDelegate(list, m_model->columns(), this));
+    m_delegate = new RowListDelegate(list, m_model->columns(), this);
+    setItemDelegate(m_delegate);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(!anyWrapped(m_model->columns()));
@@ -52,6 +53,20 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
             [this](const QModelIndex &index) { Q_EMIT rowClicked(index.row()); });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(index.row()); });
+}
+
+void RowListView::showAsRecipes()
+{
+    m_delegate->setRecipes(true);
+    connect(m_model, &RowListModel::modelReset, this, &RowListView::spanHeadings);
+    spanHeadings();
+    scheduleDelayedItemsLayout(); // headings are lower than the rows measured so far
+}
+
+void RowListView::spanHeadings()
+{
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        setFirstColumnSpanned(row, {}, m_delegate->isHeading(row));
 }
 
 int RowListView::selectedRow() const
@@ -120,7 +135,7 @@ bool RowListView::viewportEvent(QEvent *event)
     const QModelIndex index = indexAt(help->pos());
     const QString text = index.data().toString();
     const bool cut =
-        index.isValid() && !isWrapped(columns()[index.column()]) &&
+        index.isValid() && !isWrapped(columns()[index.column()]) && !isFirstColumnSpanned(index.row(), {}) &&
         fontMetrics().horizontalAdvance(text) + 2 * RowListDelegate::Padding > columnWidth(index.column());
     if (cut)
         QToolTip::showText(help->globalPos(), text, viewport(), visualRect(index));

@@ -4,6 +4,8 @@
 
 #include <QTreeView>
 
+class RowListDelegate;
+
 /// A report-view list on the screen: the rows of one RowList in columns of fixed width, one selected row.
 ///
 /// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
@@ -16,6 +18,9 @@ class RowListView final : public QTreeView
 public:
     /// @p list outlives the view; @p name is the list's name in the system.
     RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent);
+
+    /// Shows rows that have a text and nothing else as headings of those below them: title and ingredients.
+    void showAsRecipes();
 
     /// Zero-based; -1 without a selection.
     int selectedRow() const;
@@ -39,7 +44,9 @@ protected:
     bool viewportEvent(QEvent *event) override;
 
 private:
+    void spanHeadings();
     QString rowText(int row) const;
 
     RowListModel *m_model;
+    RowListDelegate *m_delegate;
 };

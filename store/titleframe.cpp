@@ -30,8 +30,9 @@ protected:
 
 } // namespace
 
-TitleFrame::TitleFrame(const QString &name, QWidget *parent) : QFrame(parent)
+TitleFrame::TitleFrame(const QString &name, QWidget *parent, int height) : QFrame(parent)
 {
+    resize(width(), height);
     setObjectName(name);
     setFrameShape(NoFrame);
     setAutoFillBackground(true); // frames lie one over another
@@ -42,7 +43,7 @@ TitleFrame::TitleFrame(const QString &name, QWidget *parent) : QFrame(parent)
 
 void TitleFrame::addTitles(const RowListView &list, ControlArray<QLabel> &labels, const QList<int> &indices)
 {
-    setGeometry(list.x(), list.y() - Height, list.width(), Height);
+    setGeometry(list.x(), list.y() - height(), list.width(), height());
     for (int column = 0; column < indices.size(); ++column)
         addTitle(list, column, labels, indices[column]);
 }
@@ -65,7 +66,7 @@ void TitleFrame::addTitle(const RowListView &list, int column, ControlArray<QLab
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     const int padding = centred ? 1 : RowListDelegate::Padding;
-    label->setGeometry(left + padding, 0, width - 2 * padding, Height);
+    label->setGeometry(left + padding, 0, width - 2 * padding, height());
     label->setAlignment((centred ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignBottom);
     labels.add(index, label);
 }

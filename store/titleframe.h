@@ -15,11 +15,12 @@ class TitleFrame final : public QFrame
     Q_OBJECT
 
 public:
-    /// Room for titles in two lines, logical pixels.
+    /// Room for titles in two lines or in one, logical pixels.
     static constexpr int Height = 38;
+    static constexpr int OneLine = 22;
 
     /// @p name is the frame's name in the system, "frmc".
-    TitleFrame(const QString &name, QWidget *parent);
+    TitleFrame(const QString &name, QWidget *parent, int height = Height);
 
     /// Labels for the columns of @p list, from its first column on, named @p labels with the given indices.
     /// The frame takes the list's width and lies right above it.
