@@ -23,9 +23,9 @@ RowListView *BrowserPane::makeList(const QString &name, RowList &list, const QLi
 }
 
 QTabBar *BrowserPane::makeTabs(const QString &name, const QStringList &captions, const QRect &place,
-                               const std::function<void(int)> &handler)
+                               const std::function<void(int)> &handler, QWidget *parent)
 {
-    auto *tabs = Controls::named(new QTabBar(this), name);
+    auto *tabs = Controls::named(new QTabBar(parent), name);
     tabs->setExpanding(false);
     for (const QString &caption : captions)
         tabs->addTab(caption);

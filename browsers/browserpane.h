@@ -30,7 +30,7 @@ protected:
     /// The tab strip @p name with the given captions; each change runs @p handler with the tab's number
     /// from 1.
     QTabBar *makeTabs(const QString &name, const QStringList &captions, const QRect &place,
-                      const std::function<void(int)> &handler);
+                      const std::function<void(int)> &handler, QWidget *parent);
 
     /// Makes @p options one choice, of which the first is on, in a row from @p place on.
     void placeOptions(const QList<QRadioButton *> &options, const QPoint &place);

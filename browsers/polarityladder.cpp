@@ -41,7 +41,6 @@ PolarityLadder::PolarityLadder(QWidget *parent) : QFrame(parent)
     setObjectName(QStringLiteral("framepola"));
     setFrameShape(StyledPanel);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
 
     auto *grid = new QGridLayout(this);
     grid->setHorizontalSpacing(10);

@@ -48,8 +48,9 @@ void SolventsPane::buildContents()
     QStringList captions;
     for (const SolventTabs::Tab &tab : SolventTabs::all())
         captions << tab.caption;
-    TabStrip1 = makeTabs(QStringLiteral("TabStrip1"), captions, {Margin, 2, room().width(), TabsHeight - 2},
-                         [this](int number) { changeTab(number); });
+    TabStrip1 = makeTabs(
+        QStringLiteral("TabStrip1"), captions, {Margin, 2, room().width(), TabsHeight - 2},
+        [this](int number) { changeTab(number); }, this);
 
     // The two buttons lie beneath the lists, where they are parked off their tab.
     Option1 = Controls::named(new QRadioButton(QStringLiteral("Proton"), this), QStringLiteral("Option1"));

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "browsers/browserpane.h"
+
+class Desktop;
+struct DataStore;
+struct Module1;
+
+/// `frmbioch`: biomolecules, the recipes of SDS-PAGE and the genetic code.
+class BiochemistryPane final : public BrowserPane
+{
+    Q_OBJECT
+
+public:
+    BiochemistryPane(Module1 &module, DataStore &store, Desktop &desktop, QWidget *parent);
+
+protected:
+    void buildContents() override;
+
+private:
+    struct Section;
+
+    void buildBiomolecules();
+    void buildSdsPage();
+    RowListView &addList(const Section &section, int index, const QList<ListColumn> &columns);
+    void addTitles(const Section &section, const char *frame, int index, int firstLabel);
+    void openStructure(int row);
+
+    Module1 &m_module;
+    DataStore &m_store;
+    Desktop &m_desktop;
+    ControlArray<RowListView> ListView3{"ListView3"};
+    ControlArray<QRadioButton> Option4{"Option4"};
+    ControlArray<QRadioButton> Option5{"Option5"};
+    ControlArray<QLabel> Label2{"Label2"};
+};

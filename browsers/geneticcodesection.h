@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/controlarray.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+class Desktop;
+struct DataStore;
+
+/// The section "Genetic code": from three letters to the amino acid, and from the amino acid to its codons.
+///
+/// One direction at a time: the fields of the other one are hidden or disabled, and empty.
+class GeneticCodeSection final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GeneticCodeSection(DataStore &store, Desktop &desktop, QWidget *parent);
+
+private:
+    void buildControls();
+    void placeControls();
+    void searchByLetters();
+    void searchByAminoAcid();
+    void showLetterLabels(bool active);
+    void showAminoAcid();
+    void showCodons();
+
+    DataStore &m_store;
+    Desktop &m_desktop;
+    ControlArray<QRadioButton> Option3{"Option3"};
+    ControlArray<QComboBox> Combo2{"Combo2"}; ///< letters 1 to 3 of the codon
+    ControlArray<QLabel> Label18{"Label18"};
+    QComboBox *Comb2;
+    ControlArray<QLineEdit> tbm{"tbm"}; ///< 0 the amino acid, 1 to 6 its codons
+};
