@@ -11,6 +11,7 @@ struct Wording
 };
 
 constexpr std::array Wordings{
+    Wording{ErrorNumber::InvalidCall, "Invalid procedure call or argument"},
     Wording{ErrorNumber::Overflow, "Overflow"},
     Wording{ErrorNumber::Subscript, "Subscript out of range"},
     Wording{ErrorNumber::DivisionByZero, "Division by zero"},

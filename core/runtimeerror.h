@@ -6,6 +6,7 @@
 /// The numbers that traps of the program look at or that a report to the user names.
 namespace ErrorNumber {
 
+inline constexpr int InvalidCall = 5;
 inline constexpr int Overflow = 6;
 inline constexpr int Subscript = 9;
 inline constexpr int DivisionByZero = 11;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "calc/calcfields.h"
+
+#include <QStringList>
+#include <span>
+
+/// A tab of `TabStrip4`: what it is called and what it shows. Everything of the calculator that a tab does
+/// not name is hidden on it.
+struct CalcTab
+{
+    const char *caption;
+    const char *formula;              ///< the text of `lbln(3)`
+    std::array<const char *, 3> over; ///< captions of `lbl2(0)` to `lbl2(2)`; null leaves them as they are
+    FieldSet fields;
+    FieldSet emptied;   ///< by every click on the tab
+    bool asksForLiquid; ///< shows `Option10` and `lbln(0)`
+};
+
+/// A field and its label.
+struct CalcLabel
+{
+    Field field;
+    int lbl2;            ///< index of the label
+    const char *caption; ///< UTF-8
+};
+
+/// An option button of `Option10`: a kind of liquid and its molar entropy of vaporisation.
+struct Liquid
+{
+    int option;
+    const char *caption;
+    double entropy; ///< J/(mol K)
+};
+
+namespace CalcTabs {
+
+/// In the order of the tabs, tab 1 first.
+std::span<const CalcTab> tabs();
+
+/// One for each field, in the order in which a tab is read and the Tab key goes.
+std::span<const CalcLabel> labels();
+
+/// In the order in which the buttons stand; the first is on at the start.
+std::span<const Liquid> liquids();
+
+/// The three fields of tabs 1 to 3, then the fifteen of the array.
+std::span<const Field> clearingOrder();
+
+/// "TextBoxM7(3)"
+QString name(Field field);
+
+/// What stands before the gap in the formula of tab 6 that a delta is drawn into, and the gap itself.
+inline constexpr char BeforeDelta[] = "P = P* . exp [ - (";
+inline constexpr char DeltaGap[] = "   ";
+
+} // namespace CalcTabs

@@ -1,0 +1,61 @@
+#include "calc/calculation.h"
+
+#include "core/numbers.h"
+
+namespace {
+
+const std::array<const TabSolver *, 6> Solvers{&AmountSolver,   &AmountSolver,   &VolumicMassSolver,
+                                               &DilutionSolver, &FractionSolver, &VapourPressureSolver};
+
+void run(const TabSolver &solver, Calculation &calculation)
+{
+    if ((calculation.filled() & solver.counted).size() < solver.fewestFilled)
+        return calculation.refuse(solver.tooFew);
+    if (solver.check)
+        solver.check(calculation);
+    if (!calculation.outcome().message.isEmpty())
+        return;
+    for (const Pattern &pattern : solver.patterns) {
+        if (calculation.filled().contains(pattern.filled) && !calculation.filled().meets(pattern.empty))
+            return pattern.act(calculation);
+    }
+}
+
+} // namespace
+
+Calculation::Calculation(const FieldTexts &texts, std::optional<double> vaporisationEntropy)
+    : m_texts(texts), m_vaporisationEntropy(vaporisationEntropy)
+{
+    for (int field = 0; field < FieldCount; ++field) {
+        if (!texts[size_t(field)].isEmpty())
+            m_filled.insert(Field(field));
+    }
+}
+
+Checked Calculation::operator[](Field field) const
+{
+    const std::optional<double> number = Numbers::read(m_texts[field]);
+    if (!number)
+        throw RuntimeError(ErrorNumber::TypeMismatch, m_texts[field]);
+    return *number;
+}
+
+void Calculation::write(Field field, Checked number)
+{
+    m_texts[field] = Numbers::write(number.value());
+    m_outcome.changes.append({field, m_texts[field]});
+}
+
+Outcome Solver::solve(int tab, const FieldTexts &texts, std::optional<double> vaporisationEntropy)
+{
+    Calculation calculation(texts, vaporisationEntropy);
+    try {
+        run(*Solvers.at(size_t(tab - 1)), calculation);
+    } catch (const RuntimeError &error) {
+        // Any other failure, a text that is no number or the logarithm of zero, ends the click without a
+        // word.
+        if (error.number() == ErrorNumber::DivisionByZero || error.number() == ErrorNumber::Overflow)
+            calculation.refuse("Impossible to perform calculation");
+    }
+    return calculation.outcome();
+}
