@@ -53,25 +53,53 @@ void TabStrip::keyPressEvent(QKeyEvent *event)
         setCurrentIndex(qBound(0, currentIndex() + step, count() - 1));
 }
 
-void TabStrip::paintEvent(QPaintEvent *event)
+void TabStrip::paintEvent(QPaintEvent *)
 {
-    if (!isDown()) {
-        QTabBar::paintEvent(event);
-        return;
-    }
     QStylePainter painter(this);
+    if (isDown()) {
+        painter.fillRect(rect(), palette().base());
+        QStyleOptionFrame frame;
+        frame.initFrom(this);
+        frame.lineWidth = 1;
+        frame.state |= QStyle::State_Sunken;
+        painter.drawPrimitive(QStyle::PE_Frame, frame);
+    } else {
+        QStyleOptionTabBarBase base;
+        base.initFrom(this);
+        base.shape = shape();
+        base.tabBarRect = QRect(tabRect(0).topLeft(), tabRect(count() - 1).bottomRight());
+        base.selectedTabRect = tabRect(currentIndex());
+        const int overlap = style()->pixelMetric(QStyle::PM_TabBarBaseOverlap, &base, this);
+        base.rect = QRect(0, height() - overlap, width(), overlap);
+        painter.drawPrimitive(QStyle::PE_FrameTabBarBase, base);
+    }
     for (int index = 0; index < count(); ++index) {
-        QStyleOptionTab tab;
-        initStyleOption(&tab, index);
+        if (index != currentIndex())
+            paintTab(painter, index);
+    }
+    paintTab(painter, currentIndex()); // above its neighbours
+}
+
+void TabStrip::paintTab(QStylePainter &painter, int index)
+{
+    QStyleOptionTab tab;
+    initStyleOption(&tab, index);
+    const bool selected = index == currentIndex();
+    if (!isDown())
         painter.drawControl(QStyle::CE_TabBarTabShape, tab);
-        const QRect caption = tab.rect.adjusted(CaptionMargin, 0, 0, 0);
-        painter.drawItemText(caption, Qt::AlignLeft | Qt::AlignVCenter, tab.palette, isEnabled(), tab.text,
-                             QPalette::WindowText);
-        if (tab.state.testFlag(QStyle::State_HasFocus) && index == currentIndex()) {
-            QStyleOptionFocusRect focus;
-            focus.initFrom(this);
-            focus.rect = tab.rect.adjusted(3, 3, -3, -3);
-            painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-        }
+    else if (selected)
+        painter.fillRect(tab.rect.adjusted(1, 1, -1, -1), tab.palette.highlight());
+
+    const Qt::Alignment alignment = isDown() ? Qt::AlignLeft : Qt::AlignHCenter;
+    const QPalette::ColorRole colour = !isDown()  ? QPalette::WindowText
+                                       : selected ? QPalette::HighlightedText
+                                                  : QPalette::Text;
+    painter.drawItemText(tab.rect.adjusted(CaptionMargin, 0, -CaptionMargin, 0), alignment | Qt::AlignVCenter,
+                         tab.palette, isEnabled(), tab.text, colour);
+    if (selected && hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = tab.rect.adjusted(3, 3, -3, -3);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
     }
 }

@@ -2,6 +2,8 @@
 
 #include <QTabBar>
 
+class QStylePainter;
+
 /// A tab strip that tells of every click, also of one on the tab that is already selected.
 ///
 /// Tabs count from 1 to the outside, as everywhere in the system.
@@ -10,7 +12,7 @@ class TabStrip final : public QTabBar
     Q_OBJECT
 
 public:
-    /// Across the top, or one below the other with the captions upright, for a narrow column.
+    /// Across the top, or one below the other like the lines of a list, for a narrow column.
     enum Direction { Across, Down };
 
     /// The first tab is selected from the start, without a click.
@@ -34,4 +36,5 @@ protected:
 
 private:
     bool isDown() const { return shape() == RoundedWest; }
+    void paintTab(QStylePainter &painter, int index);
 };
