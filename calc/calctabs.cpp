@@ -1,5 +1,10 @@
 #include "calc/calctabs.h"
 
+#include "core/numbers.h"
+#include "core/optionslots.h"
+
+#include <algorithm>
+
 namespace {
 
 constexpr FieldSet ThreeFields{TextBoxM3, TextBoxM4, TextBoxM5};
@@ -32,30 +37,32 @@ constexpr CalcTab Tabs[]{
 };
 
 constexpr CalcLabel Labels[]{
-    {TextBoxM3, 0, "n (mol)"},
-    {TextBoxM4, 1, "m (g)"},
-    {TextBoxM5, 2, "M (g/mol)"},
-    {Ci, 4, "Ci (mol/L)"},
-    {Vi, 5, "Vi (L)"},
-    {Cf, 6, "Cf (mol/L)"},
-    {Vf, 7, "Vf (L)"},
-    {T, 13, "T"},
-    {Xn1, 11, "Xn1"},
-    {Xn2, 10, "Xn2"},
-    {M1, 12, "M1 (g/mol)"},
-    {Xm1, 9, "Xm1"},
-    {Xm2, 3, "Xm2"},
-    {M2, 8, "M2 (g/mol)"},
-    {Tc, 15, "T (°C)"},
-    {P, 14, "P (mbar, mmHg...)"},
-    {TcStar, 16, "T* (°C)"},
-    {PStar, 17, "P* (mbar, mmHg...)"},
+    {TextBoxM3, 0, "n (mol)", 0, 0},
+    {TextBoxM4, 1, "m (g)", 0, 1},
+    {TextBoxM5, 2, "M (g/mol)", 0, 2},
+    {Ci, 4, "Ci (mol/L)", 0, 0},
+    {Vi, 5, "Vi (L)", 0, 1},
+    {Cf, 6, "Cf (mol/L)", 1, 0},
+    {Vf, 7, "Vf (L)", 1, 1},
+    {T, 13, "T", 1, 2},
+    {Xn1, 11, "Xn1", 0, 0},
+    {Xn2, 10, "Xn2", 0, 1},
+    {M1, 12, "M1 (g/mol)", 0, 2},
+    {Xm1, 9, "Xm1", 1, 0},
+    {Xm2, 3, "Xm2", 1, 1},
+    {M2, 8, "M2 (g/mol)", 1, 2},
+    {Tc, 15, "T (°C)", 0, 0},
+    {P, 14, "P (mbar, mmHg...)", 0, 1},
+    {TcStar, 16, "T* (°C)", 1, 0},
+    {PStar, 17, "P* (mbar, mmHg...)", 1, 1},
 };
 
 constexpr Liquid Liquids[]{{3, "Others", 85}, {2, "Methane", 73}, {1, "Water", 109}};
 
 constexpr Field ClearingOrder[]{TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M1,     M2,
                                 Ci,        Vi,        Cf,        Vf,  T,   Tc,  P,   TcStar, PStar};
+
+constexpr Field OptionsClearingOrder[]{TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M2, M1};
 
 } // namespace
 
@@ -79,8 +86,19 @@ std::span<const Field> CalcTabs::clearingOrder()
     return ClearingOrder;
 }
 
+std::span<const Field> CalcTabs::optionsClearingOrder()
+{
+    return OptionsClearingOrder;
+}
+
 QString CalcTabs::name(Field field)
 {
     return field < TextBoxM7Count ? QStringLiteral("TextBoxM7(%1)").arg(int(field))
                                   : QStringLiteral("TextBoxM%1").arg(field - TextBoxM3 + 3);
+}
+
+int CalcTabs::decimals(const OptionSlots &OptionSlots)
+{
+    constexpr double Most = 99; // more than any field takes
+    return Numbers::roundHalfToEven(std::clamp(OptionSlots(Slot::Decimals).toNumber(), 0.0, Most));
 }

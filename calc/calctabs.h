@@ -2,8 +2,9 @@
 
 #include "calc/calcfields.h"
 
-#include <QStringList>
 #include <span>
+
+class OptionSlots;
 
 /// A tab of `TabStrip4`: what it is called and what it shows. Everything of the calculator that a tab does
 /// not name is hidden on it.
@@ -17,12 +18,14 @@ struct CalcTab
     bool asksForLiquid; ///< shows `Option10` and `lbln(0)`
 };
 
-/// A field and its label.
+/// A field with its label, and its place in the grid of the fields that show together.
 struct CalcLabel
 {
     Field field;
     int lbl2;            ///< index of the label
     const char *caption; ///< UTF-8
+    int row;
+    int column;
 };
 
 /// An option button of `Option10`: a kind of liquid and its molar entropy of vaporisation.
@@ -47,8 +50,14 @@ std::span<const Liquid> liquids();
 /// The three fields of tabs 1 to 3, then the fifteen of the array.
 std::span<const Field> clearingOrder();
 
+/// What an OK of the options empties, in its order. The fields of tabs 4 and 6 keep their texts.
+std::span<const Field> optionsClearingOrder();
+
 /// "TextBoxM7(3)"
 QString name(Field field);
+
+/// What slot 0 gives to the `decimales` of the entry fields. RuntimeError 13 if it holds a word.
+int decimals(const OptionSlots &OptionSlots);
 
 /// What stands before the gap in the formula of tab 6 that a delta is drawn into, and the gap itself.
 inline constexpr char BeforeDelta[] = "P = P* . exp [ - (";

@@ -1,0 +1,44 @@
+#include "calc/calculationspane.h"
+
+#include "calc/constantsbox.h"
+#include "calc/conversionbox.h"
+#include "calc/solverbox.h"
+
+namespace {
+
+constexpr int Margin = 8;
+constexpr int Gap = 12;
+constexpr int ConversionWidth = 205;
+constexpr int SolverHeight = 158;
+
+} // namespace
+
+CalculationsPane::CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists,
+                                   const UnitLists &units, QWidget *parent)
+    : ModulePanel("Frame2", parent), m_module(module), m_desktop(desktop), m_lists(lists), m_units(units)
+{}
+
+void CalculationsPane::buildContents()
+{
+    const QRect room = QRect({}, Size).adjusted(Margin, Margin / 2, -Margin, -Margin / 2);
+    const int left = room.width() - ConversionWidth - Gap;
+    const int below = SolverHeight + Margin;
+
+    m_solver = new SolverBox(m_module, m_desktop, this);
+    m_solver->setGeometry(room.left(), room.top(), left, SolverHeight);
+    m_conversions = new ConversionBox(m_module, m_desktop, m_units, this);
+    m_conversions->setGeometry(room.left() + left + Gap, room.top(), ConversionWidth, room.height());
+    auto *constants = new ConstantsBox(m_lists, {left, room.height() - below}, this);
+    constants->move(room.left(), room.top() + below);
+}
+
+void CalculationsPane::emptyEntryFields()
+{
+    if (!isBuilt())
+        return;
+    const auto order = CalcTabs::optionsClearingOrder();
+    constexpr size_t SharedFields = 3;
+    m_solver->empty(order.first(SharedFields));
+    m_conversions->reset();
+    m_solver->empty(order.subspan(SharedFields));
+}

@@ -1,0 +1,162 @@
+#include "calc/conversionbox.h"
+
+#include "calc/calctabs.h"
+#include "calc/unitlists.h"
+#include "core/controls.h"
+#include "core/desktop.h"
+#include "core/module1.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int Decimals = 10; // until slot 0 tells otherwise
+constexpr int MaxLength = 25;
+
+QStringList captions()
+{
+    QStringList captions;
+    for (const Quantity &quantity : UnitConverter::quantities())
+        captions << QString::fromLatin1(quantity.caption);
+    return captions;
+}
+
+const Quantity &quantity(int tab)
+{
+    return UnitConverter::quantities()[size_t(tab - 1)];
+}
+
+} // namespace
+
+ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent)
+    : QWidget(parent), m_module(module), m_desktop(desktop), m_converter([this](int tab) {
+          return UnitPair{list(quantity(tab).inputList).currentRow(),
+                          list(quantity(tab).resultList).currentRow()};
+      }),
+      TabStrip3(new TabStrip(QStringLiteral("TabStrip3"), captions(), TabStrip::Down, this)),
+      TextBoxM1(Controls::named(new TextBoxM(TextBoxM::SignedNumber, Decimals, MaxLength, this),
+                                QStringLiteral("TextBoxM1"))),
+      TextBoxM2(
+          Controls::named(new TextBoxM(TextBoxM::SignedNumber, 0, 0, this), QStringLiteral("TextBoxM2")))
+{
+    TextBoxM2->setReadOnly(true);
+    TextBoxM1->installEventFilter(this);
+    TextBoxM2->installEventFilter(this);
+    buildLists(units);
+    connect(TabStrip3, &TabStrip::tabClicked, this,
+            [this](int tab) { atEdge(m_desktop, [&] { clickTab(tab); }); });
+    // A text pasted by the mouse or dropped comes without a key.
+    connect(TextBoxM1, &QLineEdit::textEdited, this, &ConversionBox::convert);
+    showLists(1);
+    reset();
+}
+
+void ConversionBox::buildLists(const UnitLists &units)
+{
+    for (const Quantity &each : UnitConverter::quantities()) {
+        buildList(each.inputList, units.names(each.inputList), each.startInput);
+        buildList(each.resultList, units.names(each.resultList), each.startResult);
+    }
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(3);
+    column->addWidget(Controls::heading({}, QStringLiteral("Conversions"), this));
+    column->addWidget(TabStrip3);
+    const auto addHalf = [&](const QString &caption, TextBoxM *box, int Quantity::*which) {
+        QLabel *label = Controls::label({}, caption, this);
+        label->setBuddy(box);
+        column->addSpacing(3);
+        column->addWidget(label);
+        column->addWidget(box);
+        for (const Quantity &each : UnitConverter::quantities())
+            column->addWidget(&list(each.*which), 1);
+    };
+    addHalf(QStringLiteral("From"), TextBoxM1, &Quantity::inputList);
+    addHalf(QStringLiteral("To"), TextBoxM2, &Quantity::resultList);
+}
+
+QListWidget &ConversionBox::buildList(int number, const QStringList &names, int start)
+{
+    auto *list = Controls::named(new QListWidget(this), QStringLiteral("List%1").arg(number));
+    m_lists[size_t(number - 1)] = list;
+    list->addItems(names);
+    for (int row = 0; row < list->count(); ++row)
+        list->item(row)->setToolTip(names[row]); // for fonts that leave a name no room
+    list->setCurrentRow(start);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setAccessibleName(number % 2 == 1 ? QStringLiteral("Unit of the number")
+                                            : QStringLiteral("Unit of the result"));
+    connect(list, &QListWidget::itemClicked, this, [this, number] { clickList(number); });
+    connect(list, &QListWidget::currentRowChanged, this, [this, number] { clickList(number); });
+    return *list;
+}
+
+void ConversionBox::clickTab(int tab)
+{
+    const auto unit = [this](int number) {
+        const QListWidgetItem *item = list(number).currentItem();
+        return item ? item->text() : QString();
+    };
+    m_converter.selectTab(tab, unit(quantity(tab).inputList), unit(quantity(tab).resultList));
+    TextBoxM1->setFocus();
+    showLists(tab);
+    reset();
+}
+
+void ConversionBox::showLists(int tab)
+{
+    for (int number = 1; number <= int(m_lists.size()); ++number)
+        list(number).setVisible(number == quantity(tab).inputList || number == quantity(tab).resultList);
+    scrollToUnits();
+}
+
+// So that the units at work stand in sight, amid their neighbours.
+void ConversionBox::scrollToUnits()
+{
+    layout()->activate();
+    const Quantity &shown = quantity(TabStrip3->selectedTab());
+    for (const int number : {shown.inputList, shown.resultList})
+        list(number).scrollToItem(list(number).currentItem(), QAbstractItemView::PositionAtCenter);
+}
+
+void ConversionBox::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    scrollToUnits();
+}
+
+void ConversionBox::reset()
+{
+    TextBoxM1->setText({});
+    TextBoxM2->setText(QStringLiteral("0"));
+}
+
+void ConversionBox::convert()
+{
+    atEdge(m_desktop, [this] {
+        const int decimals = CalcTabs::decimals(m_module.OptionSlots);
+        TextBoxM1->setDecimales(decimals);
+        TextBoxM2->setDecimales(decimals);
+        TextBoxM2->setText(m_converter.keyReleased(TabStrip3->selectedTab(), TextBoxM1->text()));
+    });
+}
+
+void ConversionBox::clickList(int number)
+{
+    if (const std::optional<QString> result = m_converter.listClicked(number, TextBoxM1->text()))
+        TextBoxM2->setText(*result);
+}
+
+bool ConversionBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == TextBoxM1 && event->type() == QEvent::KeyRelease)
+        convert();
+    // Nothing typed reaches the result; a sign or a point goes no further either.
+    if (watched == TextBoxM2 && event->type() == QEvent::KeyPress) {
+        const QString text = static_cast<QKeyEvent *>(event)->text();
+        return text == QLatin1String("-") || text == QLatin1String(".");
+    }
+    return QWidget::eventFilter(watched, event);
+}

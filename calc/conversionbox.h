@@ -1,0 +1,47 @@
+#pragma once
+
+#include "calc/unitconverter.h"
+#include "core/tabstrip.h"
+#include "core/textboxm.h"
+
+#include <QListWidget>
+
+class Desktop;
+class UnitLists;
+struct Module1;
+
+/// The unit conversions: `TextBoxM1` in the unit of one list, `TextBoxM2` in that of the other.
+class ConversionBox final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p units are filled already.
+    ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent);
+
+    /// Back to no input and the result "0"; the selected units stay.
+    void reset();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildLists(const UnitLists &units);
+    QListWidget &buildList(int list, const QStringList &names, int start);
+    void clickTab(int tab);
+    void showLists(int tab);
+    void scrollToUnits();
+    void convert();
+    void clickList(int list);
+    QListWidget &list(int number) const { return *m_lists[size_t(number - 1)]; }
+
+    const Module1 &m_module;
+    Desktop &m_desktop;
+    UnitConverter m_converter;
+
+    TabStrip *TabStrip3;
+    TextBoxM *TextBoxM1;
+    TextBoxM *TextBoxM2;
+    std::array<QListWidget *, 16> m_lists{}; ///< `List1` to `List16`
+};

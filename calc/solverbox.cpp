@@ -1,0 +1,231 @@
+#include "calc/solverbox.h"
+
+#include "calc/changewatcher.h"
+#include "calc/solver.h"
+#include "core/desktop.h"
+#include "core/module1.h"
+#include "core/symboltext.h"
+
+#include <QButtonGroup>
+#include <QEvent>
+#include <QGridLayout>
+
+namespace {
+
+constexpr int Decimals = 10; // until slot 0 tells otherwise
+constexpr int MaxLength = 23;
+constexpr int FieldWidth = 160;
+constexpr int RowsPerField = 2; // label and field
+
+QStringList captions()
+{
+    QStringList captions;
+    for (const CalcTab &tab : CalcTabs::tabs())
+        captions << QString::fromUtf8(tab.caption);
+    return captions;
+}
+
+// Fields that never show together share their places; a hidden one takes no room, so each group gets rows of
+// its own.
+int firstGridRow(Field field)
+{
+    constexpr int RowsPerGroup = 2 * RowsPerField;
+    const auto tabs = CalcTabs::tabs();
+    const auto shows = [field](const CalcTab &tab) { return tab.fields.contains(field); };
+    return int(std::find_if(tabs.begin(), tabs.end(), shows) - tabs.begin()) * RowsPerGroup;
+}
+
+} // namespace
+
+SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
+    : QWidget(parent), m_module(module), m_desktop(desktop),
+      TabStrip4(new TabStrip(QStringLiteral("TabStrip4"), captions(), TabStrip::Across, this))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(4);
+    column->addWidget(TabStrip4);
+    column->addWidget(&lbln.add(3, Controls::label({}, {}, this)));
+    lbln.add(0, Controls::label({}, SymbolText::toUnicode(QStringLiteral("D")), &lbln[3]));
+    lbln[3].setContentsMargins(4, 3, 0, 3);
+
+    auto *line = new QHBoxLayout;
+    line->setContentsMargins(4, 0, 0, 0);
+    line->setSpacing(16);
+    column->addLayout(line, 1);
+    buildFields(*line);
+    buildLiquids(*line);
+    line->addStretch(1);
+    buildButtons(*line);
+
+    connect(TabStrip4, &TabStrip::tabClicked, this, &SolverBox::clickTab);
+    showTab(1);
+}
+
+void SolverBox::buildFields(QBoxLayout &line)
+{
+    auto *column = new QVBoxLayout;
+    line.addLayout(column);
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(2);
+    column->addLayout(grid);
+    column->addStretch(1);
+    for (const CalcLabel &each : CalcTabs::labels()) {
+        const bool isSigned = each.field == Tc || each.field == TcStar;
+        auto *field = new TextBoxM(isSigned ? TextBoxM::SignedNumber : TextBoxM::UnsignedNumber, Decimals,
+                                   MaxLength, this);
+        m_fields[each.field] = field;
+        if (each.field < TextBoxM7Count) {
+            TextBoxM7.add(each.field, field);
+            connect(field, &QLineEdit::textChanged, this,
+                    [this, changed = each.field] { atEdge(m_desktop, [&] { watch(changed); }); });
+        } else {
+            Controls::named(field, CalcTabs::name(each.field));
+        }
+        QLabel &label = lbl2.add(each.lbl2, Controls::label({}, QString::fromUtf8(each.caption), this));
+        label.setBuddy(field);
+        field->setFixedWidth(FieldWidth);
+        const int row = firstGridRow(each.field) + each.row * RowsPerField;
+        grid->addWidget(&label, row, each.column);
+        grid->addWidget(field, row + 1, each.column);
+        connect(field, &QLineEdit::returnPressed, this, &SolverBox::calculate);
+    }
+}
+
+void SolverBox::buildLiquids(QBoxLayout &line)
+{
+    auto *group = new QButtonGroup(this);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(2);
+    m_liquidHeading = Controls::label({}, QStringLiteral("Liquid"), this);
+    column->addWidget(m_liquidHeading);
+    for (const Liquid &liquid : CalcTabs::liquids()) {
+        auto &option = Option10.add(liquid.option, new QRadioButton(QString::fromUtf8(liquid.caption), this));
+        option.setChecked(group->buttons().isEmpty());
+        group->addButton(&option);
+        column->addWidget(&option);
+    }
+    column->addStretch(1);
+    line.addLayout(column);
+    Option10.connectEach(&QRadioButton::clicked, this, [this](int) {
+        constexpr Field vapour[]{Tc, P, TcStar, PStar};
+        empty(vapour);
+    });
+}
+
+void SolverBox::buildButtons(QBoxLayout &line)
+{
+    auto *column = new QVBoxLayout;
+    column->setSpacing(6);
+    for (const char *caption : {"Calculate", "Clear"})
+        column->addWidget(
+            &Command8.add(column->count(), new QPushButton(QString::fromLatin1(caption), this)));
+    column->addStretch(1);
+    line.addLayout(column);
+    connect(&Command8[0], &QPushButton::clicked, this, &SolverBox::calculate);
+    connect(&Command8[1], &QPushButton::clicked, this, [this] { empty(CalcTabs::clearingOrder()); });
+}
+
+void SolverBox::clickTab(int tab)
+{
+    TabStrip4->setFocus();
+    showTab(tab);
+    for (int field = 0; field < FieldCount; ++field) {
+        if (CalcTabs::tabs()[size_t(tab - 1)].emptied.contains(Field(field)))
+            write({Field(field), {}});
+    }
+}
+
+void SolverBox::showTab(int number)
+{
+    const CalcTab &tab = CalcTabs::tabs()[size_t(number - 1)];
+    for (const CalcLabel &each : CalcTabs::labels()) {
+        m_fields[each.field]->setVisible(tab.fields.contains(each.field));
+        lbl2[each.lbl2].setVisible(tab.fields.contains(each.field));
+    }
+    m_liquidHeading->setVisible(tab.asksForLiquid);
+    for (const auto &[index, option] : Option10)
+        option->setVisible(tab.asksForLiquid);
+    lbln[0].setVisible(tab.asksForLiquid);
+    lbln[3].setText(QString::fromUtf8(tab.formula));
+    placeDelta();
+    for (int index = 0; index < int(tab.over.size()); ++index) {
+        if (const char *caption = tab.over[size_t(index)])
+            lbl2[index].setText(QString::fromUtf8(caption));
+    }
+}
+
+void SolverBox::calculate()
+{
+    atEdge(m_desktop, [this] {
+        const Outcome outcome = Solver::solve(TabStrip4->selectedTab(), texts(), vaporisationEntropy());
+        for (const Change &change : outcome.changes)
+            write(change);
+        if (!outcome.message.isEmpty())
+            m_desktop.messageBox(outcome.message, Desktop::Warning);
+    });
+}
+
+void SolverBox::watch(Field changed)
+{
+    const int decimals = CalcTabs::decimals(m_module.OptionSlots);
+    for (const auto &[index, field] : TextBoxM7)
+        field->setDecimales(decimals);
+    const ChangeWatcher::Reaction reaction = ChangeWatcher::react(changed, texts());
+    if (!reaction.message.isEmpty())
+        m_desktop.messageBox(reaction.message, Desktop::Warning);
+    for (const Change &change : reaction.changes)
+        write(change);
+}
+
+// The text that stands there already must not be written again: that would move the cursor under the user's
+// hands.
+void SolverBox::write(const Change &change)
+{
+    TextBoxM &field = *m_fields[change.field];
+    if (field.text() != change.text)
+        field.setText(change.text);
+}
+
+void SolverBox::empty(std::span<const Field> fields)
+{
+    for (const Field field : fields)
+        write({field, {}});
+}
+
+FieldTexts SolverBox::texts() const
+{
+    FieldTexts texts;
+    for (size_t field = 0; field < texts.size(); ++field)
+        texts[field] = m_fields[field]->text();
+    return texts;
+}
+
+std::optional<double> SolverBox::vaporisationEntropy() const
+{
+    for (const Liquid &liquid : CalcTabs::liquids()) {
+        if (Option10[liquid.option].isChecked())
+            return liquid.entropy;
+    }
+    return std::nullopt;
+}
+
+void SolverBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        placeDelta();
+}
+
+// In the middle of the gap that the formula leaves for it.
+void SolverBox::placeDelta()
+{
+    QLabel &delta = lbln[0];
+    const QFontMetrics metrics(lbln[3].font());
+    const int before = metrics.horizontalAdvance(QLatin1String(CalcTabs::BeforeDelta));
+    const int gap = metrics.horizontalAdvance(QLatin1String(CalcTabs::DeltaGap));
+    delta.adjustSize();
+    const QMargins margins = lbln[3].contentsMargins();
+    delta.move(margins.left() + before + (gap - delta.width()) / 2, margins.top());
+}

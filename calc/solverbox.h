@@ -1,0 +1,59 @@
+#pragma once
+
+#include "calc/calctabs.h"
+#include "core/controlarray.h"
+#include "core/tabstrip.h"
+#include "core/textboxm.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <optional>
+
+class Desktop;
+class QBoxLayout;
+struct Module1;
+
+/// The solution calculators: `TabStrip4` over one set of fields, of which each tab shows its own.
+///
+/// It keeps no numbers: a click on "Calculate" reads the texts of that moment.
+class SolverBox final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent);
+
+    /// Empties the fields, one after the other.
+    void empty(std::span<const Field> fields);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildFields(QBoxLayout &line);
+    void buildLiquids(QBoxLayout &line);
+    void buildButtons(QBoxLayout &line);
+
+    void clickTab(int tab);
+    void showTab(int tab);
+    void calculate();
+    void watch(Field changed);
+    void write(const Change &change);
+    void placeDelta();
+
+    FieldTexts texts() const;
+    std::optional<double> vaporisationEntropy() const;
+
+    const Module1 &m_module;
+    Desktop &m_desktop;
+
+    TabStrip *TabStrip4;
+    ControlArray<QLabel> lbln{"lbln"}; ///< 0 the delta, 3 the formula it is drawn in
+    ControlArray<QLabel> lbl2{"lbl2"};
+    ControlArray<TextBoxM> TextBoxM7{"TextBoxM7"};
+    ControlArray<QRadioButton> Option10{"Option10"};
+    ControlArray<QPushButton> Command8{"Command8"};
+    std::array<TextBoxM *, FieldCount> m_fields{};
+    QLabel *m_liquidHeading = nullptr;
+};
