@@ -3,6 +3,7 @@
 #include "app/frmload.h"
 #include "app/menulayout.h"
 #include "browsers/solventspane.h"
+#include "calc/calculationspane.h"
 #include "core/buildsettings.h"
 #include "core/desktop.h"
 #include "core/icons.h"
@@ -87,6 +88,8 @@ ModulePanel *Form1::makePanel(PanelId id)
         m_solvents = new SolventsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
         connect(m_solvents, &SolventsPane::tabChanged, this, &Form1::updateCommands);
         return m_solvents;
+    case PanelId::Calculations:
+        return new CalculationsPane(m_module, m_desktop, m_store.lists, m_units, m_paneArea);
     default:
         return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
     }
@@ -119,6 +122,7 @@ void Form1::load(frmload &splash, TableLoader &loader)
     loadTables(splash, loader);
     loadMenus();
     m_decimals = m_module.OptionSlots(Slot::Decimals);
+    m_units.fill(m_module.OptionSlots, m_module.UnitItemCount);
 }
 
 void Form1::loadTables(frmload &splash, TableLoader &loader)

@@ -2,6 +2,7 @@
 
 #include "app/commandbars.h"
 #include "app/paneswitch.h"
+#include "calc/unitlists.h"
 #include "search/findbar.h"
 
 #include <QLabel>
@@ -72,5 +73,6 @@ private:
     SolventsPane *m_solvents = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
 
-    Value m_decimals; ///< decimals of the calculators, from the options
+    UnitLists m_units; ///< filled at the end of the load
+    Value m_decimals;  ///< decimals of the calculators, from the options
 };
