@@ -7,7 +7,6 @@
 namespace {
 
 constexpr int Gap = 6;
-constexpr int TitleHeight = 20;
 
 // Indices of the titles that some tabs have no data for.
 constexpr int Dimension = 29;
@@ -27,7 +26,7 @@ TabStrip *makeStrip(const QString &name, const QString &caption, const QStringLi
         left = heading->geometry().right() + 2 * Gap;
     }
     strip->setGeometry(left, place.top(), place.right() + 1 - left, height);
-    place.setTop(place.top() + height + TitleHeight);
+    place.setTop(place.top() + height + TitleFrame::OneLine);
     return strip;
 }
 
@@ -66,7 +65,7 @@ void ConstantsBox::buildConstants(RowLists &lists, const QRect &place)
         {"Universal", "Electromagnetic", "Atomic / nuclear", "Physico-chemical", "Mathematical"}, room, this);
     makeStack(ListView2, lists.ListView2, 5, {{"Name", 310}, {"Symbol", 90}, {"Value", 170}, {"Units", 130}},
               room, *strip);
-    auto *frmunit1 = new TitleFrame(QStringLiteral("frmunit1"), this, TitleHeight);
+    auto *frmunit1 = new TitleFrame(QStringLiteral("frmunit1"), this, TitleFrame::OneLine);
     frmunit1->addTitles(ListView2[0], Label2, {0, 1, 2, 3});
 }
 
@@ -80,7 +79,7 @@ void ConstantsBox::buildUnits(RowLists &lists, const QRect &place)
     makeStack(ListView7, lists.ListView7, 7,
               {{"Name", 190}, {"Unit", 195}, {"Symb.", 82}, {"Dimension", 118}, {"Dimension SI units", 130}},
               room, *strip);
-    auto *frmunit2 = new TitleFrame(QStringLiteral("frmunit2"), this, TitleHeight);
+    auto *frmunit2 = new TitleFrame(QStringLiteral("frmunit2"), this, TitleFrame::OneLine);
     frmunit2->addTitles(ListView7[0], Label2, {37, 36, 35, Dimension, DimensionInUnits});
     connect(strip, &TabStrip::tabClicked, this, &ConstantsBox::showUnitTitles);
     showUnitTitles(1);
