@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+/// A plain text that opens something: underlined in the colour of links, reached with Tab, pressed with Enter
+/// or the space bar like a button.
+class LinkLabel final : public QLabel
+{
+    Q_OBJECT
+
+public:
+    LinkLabel(const QString &text, const QString &target, QWidget *parent);
+
+Q_SIGNALS:
+    void clicked(const QString &target);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    const QString m_target;
+};

@@ -1,0 +1,57 @@
+#include "browsers/referencespane.h"
+
+#include "browsers/linklabel.h"
+#include "core/desktop.h"
+
+#include <QList>
+
+using Kind = References::Entry::Kind;
+
+ReferencesPane::ReferencesPane(Desktop &desktop, QWidget *parent)
+    : ModulePanel("frmbiblio", parent), m_desktop(desktop)
+{}
+
+void ReferencesPane::buildContents()
+{
+    const QList<int> firstOfColumn{0, 2, 6}; // the headings "Solvents", "Calculations" and "Elements"
+    constexpr int Margin = 16;
+    constexpr int ColumnWidth = 300;
+    constexpr int ColumnGap = 14;
+    constexpr int LineGap = 5;
+    constexpr int AboveHeading = 14;
+    constexpr int BulletWidth = 9;
+
+    int left = Margin - ColumnWidth - ColumnGap;
+    int top = 0;
+    for (const References::Entry &entry : References::page()) {
+        if (entry.kind == Kind::Heading) {
+            top += AboveHeading;
+            if (firstOfColumn.contains(entry.index)) {
+                left += ColumnWidth + ColumnGap;
+                top = Margin;
+            }
+        }
+        QLabel *label = makeLabel(entry);
+        const int indent = entry.kind == Kind::Link ? BulletWidth : 0;
+        const int width = qMin(label->sizeHint().width(), ColumnWidth - indent);
+        label->setWordWrap(true);
+        label->setGeometry(left + indent, top, entry.kind == Kind::Link ? width : ColumnWidth,
+                           label->heightForWidth(width));
+        if (entry.kind == Kind::Link) {
+            QLabel *bullet = Controls::label({}, QStringLiteral("-"), this);
+            Label1.add(entry.bullet, bullet).move(left, top);
+        }
+        top += label->height() + LineGap;
+    }
+}
+
+QLabel *ReferencesPane::makeLabel(const References::Entry &entry)
+{
+    if (entry.kind == Kind::Heading)
+        return &Label1.add(entry.index, Controls::heading({}, entry.text, this));
+    if (entry.kind == Kind::Source)
+        return &Label1.add(entry.index, Controls::label({}, entry.text, this));
+    auto *link = new LinkLabel(entry.text, entry.target, this);
+    connect(link, &LinkLabel::clicked, this, [this](const QString &target) { m_desktop.openTarget(target); });
+    return &Label1.add(entry.index, link);
+}

@@ -1,0 +1,87 @@
+#include "browsers/textpanes.h"
+
+#include "browsers/references.h"
+#include "core/controls.h"
+#include "core/desktop.h"
+#include "core/icons.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+constexpr int Margin = 32;
+constexpr int TextWidth = 620; // a line that the eye can follow
+
+/// Heading and paragraphs from the top left of @p pane; what follows stands below them.
+QVBoxLayout *layOutText(QWidget *pane, const QString &heading, const QStringList &paragraphs)
+{
+    auto *column = new QVBoxLayout(pane);
+    column->setContentsMargins(Margin, Margin, Margin, Margin);
+    column->setSpacing(14);
+    QLabel *title = Controls::heading({}, heading, pane);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    title->setFont(large);
+    column->addWidget(title);
+    for (const QString &paragraph : paragraphs) {
+        QLabel *text = Controls::label({}, paragraph, pane);
+        text->setWordWrap(true);
+        text->setFixedWidth(TextWidth);
+        column->addWidget(text);
+    }
+    return column;
+}
+
+} // namespace
+
+DonatePane::DonatePane(Desktop &desktop, QWidget *parent) : ModulePanel("frmdon", parent), m_desktop(desktop)
+{}
+
+void DonatePane::buildContents()
+{
+    QVBoxLayout *column = layOutText(
+        this, tr("Donate"),
+        {tr("Alembra is free software. If it saves you a walk to the library now and then, a donation helps "
+            "to "
+            "keep its tables growing and its web site open."),
+         tr("A click on either picture opens the donation page in your browser. The program itself neither "
+            "asks for nor sends anything.")});
+    auto *pictures = new QHBoxLayout;
+    pictures->setSpacing(24);
+    pictures->addWidget(makePicture(QStringLiteral("Image1"), Icons::named(QStringLiteral("donate"))));
+    pictures->addWidget(makePicture(QStringLiteral("Image2"), Icons::program()));
+    pictures->addStretch();
+    column->addLayout(pictures);
+    column->addStretch();
+}
+
+QWidget *DonatePane::makePicture(const QString &name, const QIcon &icon)
+{
+    constexpr QSize PictureSize{96, 96};
+    auto *picture = Controls::named(new QToolButton(this), name);
+    picture->setIcon(icon);
+    picture->setIconSize(PictureSize);
+    picture->setFixedSize(PictureSize + QSize(24, 24));
+    picture->setAutoRaise(true);
+    picture->setCursor(Qt::PointingHandCursor);
+    picture->setFocusPolicy(Qt::StrongFocus);
+    picture->setAccessibleName(tr("Open the donation page"));
+    picture->setToolTip(References::donationPage());
+    connect(picture, &QToolButton::clicked, this,
+            [this] { m_desktop.openTarget(References::donationPage()); });
+    return picture;
+}
+
+PolymersPane::PolymersPane(QWidget *parent) : ModulePanel("frmpolym", parent)
+{}
+
+void PolymersPane::buildContents()
+{
+    layOutText(this, tr("Polymers"),
+               {tr("This version has no tables on polymers. The solvents that dissolve and precipitate them "
+                   "stand on the pane Solvents, the functional groups of their spectra on the pane "
+                   "Spectroscopy.")})
+        ->addStretch();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/modulepanel.h"
+
+class Desktop;
+
+/// `frmdon`: why and how to give, with two pictures that open the donation page.
+class DonatePane final : public ModulePanel
+{
+    Q_OBJECT
+
+public:
+    DonatePane(Desktop &desktop, QWidget *parent);
+
+protected:
+    void buildContents() override;
+
+private:
+    QWidget *makePicture(const QString &name, const QIcon &icon);
+
+    Desktop &m_desktop;
+};
+
+/// `frmpolym`: says that there is nothing on polymers yet.
+class PolymersPane final : public ModulePanel
+{
+    Q_OBJECT
+
+public:
+    explicit PolymersPane(QWidget *parent);
+
+protected:
+    void buildContents() override;
+};
