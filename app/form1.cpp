@@ -2,7 +2,11 @@
 
 #include "app/frmload.h"
 #include "app/menulayout.h"
+#include "browsers/biochemistrypane.h"
+#include "browsers/referencespane.h"
+#include "browsers/solutionspane.h"
 #include "browsers/solventspane.h"
+#include "browsers/textpanes.h"
 #include "calc/calculationspane.h"
 #include "core/buildsettings.h"
 #include "core/desktop.h"
@@ -90,6 +94,16 @@ ModulePanel *Form1::makePanel(PanelId id)
         return m_solvents;
     case PanelId::Calculations:
         return new CalculationsPane(m_module, m_desktop, m_store.lists, m_units, m_paneArea);
+    case PanelId::Solutions:
+        return new SolutionsPane(m_store, m_paneArea);
+    case PanelId::Biochemistry:
+        return new BiochemistryPane(m_module, m_store, m_desktop, m_paneArea);
+    case PanelId::References:
+        return new ReferencesPane(m_desktop, m_paneArea);
+    case PanelId::Polymers:
+        return new PolymersPane(m_paneArea);
+    case PanelId::Donate:
+        return new DonatePane(m_desktop, m_paneArea);
     default:
         return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
     }
