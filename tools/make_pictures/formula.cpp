@@ -1,5 +1,7 @@
 #include "tools/make_pictures/formula.h"
 
+#include "tools/make_pictures/atomlabel.h"
+
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -7,11 +9,67 @@
 #include <GraphMol/RWMol.h>
 #include <GraphMol/SmilesParse/SmilesParse.h>
 
+#include <algorithm>
+
 namespace {
 
 RDKit::DrawColour drawColour(const QColor &colour)
 {
     return {colour.redF(), colour.greenF(), colour.blueF()};
+}
+
+bool isPhenylOnPhosphorus(const RDKit::RWMol &molecule, const RDKit::Atom *atom)
+{
+    const bool ring = atom->getIsAromatic() && molecule.getRingInfo()->numAtomRings(atom->getIdx()) == 1;
+    bool onPhosphorus = false;
+    for (const RDKit::Atom *neighbour : molecule.atomNeighbors(atom))
+        onPhosphorus = onPhosphorus || neighbour->getAtomicNum() == 15;
+    return ring && onPhosphorus;
+}
+
+/// Phenyl groups on phosphorus as "Ph": they never take part and would fill the picture.
+void shortenPhenyls(RDKit::RWMol &molecule)
+{
+    std::vector<unsigned> removed;
+    for (RDKit::Atom *ipso : molecule.atoms()) {
+        if (!isPhenylOnPhosphorus(molecule, ipso))
+            continue;
+        for (const auto &ring : molecule.getRingInfo()->atomRings()) {
+            if (std::find(ring.begin(), ring.end(), int(ipso->getIdx())) == ring.end())
+                continue;
+            for (const int i : ring) {
+                if (i != int(ipso->getIdx()))
+                    removed.push_back(unsigned(i));
+            }
+        }
+        ipso->setIsAromatic(false);
+        setLabel(*ipso, "Ph", "Ph");
+    }
+    molecule.beginBatchEdit();
+    for (const unsigned i : removed)
+        molecule.removeAtom(i);
+    molecule.commitBatchEdit();
+}
+
+/// RDKit takes what a bare metal atom or ion lacks to a closed shell for radical electrons; nobody writes
+/// them.
+void dropMetalRadicals(RDKit::RWMol &molecule)
+{
+    for (RDKit::Atom *atom : molecule.atoms()) {
+        const int z = atom->getAtomicNum();
+        const bool metal = (z >= 11 && z <= 13) || (z >= 19 && z <= 31) || (z >= 37 && z <= 50) || z >= 55;
+        if (metal)
+            atom->setNumRadicalElectrons(0);
+    }
+}
+
+/// RDKit would put the sign between the atom and a bond to its right, where it reads as a part of the bond.
+void clearNegativeEnds(RDKit::RWMol &molecule)
+{
+    for (RDKit::Atom *atom : molecule.atoms()) {
+        if (atom->getFormalCharge() == -1 && atom->getDegree() == 1)
+            labelWithHydrogens(*atom);
+    }
 }
 
 } // namespace
@@ -26,6 +84,9 @@ std::optional<Formula> Formula::fromSmiles(const QString &smiles, const Style &s
     }
     if (!molecule || molecule->getNumAtoms() == 0)
         return std::nullopt;
+    shortenPhenyls(*molecule);
+    dropMetalRadicals(*molecule);
+    clearNegativeEnds(*molecule);
     return Formula(*molecule, style);
 }
 
@@ -37,6 +98,7 @@ Formula::Formula(RDKit::RWMol &molecule, const Style &style)
     options.scalingFactor = style.pixelsPerAngstrom;
     options.fixedFontSize = style.fontPixels;
     options.padding = 0.01;
+    options.additionalAtomLabelPadding = 0.12;
     options.bondLineWidth = 1.5;
     options.explicitMethyl = true;
     options.dummiesAreAttachments = true;

@@ -30,7 +30,7 @@ public:
         QColor mark = QColor(0xff, 0xd2, 0x66); ///< behind marked atoms
     };
 
-    /// Nothing if @p smiles is not a structure.
+    /// Nothing if @p smiles is not a structure. Phenyl groups on phosphorus are written "Ph".
     static std::optional<Formula> fromSmiles(const QString &smiles, const Style &style);
 
     /// Takes coordinates from RDKit; the atoms with the property "marked" get a coloured disc behind them.

@@ -3,15 +3,19 @@
 
 #include "tools/make_pictures/crystals.h"
 #include "tools/make_pictures/elements.h"
+#include "tools/make_pictures/geneticcode.h"
 #include "tools/make_pictures/ircharts.h"
 #include "tools/make_pictures/nmrcharts.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
+#include "tools/make_pictures/polarity.h"
+#include "tools/make_pictures/reactions.h"
 #include "tools/make_pictures/structures.h"
 #include "tools/make_pictures/table.h"
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -24,9 +28,19 @@ struct Kind
 };
 
 constexpr std::array Kinds{
-    Kind{"elements", drawElements}, Kind{"crystals", drawCrystals}, Kind{"structures", drawStructures},
-    Kind{"ir", drawIrCharts},       Kind{"nmr", drawNmrCharts},
+    Kind{"elements", drawElements},     Kind{"crystals", drawCrystals},
+    Kind{"structures", drawStructures}, Kind{"ir", drawIrCharts},
+    Kind{"nmr", drawNmrCharts},         Kind{"reactions", drawReactions},
+    Kind{"polarity", drawPolarity},     Kind{"genetic code", drawGeneticCode},
 };
+
+bool areKinds(const QStringList &names)
+{
+    return std::all_of(names.begin(), names.end(), [](const QString &name) {
+        return std::any_of(Kinds.begin(), Kinds.end(),
+                           [&](const Kind &kind) { return name == QLatin1String(kind.name); });
+    });
+}
 
 void drawKinds(const QString &data, const PictureFolder &pictures, const QStringList &wanted)
 {
@@ -44,7 +58,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments().mid(1);
-    if (arguments.size() < 2) {
+    if (arguments.size() < 2 || !areKinds(arguments.mid(2))) {
         std::fputs("usage: make_pictures <data folder> <program folder's Data> [kind ...]\n", stderr);
         return 2;
     }

@@ -1,5 +1,7 @@
 #include "tools/make_pictures/motif.h"
 
+#include "tools/make_pictures/atomlabel.h"
+
 #include <QHash>
 #include <QRegularExpression>
 
@@ -143,23 +145,6 @@ Bond::BondType bondType(const Bond *bond, const Description &from, const Descrip
     if (pattern.find('#') != std::string::npos)
         return Bond::TRIPLE;
     return pattern != "-" && from.aromatic && to.aromatic ? Bond::AROMATIC : Bond::SINGLE;
-}
-
-void setLabel(Atom &atom, const QByteArray &label, const QByteArray &fromTheRight)
-{
-    atom.setProp(RDKit::common_properties::_displayLabel, label.toStdString());
-    atom.setProp(RDKit::common_properties::_displayLabelW, fromTheRight.toStdString());
-}
-
-/// "CH3", and "H3C" for bonds that come from the right.
-void labelWithHydrogens(Atom &atom)
-{
-    const QByteArray symbol = QByteArray::fromStdString(atom.getSymbol());
-    QByteArray hydrogens = atom.getNumExplicitHs() > 0 ? "H" : "";
-    if (atom.getNumExplicitHs() > 1)
-        hydrogens += "<sub>" + QByteArray::number(atom.getNumExplicitHs()) + "</sub>";
-    const QByteArray charge = atom.getFormalCharge() > 0 ? "<sup>+</sup>" : "";
-    setLabel(atom, symbol + hydrogens + charge, hydrogens + symbol + charge);
 }
 
 /// Builds the structure from the pattern, atom by atom.

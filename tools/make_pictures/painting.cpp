@@ -61,7 +61,8 @@ QStringList wrapped(const QString &text, const QFont &font, int width)
 
 ScriptText ScriptText::formula(const QString &text, int pixels, bool bold)
 {
-    static const QRegularExpression position(QStringLiteral("(?<![^ (])[CHN][0-9]+(?![0-9A-Za-z])"));
+    static const QRegularExpression position(
+        QStringLiteral("(?<![^ (])[CEHN][0-9]+(?![0-9A-Za-z])|(?<=\\bS)N[12]\\b"));
     return {text, textFont(pixels, bold), pixels * 0.2, [](const QString &whole, int digit) {
                 const QRegularExpressionMatch match = position.match(whole, digit - 1);
                 const bool isPosition = match.hasMatch() && match.capturedStart() == digit - 1;

@@ -33,7 +33,7 @@ class ScriptText
 {
 public:
     /// Digits after an element, a bracket or R are subscripts: "CH3-CO-NR2". A word that is one letter and a
-    /// number tells a position: "furan C2-H", "H3".
+    /// number is none: positions as in "furan C2-H", and E2. Nor is SN2.
     static ScriptText formula(const QString &text, int pixels, bool bold = false);
 
     /// The numbers after the letter of a subshell are superscripts: "[Ar] 3d6 4s2".

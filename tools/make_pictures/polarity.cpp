@@ -1,0 +1,106 @@
+#include "tools/make_pictures/polarity.h"
+
+#include "tools/make_pictures/painting.h"
+#include "tools/make_pictures/picturefolder.h"
+
+#include <QLinearGradient>
+
+#include <array>
+
+namespace {
+
+struct SolventClass
+{
+    const char *name;
+    const char *examples;
+};
+
+// By rising polarity, as in the Solvents pane.
+constexpr std::array Classes{
+    SolventClass{"Alkanes", "Petroleum ether, hexane"},
+    SolventClass{"Aromatics", "Toluene, benzene"},
+    SolventClass{"Ethers", "Diethyl ether"},
+    SolventClass{"Alkyl halides", "Tetrachloromethane, chloroform"},
+    SolventClass{"Esters", "Ethyl acetate"},
+    SolventClass{"Aldehydes and ketones", "Acetone, methyl ethyl ketone"},
+    SolventClass{"Amines", "Pyridine, triethylamine"},
+    SolventClass{"Alcohols", "Methanol, ethanol, 2-propanol, butanol"},
+    SolventClass{"Amides", "Dimethylformamide"},
+    SolventClass{"Carboxylic acids", "Ethanoic acid"},
+    SolventClass{"Water", ""},
+};
+
+constexpr int Width = 313; // the size that the reports state
+constexpr int Height = 441;
+constexpr int Top = 52;
+constexpr int Bottom = 418;
+const QColor NonPolar(0xf2, 0xc4, 0x4d);
+const QColor Polar(0x3b, 0x78, 0xc2);
+
+/// The colour between the two ends, at @p share of the way to the polar one.
+QColor between(double share)
+{
+    const auto mix = [share](int from, int to) { return int(from + share * (to - from) + 0.5); };
+    return {mix(NonPolar.red(), Polar.red()), mix(NonPolar.green(), Polar.green()),
+            mix(NonPolar.blue(), Polar.blue())};
+}
+
+/// An arrow at the left that grows wider and darker towards the polar end.
+void paintArrow(QPainter &painter)
+{
+    QLinearGradient colours(0, Top, 0, Bottom);
+    colours.setColorAt(0, NonPolar);
+    colours.setColorAt(1, Polar);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours);
+    painter.drawPolygon(QPolygonF{QPointF(22, Top), QPointF(26, Top), QPointF(30, Bottom - 18),
+                                  QPointF(38, Bottom - 18), QPointF(24, Bottom), QPointF(10, Bottom - 18),
+                                  QPointF(18, Bottom - 18)});
+    painter.setPen(Ink);
+    painter.setFont(textFont(11, true));
+    painter.drawText(QRectF(6, Top - 20, 90, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Non polar"));
+    painter.drawText(QRectF(6, Bottom + 3, 90, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Polar"));
+}
+
+QImage drawLadder()
+{
+    QImage picture = blankPicture(Width, Height);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Ink);
+    painter.setFont(textFont(14, true));
+    painter.drawText(QRectF(0, 6, Width, 20), Qt::AlignCenter, QStringLiteral("Relative polarities"));
+    paintArrow(painter);
+
+    const double rowHeight = double(Bottom - Top) / Classes.size();
+    for (std::size_t i = 0; i < Classes.size(); ++i) {
+        const QRectF row(48, Top + double(i) * rowHeight, Width - 54, rowHeight - 3);
+        const QColor colour = between(double(i) / (Classes.size() - 1));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(tint(colour, 0.3));
+        painter.drawRoundedRect(row, 3, 3);
+        painter.setBrush(colour);
+        painter.drawRect(QRectF(row.left(), row.top(), 5, row.height()));
+
+        const QString examples = QString::fromLatin1(Classes[i].examples);
+        const QRectF text = row.adjusted(12, 1, -2, -1);
+        painter.setPen(Ink);
+        painter.setFont(textFont(12, true));
+        painter.drawText(text, Qt::AlignLeft | (examples.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop),
+                         QString::fromLatin1(Classes[i].name));
+        painter.setFont(textFont(11));
+        painter.drawText(text, Qt::AlignLeft | Qt::AlignBottom, examples);
+    }
+    return picture;
+}
+
+} // namespace
+
+void drawPolarity(const QString &, const PictureFolder &pictures)
+{
+    const QImage ladder = drawLadder();
+    pictures.write(QStringLiteral("img/polarite_c.jpg"), ladder);
+    pictures.write(QStringLiteral("img/polarite_ng.jpg"), inGreys(ladder));
+}
