@@ -38,13 +38,6 @@ std::optional<double> readBy(const QLocale &locale, QStringView text)
     return number;
 }
 
-QString writeBy(const QLocale &locale, double number)
-{
-    if (number == 0)
-        return locale.toString(0.0, 'G', 15); // never "-0"
-    return locale.toString(number, 'G', 15);
-}
-
 } // namespace
 
 std::optional<double> Numbers::read(QStringView text)
@@ -54,7 +47,9 @@ std::optional<double> Numbers::read(QStringView text)
 
 QString Numbers::write(double number)
 {
-    return writeBy(userLocale(), number);
+    // The separator alone is the user's. The signs and digits of some locales, Swedish "×10^" among them, are
+    // texts that QLocale writes but does not read.
+    return writeFixed(number).replace(QLatin1Char('.'), decimalPoint());
 }
 
 std::optional<double> Numbers::readFixed(QStringView text)
@@ -64,7 +59,9 @@ std::optional<double> Numbers::readFixed(QStringView text)
 
 QString Numbers::writeFixed(double number)
 {
-    return writeBy(fixedLocale(), number);
+    if (number == 0)
+        number = 0; // never "-0"
+    return fixedLocale().toString(number, 'G', 15);
 }
 
 QString Numbers::decimalPoint()

@@ -6,10 +6,10 @@
 
 /// Numbers to text and back.
 ///
-/// What a user types and reads goes by the locale of the desktop, without group separators. What stands in a
-/// file
-/// ("fixed") goes by the C locale. Written numbers have up to 15 significant digits, no trailing zeros, and
-/// the exponent form ("1E-20") for very large and very small values.
+/// What a user types and reads has the decimal separator of the desktop's locale and no group separators;
+/// what stands in a file ("fixed") goes by the C locale. Written numbers have up to 15 significant digits, no
+/// trailing zeros, and the exponent form ("1E-20") for very large and very small values; all of them can be
+/// read again.
 namespace Numbers {
 
 /// Nothing if @p text is not a number of the user's locale: group separators, "inf", "nan", hexadecimal and
