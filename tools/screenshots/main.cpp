@@ -1,0 +1,89 @@
+#include "app/form1.h"
+#include "app/program.h"
+#include "core/qtdesktop.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QTabBar>
+#include <QTimer>
+
+// Runs the program, walks through its panes and saves a picture of the main window at each:
+// screenshots <program folder> <folder for the pictures>
+
+namespace {
+
+/// A picture: the command that shows the pane, and the control that is clicked or, with a tab, selected
+/// there.
+struct Shot
+{
+    const char *file;
+    int command;
+    const char *control = nullptr;
+    int tab = 0;
+};
+
+constexpr Shot Shots[] = {
+    {"elements", 1108, "Command7(25)"},
+    {"solvents", 1119},
+    {"solvents-miscibility", 1116},
+    {"solvents-nmr", 1115},
+    {"solvents-mass", 1133},
+};
+
+void touch(Form1 &form, const Shot &shot)
+{
+    const QString name = QLatin1StringView(shot.control);
+    if (auto *tabs = form.findChild<QTabBar *>(name))
+        tabs->setCurrentIndex(shot.tab - 1);
+    else if (auto *button = form.findChild<QAbstractButton *>(name))
+        button->click();
+    else
+        qFatal("no control %s", shot.control);
+}
+
+void walk(Form1 &form, const QDir &pictures)
+{
+    for (const Shot &shot : Shots) {
+        form.executeCommand(shot.command);
+        if (shot.control)
+            touch(form, shot);
+        const QString path = pictures.filePath(QLatin1StringView(shot.file) + QStringLiteral(".png"));
+        if (!form.grab().save(path))
+            qFatal("cannot write %s", qUtf8Printable(path));
+    }
+    form.executeCommand(1005);
+}
+
+Form1 *mainWindow()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *form = qobject_cast<Form1 *>(window))
+            return form;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3)
+        qFatal("usage: screenshots <program folder> <folder for the pictures>");
+
+    // The program's own event loop runs once before the load is through: the pause of the splash.
+    QTimer started;
+    QObject::connect(&started, &QTimer::timeout, &application, [&] {
+        Form1 *form = mainWindow();
+        if (!form || !form->isVisible() || !form->isEnabled())
+            return;
+        started.stop();
+        walk(*form, QDir(arguments[2]));
+    });
+    started.start(100);
+    QtDesktop desktop;
+    return Main(desktop, QDir(arguments[1]).absolutePath());
+}
