@@ -121,6 +121,7 @@ void Form1::buildStatusBar()
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
     m_panel1 = addPanel(1, QStringLiteral("Elements"), 0);
+    m_panel1->setMinimumWidth(m_panel1->fontMetrics().averageCharWidth() * 20);
     addPanel(2, {}, 1);
     m_panel3 = addPanel(3, {}, 0);
     m_findBar = new FindBar(m_store, *m_panel3, this);

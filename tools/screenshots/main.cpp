@@ -29,6 +29,16 @@ constexpr Shot Shots[] = {
     {"solvents-miscibility", 1116},
     {"solvents-nmr", 1115},
     {"solvents-mass", 1133},
+    {"solvents-drying", 1118},
+    {"solvents-cooling", 1117},
+    {"solutions", 1113},
+    {"solutions-redox", 1113, "TabStrip2", 2},
+    {"biochemistry", 1109},
+    {"biochemistry-gels", 1109, "TabStrip8", 4},
+    {"calculations", 1120},
+    {"references", 1132},
+    {"polymers", 1138},
+    {"donate", 1131},
 };
 
 void touch(Form1 &form, const Shot &shot)
@@ -48,6 +58,7 @@ void walk(Form1 &form, const QDir &pictures)
         form.executeCommand(shot.command);
         if (shot.control)
             touch(form, shot);
+        QApplication::processEvents(); // the layout follows the texts
         const QString path = pictures.filePath(QLatin1StringView(shot.file) + QStringLiteral(".png"));
         if (!form.grab().save(path))
             qFatal("cannot write %s", qUtf8Printable(path));
