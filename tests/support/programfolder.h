@@ -1,31 +1,19 @@
 #pragma once
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A copy of the assembled program folder, for a test to spoil. Files are linked where that is harmless:
-/// pictures are many and nobody writes them.
+/// A copy of the assembled program folder, for a test to spoil. The folders of pictures and of the original
+/// database are linked: nobody writes there.
 class ProgramFolder final
 {
 public:
     explicit ProgramFolder(const QString &source = QStringLiteral(ALEMBRA_FOLDER))
     {
-        const QDir from(source);
-        QDirIterator files(source, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString file = files.next();
-            const QString target = path(from.relativeFilePath(file));
-            QDir().mkpath(QFileInfo(target).path());
-            const QString suffix = QFileInfo(file).suffix();
-            const bool picture = suffix == QStringLiteral("jpg") || suffix == QStringLiteral("bmp") ||
-                                 suffix == QStringLiteral("gif") || suffix == QStringLiteral("png");
-            if (picture)
-                QFile::link(file, target);
-            else
-                QFile::copy(file, target);
-        }
+        QDir().mkpath(path(QStringLiteral("Data")));
+        copyEntries(source, root(), {QStringLiteral("Data")});
+        copyEntries(source + QStringLiteral("/Data"), path(QStringLiteral("Data")), {});
     }
 
     QString root() const { return m_folder.path(); }
@@ -55,5 +43,20 @@ public:
     }
 
 private:
+    // Files are copied, folders linked, but for those named in @p own.
+    static void copyEntries(const QString &source, const QString &target, const QStringList &own)
+    {
+        const QFileInfoList entries = QDir(source).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot);
+        for (const QFileInfo &entry : entries) {
+            const QString to = target + QLatin1Char('/') + entry.fileName();
+            if (own.contains(entry.fileName()))
+                continue;
+            if (entry.isDir())
+                QFile::link(entry.filePath(), to);
+            else
+                QFile::copy(entry.filePath(), to);
+        }
+    }
+
     QTemporaryDir m_folder;
 };
