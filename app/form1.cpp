@@ -124,7 +124,7 @@ void Form1::buildStatusBar()
     m_panel1->setMinimumWidth(m_panel1->fontMetrics().averageCharWidth() * 20);
     addPanel(2, {}, 1);
     m_panel3 = addPanel(3, {}, 0);
-    m_findBar = new FindBar(m_store, *m_panel3, this);
+    m_findBar = new FindBar(m_store, m_desktop, *m_panel3, this);
     statusBar()->addWidget(m_findBar);
     statusBar()->setFixedHeight(statusBar()->sizeHint().height() + 8);
 }
@@ -227,8 +227,9 @@ void Form1::run(const Command &command)
         return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
-    case CommandKind::Options:
     case CommandKind::Find:
+        return m_findBar->open(m_panes->isShown(PanelId::Elements));
+    case CommandKind::Options:
     case CommandKind::About:
     case CommandKind::Export:
     case CommandKind::CheckVersion:

@@ -64,6 +64,7 @@ void SolventsPane::buildContents()
     buildNmr();
     buildMasses();
     buildDrying();
+    m_findBar.setSearchedLists(ListView1, &ListView3[26]);
     apply(SolventTabs::choose(NmrNucleus));
     apply(SolventTabs::change(1, NmrNucleus));
 }

@@ -1,19 +1,19 @@
 #include "search/findbar.h"
 
+#include "core/desktop.h"
 #include "core/icons.h"
 #include "store/datastore.h"
 #include "store/rowlistmodel.h"
+#include "store/rowlistview.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
-FindBar::FindBar(DataStore &store, QLabel &panel3, QWidget *parent)
-    : QWidget(parent), m_store(store), m_panel3(panel3)
+FindBar::FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *parent)
+    : QWidget(parent), m_store(store), m_desktop(desktop), m_panel3(panel3)
 {
     buildControls();
-    connect(Picture2, &QToolButton::clicked, this, [this] {
-        ResetSearchPanel();
-        Q_EMIT closedByUser();
-    });
+    connectControls();
     ResetSearchPanel();
 }
 
@@ -43,6 +43,45 @@ void FindBar::buildControls()
         row->addWidget(control);
 }
 
+void FindBar::connectControls()
+{
+    connect(Picture2, &QToolButton::clicked, this, &FindBar::closeByUser);
+    connect(TextBoxM6, &QLineEdit::textChanged, this,
+            [this] { atEdge(m_desktop, [this] { searchTextChanged(); }); });
+    connect(case1, &QCheckBox::clicked, this, [this] { atEdge(m_desktop, [this] { caseClicked(); }); });
+    Command11.connectEach(&QPushButton::clicked, this, [this](int index) {
+        atEdge(m_desktop, [this, index] { walk(Find::Direction(index)); });
+    });
+    TextBoxM6->installEventFilter(this);
+}
+
+void FindBar::setSearchedLists(RowListView *ListView1, RowListView *ListView3_26)
+{
+    m_ListView1 = ListView1;
+    m_ListView3_26 = ListView3_26;
+}
+
+void FindBar::open(bool elementsOnShow)
+{
+    Picture2->show();
+    m_panel3.setText(QStringLiteral("           Find :"));
+    if (elementsOnShow) {
+        Combo2_3->show();
+        return;
+    }
+    TextBoxM6->show();
+    TextBoxM6->setFocus();
+    Command11[0].show();
+    Command11[1].show();
+    case1->show();
+}
+
+void FindBar::closeByUser()
+{
+    ResetSearchPanel();
+    Q_EMIT closedByUser();
+}
+
 void FindBar::ResetSearchPanel()
 {
     Command11[1].hide();
@@ -65,4 +104,88 @@ void FindBar::ClearFindText()
     Text1->setText(QStringLiteral("0"));
     Text2->setText(QStringLiteral("0"));
     case1->setChecked(false);
+}
+
+std::optional<FindBar::Searched> FindBar::searchedList() const
+{
+    if (m_ListView1 && Controls::isShown(*m_ListView1))
+        return Searched{m_ListView1, &m_store.lists.ListView1, true};
+    if (m_ListView3_26 && Controls::isShown(*m_ListView3_26))
+        return Searched{m_ListView3_26, &m_store.lists.ListView3[26], false};
+    return {};
+}
+
+void FindBar::searchTextChanged()
+{
+    Command11[0].setEnabled(false);
+    if (const auto searched = searchedList())
+        gather(*searched, true);
+}
+
+// On the list of mass spectra, ticking leaves Next as it is.
+void FindBar::caseClicked()
+{
+    if (const auto searched = searchedList())
+        gather(*searched, searched->enablesNext);
+}
+
+void FindBar::gather(const Searched &searched, bool enableNext)
+{
+    const QString text = TextBoxM6->text();
+    SearchHit = 1;
+    SearchRow = 1;
+    Text1->setText(QStringLiteral("0"));
+    Text2->setText(QStringLiteral("0"));
+    if (enableNext)
+        Command11[1].setEnabled(!text.isEmpty());
+    RowList &hits = m_store.lists.ListView2[6];
+    if (text.isEmpty())
+        return hits.clear();
+    // Both lists are searched as far as there are solvents.
+    Find::gather(*searched.rows, m_store.SolventCount, text,
+                 case1->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
+}
+
+void FindBar::walk(Find::Direction direction)
+{
+    const RowList &hits = m_store.lists.ListView2[6];
+    const auto searched = searchedList();
+    if (hits.rowCount() == 0 || !searched)
+        return m_desktop.beep();
+    Command11[0].setEnabled(true);
+    const Find::Position current{Text1->text().toInt(), Text2->text().toInt()};
+    if (const auto found = Find::walk(*searched->rows, hits, current, direction)) {
+        SearchHit = found->hit;
+        SearchRow = found->row;
+        searched->view->selectRow(SearchRow - 1);
+        Text2->setText(QString::number(SearchRow));
+        Text1->setText(QString::number(SearchHit));
+    }
+    searched->view->setFocus();
+}
+
+// From the search text one walks on with the same key, so it keeps the focus.
+void FindBar::walkFromText(Find::Direction direction)
+{
+    Command11[int(direction)].click();
+    TextBoxM6->setFocus();
+}
+
+bool FindBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    switch (key->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        walkFromText(key->modifiers() & Qt::ShiftModifier ? Find::Direction::Previous
+                                                          : Find::Direction::Next);
+        return true;
+    case Qt::Key_Escape:
+        closeByUser();
+        return true;
+    default:
+        return QWidget::eventFilter(watched, event);
+    }
 }

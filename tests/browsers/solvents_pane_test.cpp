@@ -47,7 +47,7 @@ public:
     DataStore store;
     ScriptedDesktop desktop;
     QLabel panel3;
-    FindBar findBar{store, panel3, this};
+    FindBar findBar{store, desktop, panel3, this};
     SolventsPane pane{module, store, desktop, findBar, this};
 };
 

@@ -22,7 +22,7 @@ constexpr int Uuo = 117;
 /// `Form1` with the pane, the Find bar and nothing else.
 struct Rig
 {
-    explicit Rig(DataStore &store, const QString &folder) : findBar(store, panel3, &form1)
+    explicit Rig(DataStore &store, const QString &folder) : findBar(store, desktop, panel3, &form1)
     {
         module1.AppFolder = folder;
         for (const Slot slot : {Slot::ToolTips, Slot::ElementZoom, Slot::ElementPicture})
@@ -365,7 +365,7 @@ void ElementsPaneTest::optionsReachThePaneBeforeItIsBuilt()
     Module1 module1;
     QWidget form1;
     QLabel panel3;
-    FindBar findBar(m_store, panel3, &form1);
+    FindBar findBar(m_store, m_rig->desktop, panel3, &form1);
     ElementsPane pane(module1, m_store, m_rig->desktop, findBar, &form1);
     module1.OptionSlots(Slot::ToolTips) = 1;
     module1.OptionSlots(Slot::ElementZoom) = 1;

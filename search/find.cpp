@@ -1,0 +1,37 @@
+#include "search/find.h"
+
+#include "core/runtimeerror.h"
+#include "store/rowlist.h"
+
+#include <QScopeGuard>
+#include <limits>
+
+void Find::gather(const RowList &searched, int limit, const QString &text,
+                  Qt::CaseSensitivity caseSensitivity, RowList &hits)
+{
+    hits.clear();
+    const auto tellViews = qScopeGuard([&hits] { hits.filled(); });
+    for (int SearchCursor = 1; SearchCursor <= limit; ++SearchCursor) {
+        const QString &row = searched.text(SearchCursor - 1);
+        if (row.contains(text, caseSensitivity))
+            hits.append(row);
+    }
+}
+
+std::optional<Find::Position> Find::walk(const RowList &searched, const RowList &hits, Position current,
+                                         Direction direction)
+{
+    const bool next = direction == Direction::Next;
+    if (next ? current.hit >= hits.rowCount() : current.hit <= 1)
+        return {};
+    const int step = next ? 1 : -1;
+    Position found{current.hit + step, current.row};
+    if (found.hit > std::numeric_limits<qint16>::max()) // ordinals are 16-bit numbers
+        throw RuntimeError(ErrorNumber::Overflow);
+    if (next)
+        found.row = found.hit;
+    const QString &wanted = hits.text(found.hit - 1);
+    while (searched.text(found.row - 1) != wanted)
+        found.row += step;
+    return found;
+}
