@@ -24,11 +24,13 @@ void FindBar::buildControls()
     Picture2->setAutoRaise(true);
     Picture2->setAccessibleName(tr("Close search engine"));
     TextBoxM6 = Controls::named(new QLineEdit(this), QStringLiteral("TextBoxM6"));
+    TextBoxM6->setMinimumWidth(180);
     TextBoxM6->setAccessibleName(tr("Search text"));
     case1 = Controls::named(new QCheckBox(QStringLiteral("Match case"), this), QStringLiteral("case1"));
     Command11.add(0, new QPushButton(QStringLiteral("Previous"), this));
     Command11.add(1, new QPushButton(QStringLiteral("Next"), this));
     Combo2_3 = Controls::named(new QComboBox(this), QStringLiteral("Combo2(3)"));
+    Combo2_3->setMinimumContentsLength(15); // of the longest names, "Rutherfordium" and its kind
     Combo2_3->setAccessibleName(tr("Name of the element"));
     Combo2_3->setModel(new RowListModel(m_store.lists.Combo2[3], {{tr("Name"), 160}}, Combo2_3));
     Text1 = Controls::named(new QLineEdit(QStringLiteral("0"), this), QStringLiteral("Text1"));
@@ -67,6 +69,7 @@ void FindBar::open(bool elementsOnShow)
     m_panel3.setText(QStringLiteral("           Find :"));
     if (elementsOnShow) {
         Combo2_3->show();
+        Combo2_3->setFocus();
         return;
     }
     TextBoxM6->show();
