@@ -7,6 +7,8 @@
 #include <QElapsedTimer>
 #include <cstdio>
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr double FrameNanoseconds = 1E9 / 60;

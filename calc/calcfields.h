@@ -6,6 +6,8 @@
 #include <bit>
 #include <initializer_list>
 
+namespace CalcFields {
+
 /// The entry fields of the solution calculators, by what they mean. The first fifteen are `TextBoxM7(0)` to
 /// `TextBoxM7(14)` in this order; the last three mean something else on each of the tabs 1 to 3.
 enum Field {
@@ -32,7 +34,11 @@ enum Field {
 
 inline constexpr int TextBoxM7Count = PStar + 1;
 
-using FieldTexts = std::array<QString, FieldCount>;
+} // namespace CalcFields
+
+using CalcFields::Field;
+
+using FieldTexts = std::array<QString, CalcFields::FieldCount>;
 
 /// A text that goes into a field.
 struct Change

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr FieldSet ThreeFields{TextBoxM3, TextBoxM4, TextBoxM5};

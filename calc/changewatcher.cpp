@@ -5,6 +5,8 @@
 
 #include <optional>
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr char OutOfBounds[] = "Please use a value between 0 and 1";

@@ -1,5 +1,7 @@
 #include "calc/calculation.h"
 
+using namespace CalcFields;
+
 namespace {
 
 // Compared as texts, code by code, not as numbers: "9" is above "10".

@@ -1,5 +1,7 @@
 #include "calc/calculation.h"
 
+using namespace CalcFields;
+
 namespace {
 
 void solveMolarFractions(Calculation &c)

@@ -2,6 +2,8 @@
 
 #include "core/numbers.h"
 
+using namespace CalcFields;
+
 namespace {
 
 const std::array<const TabSolver *, 6> Solvers{&AmountSolver,   &AmountSolver,   &VolumicMassSolver,

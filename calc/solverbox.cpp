@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QGridLayout>
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr int Decimals = 10; // until slot 0 tells otherwise

@@ -54,6 +54,6 @@ private:
     ControlArray<TextBoxM> TextBoxM7{"TextBoxM7"};
     ControlArray<QRadioButton> Option10{"Option10"};
     ControlArray<QPushButton> Command8{"Command8"};
-    std::array<TextBoxM *, FieldCount> m_fields{};
+    std::array<TextBoxM *, CalcFields::FieldCount> m_fields{};
     QLabel *m_liquidHeading = nullptr;
 };

@@ -2,6 +2,8 @@
 
 #include "calc/calculation.h"
 
+using namespace CalcFields;
+
 namespace {
 
 void refuseAllFilled(Calculation &c)

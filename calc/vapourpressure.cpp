@@ -3,6 +3,8 @@
 
 #include "calc/calculation.h"
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr double R = 8.314;        // J/(mol K)

@@ -19,6 +19,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+using namespace CalcFields;
+
 /// A window with the pane in it and units of the delivered names.
 class Window final : public QWidget
 {

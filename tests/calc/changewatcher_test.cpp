@@ -3,6 +3,8 @@
 #include "core/runtimeerror.h"
 #include "fieldrows.h"
 
+using namespace CalcFields;
+
 /// Fields that report a change when, and only when, they get a different text: the way the pane's fields do.
 class WatchedFields
 {

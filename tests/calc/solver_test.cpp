@@ -2,6 +2,8 @@
 
 #include "fieldrows.h"
 
+using namespace CalcFields;
+
 namespace {
 
 constexpr double Others = 85;
