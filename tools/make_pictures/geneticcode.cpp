@@ -7,7 +7,6 @@
 #include <QFontMetricsF>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -108,7 +107,7 @@ void paintBases(QPainter &painter, const Layout &layout)
                 Qt::AlignCenter, QString(QLatin1Char(Bases[third])));
     }
     painter.setPen(SoftInk);
-    painter.setFont(textFont(std::max(9, layout.pixels * 9 / 10)));
+    painter.setFont(textFont(layout.pixels * 9 / 10));
     const QRectF above(2, 2, layout.size.width() - 4, layout.pixels * 1.4);
     painter.drawText(above, Qt::AlignLeft, QStringLiteral("1st base"));
     painter.drawText(above, Qt::AlignHCenter, QStringLiteral("2nd base"));
@@ -117,7 +116,7 @@ void paintBases(QPainter &painter, const Layout &layout)
 
 void paintLegend(QPainter &painter, const Layout &layout)
 {
-    painter.setFont(textFont(std::max(9, layout.pixels * 9 / 10)));
+    painter.setFont(textFont(layout.pixels * 9 / 10));
     const double y = layout.top + 4 * layout.box.height() + layout.pixels * 0.6;
     const double side = layout.pixels;
     double x = 6;
@@ -152,7 +151,6 @@ QImage drawTable(const QHash<QString, QString> &codons, int type)
 }
 
 constexpr int ReportType = 15; // pixels
-constexpr int PaneType = 11;
 
 } // namespace
 
@@ -190,5 +188,4 @@ void drawGeneticCode(const QString &data, const PictureFolder &pictures)
     const QImage report = drawTable(codons, ReportType);
     pictures.write(QStringLiteral("img/gene_c.jpg"), report);
     pictures.write(QStringLiteral("img/gene_ng.jpg"), inGreys(report));
-    pictures.write(QStringLiteral("img/gene.png"), drawTable(codons, PaneType));
 }

@@ -14,5 +14,5 @@ class Table;
 /// their codes (aa, cod). Throws PictureError if a codon is missing, written wrongly or claimed twice.
 QHash<QString, QString> codonTable(const Table &code, const Table &acids);
 
-/// Draws the table for the reports in colour and in greys, and smaller for the pane.
+/// Draws the table in colour and in greys.
 void drawGeneticCode(const QString &data, const PictureFolder &pictures);
