@@ -18,7 +18,7 @@ add_compile_options(-Wno-maybe-uninitialized)
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(ALEMBRA_SANITIZE)
-    add_compile_options(-O1 -g1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(ALEMBRA_COVERAGE)
