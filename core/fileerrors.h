@@ -30,4 +30,13 @@ inline RuntimeError of(const QFileDevice &file)
     return RuntimeError(info.exists() ? ErrorNumber::PathAccess : ErrorNumber::FileNotFound, path);
 }
 
+/// For a @p file that could not be made or replaced: that it does not exist yet is never the reason.
+inline RuntimeError ofWriting(const QFileDevice &file)
+{
+    const RuntimeError error = of(file);
+    return error.number() == ErrorNumber::FileNotFound
+               ? RuntimeError(ErrorNumber::PathAccess, file.fileName())
+               : error;
+}
+
 } // namespace FileErrors

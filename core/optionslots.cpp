@@ -121,9 +121,9 @@ void OptionSlots::write(const QString &path) const
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        throw FileErrors::of(file);
+        throw FileErrors::ofWriting(file);
     for (int index = 0; index <= m_lastIndex; ++index)
         file.write(delimited((*this)(index)) + "\r\n");
     if (!file.flush() || file.error() != QFileDevice::NoError)
-        throw FileErrors::of(file);
+        throw FileErrors::ofWriting(file);
 }
