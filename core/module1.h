@@ -18,6 +18,13 @@ struct Module1
     /// The chart or structure last chosen by its one-based number.
     int SelectedChart = 0;
 
+    /// Class of the last row written to a report, "teven" or "tnoteven"; empty before the first row of a run.
+    /// It runs on from table to table and from report to report.
+    QString ReportRowClass;
+
+    /// What ProbeFileLength found, in bytes; after a save, the number of the error that ended it or 0.
+    qint64 ProbedLength = 0;
+
     /// Stores @p folder as `AppFolder` and, only if @p request is "opt", reads the options file in it.
     /// The result is always empty. A failure is the RuntimeError of OptionSlots::read.
     QString ReadOptions(const QString &request, const QString &folder);
