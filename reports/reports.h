@@ -1,0 +1,22 @@
+#pragma once
+
+class ReportPage;
+struct DataStore;
+
+/// The reports. Each writes one whole page from the data in memory and the options that the page knows; a
+/// picture goes in as its path alone, whether the file is there or not.
+namespace Reports {
+
+void Properties(ReportPage &page, const DataStore &data);
+void Miscibility(ReportPage &page, const DataStore &data);
+void Nmr(ReportPage &page, const DataStore &data);
+void MassSpectrometry(ReportPage &page, const DataStore &data);
+void Drying(ReportPage &page, const DataStore &data);
+void CoolingMixtures(ReportPage &page, const DataStore &data);
+void IrTable(ReportPage &page, const DataStore &data);
+void Elements(ReportPage &page, const DataStore &data);
+void Solutions(ReportPage &page, const DataStore &data);
+void Biochemistry(ReportPage &page, const DataStore &data);
+void ConstantsAndUnits(ReportPage &page, const DataStore &data);
+
+} // namespace Reports

@@ -1,0 +1,117 @@
+#include "reports/reportsave.h"
+
+#include "core/fileerrors.h"
+#include "core/module1.h"
+#include "reports/fileattributes.h"
+#include "reports/reportpage.h"
+#include "reports/reports.h"
+
+namespace {
+
+using Report = void (*)(ReportPage &, const DataStore &);
+
+struct Choice
+{
+    bool ReportContext::*onShow;
+    QString name; ///< offered for the file
+    Report report;
+};
+
+Report solventReport(int tab)
+{
+    switch (tab) {
+    case 1:
+        return Reports::Properties;
+    case 2:
+        return Reports::Miscibility;
+    case 3:
+        return Reports::Nmr;
+    case 4:
+        return Reports::MassSpectrometry;
+    case 5:
+        return Reports::Drying;
+    case 6:
+        return Reports::CoolingMixtures;
+    default:
+        return nullptr;
+    }
+}
+
+/// The first that is on show, in this order.
+std::optional<Choice> choose(const ReportContext &context)
+{
+    const Choice choices[] = {
+        {&ReportContext::frmsolv, context.panel1 + " - " + context.solventCaption,
+         solventReport(context.solventTab)},
+        {&ReportContext::Frametable, context.panel1, Reports::Elements},
+        {&ReportContext::Frame2, "Constants and Units", Reports::ConstantsAndUnits},
+        {&ReportContext::frmbioch, "Biochemistry", Reports::Biochemistry},
+        {&ReportContext::frmsolution, "Solutions", Reports::Solutions},
+        {&ReportContext::ListView3_27, "IR - Table", Reports::IrTable},
+    };
+    for (const Choice &choice : choices) {
+        if (context.*choice.onShow)
+            return choice;
+    }
+    return {};
+}
+
+void openForOutput(QFile &file)
+{
+    if (FileAttributes::isLockedElsewhere(file.fileName()))
+        throw RuntimeError(ErrorNumber::PermissionDenied, file.fileName());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw FileErrors::ofWriting(file);
+}
+
+} // namespace
+
+ReportSave::ReportSave(Module1 &module, const DataStore &data, Desktop &desktop)
+    : m_module(module), m_data(data), m_desktop(desktop),
+      CommonDialog1({"Page Web", {"*.htm", "*.html"}}, module, desktop)
+{}
+
+void ReportSave::run(const std::function<ReportContext()> &onShow)
+{
+    try {
+        saveReport(onShow);
+        m_module.ProbedLength = 0;
+    } catch (const RuntimeError &error) {
+        if (error.number() != ErrorNumber::DialogCancelled)
+            tell(error);
+    }
+}
+
+// What is on show is asked again behind the dialog. The old file is replaced in place, without a copy of it,
+// and before the report is made: one that cannot be opened leaves the row class where it was.
+void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
+{
+    CommonDialog1.choose([&]() -> std::optional<QString> {
+        const std::optional<Choice> choice = choose(onShow());
+        return choice ? std::optional(choice->name) : std::nullopt;
+    });
+    const std::optional<Choice> choice = choose(onShow());
+    if (!choice || !choice->report)
+        return;
+    QFile file(CommonDialog1.FileName());
+    openForOutput(file);
+    ReportPage page(m_module);
+    choice->report(page, m_data);
+    if (file.write(page.bytes()) != page.bytes().size() || !file.flush())
+        throw FileErrors::ofWriting(file);
+}
+
+void ReportSave::tell(const RuntimeError &error)
+{
+    const QString path = CommonDialog1.FileName();
+    m_module.ProbedLength = error.number();
+    if (error.number() == ErrorNumber::PermissionDenied)
+        m_desktop.messageBox("Impossible to peform back-up, the file '" + path + "' is in use.",
+                             Desktop::Warning);
+    else if (error.number() == ErrorNumber::PathAccess)
+        m_desktop.messageBox("Impossible to save '" + path +
+                                 "'. The file already exists and has a read-only attribute. Save it with a "
+                                 "different name or in a different folder.",
+                             Desktop::Warning);
+    // Any other failure is silent: the file that is missing or cut short is the only sign.
+}

@@ -1,0 +1,51 @@
+#include "reports/savedialog.h"
+
+#include "core/module1.h"
+#include "reports/fileattributes.h"
+
+#include <algorithm>
+
+void SaveDialog::choose(const std::function<std::optional<QString>()> &offeredName, int questionStyle)
+{
+    do {
+        m_fileName = offeredName().value_or(m_fileName);
+        m_fileName =
+            withSuffix(m_desktop.saveFile({m_fileName, m_module.AppFolder, m_kind.name, m_kind.globs}));
+        ProbeFileLength(m_fileName, m_module);
+    } while (m_module.ProbedLength != 0 && !mayReplace(questionStyle));
+}
+
+QString SaveDialog::withSuffix(const QString &path) const
+{
+    const auto suffixOf = [](const QString &glob) { return glob.mid(1); };
+    const bool complete = std::any_of(m_kind.globs.begin(), m_kind.globs.end(),
+                                      [&](const QString &glob) { return path.endsWith(suffixOf(glob)); });
+    return complete ? path : path + suffixOf(m_kind.globs.constFirst());
+}
+
+bool SaveDialog::mayReplace(int questionStyle)
+{
+    const int attributes = FileAttributes::of(m_fileName);
+    const QString question = "The file '" + m_fileName + "' already exists. Replace existing file?";
+    if (m_desktop.messageBox(question, questionStyle) != Desktop::Yes)
+        return false;
+
+    // Judged as whole numbers: a file without the archive bit is in use, whatever else is true of it.
+    switch (attributes) {
+    case FileAttributes::ReadOnly + FileAttributes::Archive:
+        m_desktop.messageBox("Impossible to save '" + m_fileName +
+                                 "'. The file already exists and has a read-only attribute. Save it with a "
+                                 "different name or in different folder.",
+                             Desktop::Warning);
+        return false;
+    case 0:
+    case FileAttributes::ReadOnly:
+        m_desktop.messageBox("Impossible to save '" + m_fileName +
+                                 "'. The file is in use. Save it with a different name or in a different "
+                                 "folder.",
+                             Desktop::Warning);
+        return false;
+    default:
+        return true;
+    }
+}
