@@ -40,7 +40,7 @@ public:
 } // namespace
 
 Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
-    : m_module(module), m_store(store), m_desktop(desktop)
+    : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop)
 {
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(QStringLiteral("Alembra"));
@@ -227,15 +227,32 @@ void Form1::run(const Command &command)
         return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
+    case CommandKind::Export:
+        return m_reportSave.run([this] { return reportContext(); });
     case CommandKind::Find:
         return m_findBar->open(m_panes->isShown(PanelId::Elements));
     case CommandKind::Options:
     case CommandKind::About:
-    case CommandKind::Export:
     case CommandKind::CheckVersion:
     case CommandKind::Nothing:
         return;
     }
+}
+
+ReportContext Form1::reportContext() const
+{
+    ReportContext context;
+    context.frmsolv = m_panes->isShown(PanelId::Solvents);
+    context.Frametable = m_panes->isShown(PanelId::Elements);
+    context.Frame2 = m_panes->isShown(PanelId::Calculations);
+    context.frmbioch = m_panes->isShown(PanelId::Biochemistry);
+    context.frmsolution = m_panes->isShown(PanelId::Solutions);
+    context.panel1 = m_panel1->text();
+    if (context.frmsolv) {
+        context.solventTab = m_solvents->currentTab();
+        context.solventCaption = m_solvents->currentTabCaption();
+    }
+    return context;
 }
 
 void Form1::updateCommands()

@@ -3,6 +3,7 @@
 #include "app/commandbars.h"
 #include "app/paneswitch.h"
 #include "calc/unitlists.h"
+#include "reports/reportsave.h"
 #include "search/findbar.h"
 
 #include <QLabel>
@@ -56,6 +57,7 @@ private:
     void loadTables(frmload &splash, TableLoader &loader);
     void loadMenus();
     void run(const Command &command);
+    ReportContext reportContext() const;
     void showPanel(PanelId id);
     void focusPanel();
     void unloadAllWindows();
@@ -63,6 +65,7 @@ private:
     Module1 &m_module;
     DataStore &m_store;
     Desktop &m_desktop;
+    ReportSave m_reportSave;
 
     CommandBars m_commandBars{*this};
     QLabel *m_panel1;

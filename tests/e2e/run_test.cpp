@@ -22,6 +22,7 @@ private Q_SLOTS:
     void listsShowTheTables_data();
     void listsShowTheTables();
     void solventCommandsSelectTheirTabs();
+    void exportOffersWhatIsOnShow();
     void commandsGreyOutByPaneAndTab();
     void secondClickRunsTheSwitchAgainButNotForSpectroscopy();
     void startModuleLeavesTheBoxesOfTheTableAlone();
@@ -178,6 +179,25 @@ void RunTest::solventCommandsSelectTheirTabs()
             QCOMPARE(statusText(form), QStringLiteral("Solvents"));
         }
     });
+}
+
+void RunTest::exportOffersWhatIsOnShow()
+{
+    const ProgramFolder folder;
+    m_desktop.saveRequests.clear();
+    m_desktop.savePaths = QStringList(folder.path(QStringLiteral("masses")));
+    run(folder, [&](Form1 &form) {
+        for (const int pane : {1133, 1116, 1108, 1120, 1109, 1113}) {
+            form.executeCommand(pane);
+            form.executeCommand(1124);
+        }
+    });
+    QStringList offered;
+    for (const Desktop::SaveRequest &request : m_desktop.saveRequests)
+        offered << request.fileName;
+    QCOMPARE(offered, (QStringList{"Solvents - Mass spectrometry", "Solvents - Miscibility and Polarity",
+                                   "Elements", "Constants and Units", "Biochemistry", "Solutions"}));
+    QVERIFY(folder.read(QStringLiteral("masses.htm")).contains("<td>Acetone</td>"));
 }
 
 void RunTest::commandsGreyOutByPaneAndTab()
