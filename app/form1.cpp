@@ -45,6 +45,7 @@ Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(QStringLiteral("Alembra"));
     setWindowIcon(Icons::program());
+    keepLinksReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
     buildPaneArea();
@@ -287,8 +288,20 @@ void Form1::closeEvent(QCloseEvent *event)
     unloadAllWindows();
 }
 
+// Many dark desktops leave links in their dark blue.
+void Form1::keepLinksReadable()
+{
+    const QPalette desktop = QApplication::palette();
+    QPalette own;
+    if (desktop.color(QPalette::Window).lightness() < 128 && desktop.color(QPalette::Link).lightness() < 150)
+        own.setColor(QPalette::Link, QColor(0x7a, 0xb8, 0xff));
+    setPalette(own);
+}
+
 void Form1::changeEvent(QEvent *event)
 {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        keepLinksReadable();
     QMainWindow::changeEvent(event);
 }
 

@@ -61,6 +61,7 @@ private:
     void showPanel(PanelId id);
     void focusPanel();
     void unloadAllWindows();
+    void keepLinksReadable();
 
     Module1 &m_module;
     DataStore &m_store;

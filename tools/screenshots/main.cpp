@@ -9,7 +9,7 @@
 #include <QTimer>
 
 // Runs the program, walks through its panes and saves a picture of the main window at each:
-// screenshots <program folder> <folder for the pictures>
+// screenshots <program folder> <folder for the pictures> [dark]
 
 namespace {
 
@@ -82,8 +82,10 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: screenshots <program folder> <folder for the pictures>");
+    if (arguments.size() < 3)
+        qFatal("usage: screenshots <program folder> <folder for the pictures> [dark]");
+    if (arguments.value(3) == QStringLiteral("dark"))
+        QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a)));
 
     // The program's own event loop runs once before the load is through: the pause of the splash.
     QTimer started;
