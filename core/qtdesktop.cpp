@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QUrl>
+#include <QWidget>
 #include <cstdlib>
 
 namespace {
@@ -28,6 +29,20 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
+// Whom a box belongs to, so that it stands above it. Just after another box has closed no window is active
+// yet: then it is the one that the user can work with.
+QWidget *owner()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        const bool takesInput = window->isVisible() && window->isEnabled();
+        if (takesInput && (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog))
+            return window;
+    }
+    return nullptr;
+}
+
 // Only what a browser, a file transfer or a viewer of local files takes; anything else opens nothing.
 QUrl urlOf(const QString &target)
 {
@@ -44,7 +59,7 @@ QUrl urlOf(const QString &target)
 
 Desktop::Answer QtDesktop::messageBox(const QString &text, int style)
 {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(owner());
     box.setWindowTitle(QStringLiteral("Alembra"));
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
@@ -61,7 +76,7 @@ Desktop::Answer QtDesktop::messageBox(const QString &text, int style)
 
 QString QtDesktop::saveFile(const SaveRequest &request)
 {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(owner());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDirectory(request.folder);
