@@ -24,16 +24,17 @@ int byteOf(char16_t c)
 
 QByteArray CodePage::encode(const QString &text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *out = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         // A pair of surrogates is one character and so one question mark.
         if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
         const int byte = byteOf(c.unicode());
-        bytes.append(byte < 0 ? '?' : char(byte));
+        *out++ = byte < 0 ? '?' : char(byte);
     }
+    bytes.truncate(out - bytes.constData());
     return bytes;
 }
 
