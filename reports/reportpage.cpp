@@ -128,13 +128,15 @@ void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;
     rowClass = rowClass == QLatin1StringView("teven") ? "tnoteven" : "teven";
-    line("</tr>");
-    line("<tr class=" + rowClass + ">");
+    m_bytes += "</tr>\r\n<tr class=" + CodePage::encode(rowClass) + ">\r\n";
 }
 
+// Most of a page are cells: straight to bytes.
 void ReportPage::cell(const QString &text)
 {
-    line("<td>" + text + "</td>");
+    m_bytes += "<td>";
+    m_bytes += CodePage::encode(text);
+    m_bytes += "</td>\r\n";
 }
 
 void ReportPage::endRow()
