@@ -1,0 +1,91 @@
+#include "update/miseajour.h"
+
+#include "core/buildsettings.h"
+#include "core/desktop.h"
+#include "core/fileerrors.h"
+#include "update/profilefile.h"
+#include "update/updatenetwork.h"
+#include "update/versionnumber.h"
+
+#include <QScopedValueRollback>
+#include <QUrl>
+
+namespace {
+
+/// The version file comes from outside: only what leads to a browser is opened, no file of this computer.
+bool isWebAddress(const QString &text)
+{
+    const QUrl url(text, QUrl::StrictMode);
+    const QString scheme = url.scheme();
+    return (scheme == QLatin1StringView("http") || scheme == QLatin1StringView("https") ||
+            scheme == QLatin1StringView("ftp")) &&
+           !url.host().isEmpty();
+}
+
+void remove(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        throw RuntimeError(ErrorNumber::FileNotFound, path);
+    if (!file.remove())
+        throw FileErrors::of(file);
+}
+
+} // namespace
+
+MiseAjour::MiseAjour(Desktop &desktop, UpdateNetwork &network, QString appFolder, QObject *parent)
+    : QObject(parent), m_desktop(desktop), m_network(network),
+      m_localCopy(std::move(appFolder) + QStringLiteral("/Tempo.net"))
+{}
+
+void MiseAjour::set(QString &property, const QString &text, const char *name)
+{
+    property = text;
+    Q_EMIT propertyChanged(QLatin1StringView(name));
+}
+
+void MiseAjour::Verifier()
+{
+    if (m_checking)
+        return;
+    const QScopedValueRollback checking(m_checking, true);
+    try {
+        check();
+    } catch (const RuntimeError &) {
+        m_desktop.messageBox(QStringLiteral("Error during checking for updates. Please verify you are using "
+                                            "the most recent version of Alembra at ") +
+                                 QLatin1StringView(BuildSettings::WebSite),
+                             Desktop::Warning);
+    }
+}
+
+void MiseAjour::check()
+{
+    if (!m_network.isConnected()) {
+        m_desktop.messageBox(QStringLiteral("Impossible to check for updates, please verify your internet "
+                                            "connexion."),
+                             Desktop::Warning);
+        return;
+    }
+    m_network.download(m_adresse, m_localCopy);
+    const QString remoteVersion = ProfileFile::value(m_localCopy, m_logiciel, QStringLiteral("Version"));
+    const QString url = ProfileFile::value(m_localCopy, m_logiciel, QStringLiteral("URL"));
+    remove(m_localCopy); // where a failed download shows
+    if (VersionNumber::isNewer(remoteVersion, m_version)) {
+        offer(remoteVersion, url);
+    } else {
+        m_desktop.messageBox(QStringLiteral("There is no updates for Alembra. Your version is up-to-date."),
+                             Desktop::Information);
+    }
+}
+
+void MiseAjour::offer(const QString &remoteVersion, const QString &url)
+{
+    const QString question = QStringLiteral("The version of Alembra you are using is %1\n\n"
+                                            "A more recent version is available, which is version %2\n\n"
+                                            "Would you like to download this new version?")
+                                 .arg(m_version, remoteVersion);
+    if (m_desktop.messageBox(question, Desktop::Question + Desktop::YesNo) == Desktop::Yes &&
+        isWebAddress(url))
+        m_desktop.openTarget(url);
+}

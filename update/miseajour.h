@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QObject>
+
+class Desktop;
+class UpdateNetwork;
+
+/// The check for a new version, made on demand only. It has no look of its own.
+///
+/// The version file at `Adresse` holds, in the section `Logiciel`, the newest version as "Version" and, as
+/// "URL", the page to open when the user wants it.
+class MiseAjour final : public QObject
+{
+    Q_OBJECT
+    // In the order in which a host stores them; one that nobody stored is empty.
+    Q_PROPERTY(QString Adresse READ Adresse WRITE setAdresse NOTIFY propertyChanged)
+    Q_PROPERTY(QString Logiciel READ Logiciel WRITE setLogiciel NOTIFY propertyChanged)
+    Q_PROPERTY(QString Version READ Version WRITE setVersion NOTIFY propertyChanged)
+
+public:
+    /// @p appFolder receives the local copy of the version file for as long as it is read.
+    MiseAjour(Desktop &desktop, UpdateNetwork &network, QString appFolder, QObject *parent = nullptr);
+
+    const QString &Adresse() const { return m_adresse; }
+    const QString &Logiciel() const { return m_logiciel; }
+    const QString &Version() const { return m_version; }
+    void setAdresse(const QString &address) { set(m_adresse, address, "Adresse"); }
+    void setLogiciel(const QString &section) { set(m_logiciel, section, "Logiciel"); }
+    void setVersion(const QString &version) { set(m_version, version, "Version"); }
+
+    /// Checks and tells the user the outcome, whatever it is. Returns when the last message is answered. A
+    /// second call while one is under way does nothing.
+    void Verifier();
+
+Q_SIGNALS:
+    /// Sent by every setter, with the name of its property.
+    void propertyChanged(const QString &name);
+
+private:
+    void set(QString &property, const QString &text, const char *name);
+    void check();
+    void offer(const QString &remoteVersion, const QString &url);
+
+    Desktop &m_desktop;
+    UpdateNetwork &m_network;
+    const QString m_localCopy;
+    QString m_adresse;
+    QString m_logiciel;
+    QString m_version;
+    bool m_checking = false;
+};
