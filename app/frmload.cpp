@@ -4,6 +4,7 @@
 #include "core/desktop.h"
 #include "core/icons.h"
 #include "core/module1.h"
+#include "core/versionrecord.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -14,12 +15,6 @@ namespace {
 constexpr QSize WindowSize{440, 216};
 constexpr int TextLeft = 128;
 constexpr int PauseMilliseconds = 50;
-
-const QString Description =
-    QStringLiteral("Alembra, the swiss army knife of the lab worker, is the essential software "
-                   "of the scientist, containing numerous data very useful in a laboratory.");
-const QString LegalNotice =
-    QStringLiteral("© 2026 the Alembra developers. Free software under the MIT licence.");
 
 } // namespace
 
@@ -39,14 +34,14 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
     picture->setGeometry(20, 24, 88, 88);
 
-    QLabel *title = addLine("lblTitle", QStringLiteral("Alembra"), 16, 34);
+    QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 16, 34);
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.9);
     large.setBold(true);
     title->setFont(large);
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
-    addLine("lblDescription", Description, 72, 54);
-    addLine("lblcopy", LegalNotice, 128, 34);
+    addLine("lblDescription", VersionRecord::comments(), 72, 54);
+    addLine("lblcopy", VersionRecord::legalNotice(), 128, 34);
 
     auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
     doing->setGeometry(20, 164, WindowSize.width() - 40, 18);

@@ -1,6 +1,6 @@
 #include "browsers/referencespane.h"
 
-#include "browsers/linklabel.h"
+#include "core/linklabel.h"
 #include "core/desktop.h"
 
 #include <QList>

@@ -1,4 +1,4 @@
-#include "browsers/linklabel.h"
+#include "core/linklabel.h"
 #include "browsers/referencespane.h"
 #include "browsers/textpanes.h"
 #include "core/buildsettings.h"

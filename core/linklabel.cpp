@@ -1,4 +1,4 @@
-#include "browsers/linklabel.h"
+#include "core/linklabel.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
