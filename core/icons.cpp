@@ -62,7 +62,7 @@ QIcon Icons::program()
 {
     const QString path = pathOf(QStringLiteral("alembra"));
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128}) {
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         QPixmap picture(size, size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
