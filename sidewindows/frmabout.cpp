@@ -1,0 +1,109 @@
+#include "sidewindows/frmabout.h"
+
+#include "core/buildsettings.h"
+#include "core/controls.h"
+#include "core/desktop.h"
+#include "core/icons.h"
+#include "core/linklabel.h"
+#include "core/module1.h"
+#include "core/versionrecord.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr QSize PictureSize{88, 88};
+constexpr int TextWidth = 330;
+
+} // namespace
+
+frmAbout::frmAbout(Desktop &desktop, QWidget &form1) : SideWindow("frmAbout", form1), m_desktop(desktop)
+{
+    setWindowTitle(QStringLiteral("About ") + VersionRecord::applicationTitle());
+    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
+    picture->setPixmap(Icons::program().pixmap(PictureSize, devicePixelRatio()));
+    auto *grid = new QGridLayout(this);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
+    grid->setContentsMargins(20, 20, 20, 16);
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(14);
+    grid->addWidget(picture, 0, 0, Qt::AlignTop);
+    grid->addLayout(buildTexts(), 0, 1);
+    grid->addLayout(buildButtons(), 1, 0, 1, 2);
+}
+
+QLayout *frmAbout::buildTexts()
+{
+    QLabel *lblTitle = Controls::heading(QStringLiteral("lblTitle"), VersionRecord::applicationTitle(), this);
+    QFont large = lblTitle->font();
+    large.setPointSizeF(large.pointSizeF() * 1.9);
+    lblTitle->setFont(large);
+    auto *Line1 = Controls::named(new QFrame(this), QStringLiteral("Line1"));
+    Line1->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
+
+    auto *column = new QVBoxLayout;
+    column->setSpacing(8);
+    const auto addText = [&](const char *name, const QString &text) {
+        QLabel *label = Controls::label(QLatin1StringView(name), text, this);
+        label->setWordWrap(true);
+        label->setFixedWidth(TextWidth);
+        column->addWidget(label);
+    };
+    column->addWidget(lblTitle);
+    addText("lblVersion", QStringLiteral("Version %1").arg(Module1::version()));
+    addText("lblDisclaimer", VersionRecord::fileDescription());
+    column->addWidget(Line1);
+    addText("lblcopy", VersionRecord::legalNotice());
+    addText("Label5", QStringLiteral("Published in ") + VersionRecord::noticeYears());
+    column->addLayout(buildAddresses());
+    return column;
+}
+
+QLayout *frmAbout::buildAddresses()
+{
+    const QString webSite = QLatin1StringView(BuildSettings::WebSite);
+    auto *Label1 = Controls::named(new LinkLabel(webSite, webSite, this), QStringLiteral("Label1"));
+    QLabel *Label2 = Controls::label(QStringLiteral("Label2"), VersionRecord::contactAddress(), this);
+    Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(Label1, &LinkLabel::clicked, this,
+            [this](const QString &target) { m_desktop.openTarget(target); });
+
+    auto *grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(Controls::label(QStringLiteral("Label3"), QStringLiteral("Website: "), this), 0, 0);
+    grid->addWidget(Label1, 0, 1, Qt::AlignLeft);
+    grid->addWidget(Controls::label(QStringLiteral("Label4"), QStringLiteral("E-mail:"), this), 1, 0);
+    grid->addWidget(Label2, 1, 1);
+    return grid;
+}
+
+QLayout *frmAbout::buildButtons()
+{
+    auto *cmdSysInfo = Controls::named(new QPushButton(QStringLiteral("System infos..."), this),
+                                       QStringLiteral("cmdSysInfo"));
+    auto *cmdOk = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOk"));
+    cmdSysInfo->setMinimumWidth(104);
+    cmdSysInfo->setAutoDefault(false);
+    cmdOk->setDefault(true);
+    cmdOk->setFocus();
+    connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
+    connect(cmdOk, &QPushButton::clicked, this, &QWidget::close);
+    auto *row = new QHBoxLayout;
+    row->addWidget(cmdSysInfo);
+    row->addStretch();
+    row->addWidget(cmdOk);
+    return row;
+}
+
+void frmAbout::StartSysInfo()
+{
+    // Where a registry names a program for this, it is started; there is none here, so the last step is left.
+    m_desktop.messageBox(QStringLiteral("Les informations système ne sont pas disponibles actuellement"), 0);
+}
+
+void openAbout(Desktop &desktop, QWidget &form1)
+{
+    (new frmAbout(desktop, form1))->showAboveOwner();
+}

@@ -1,0 +1,129 @@
+#include "sidewindows/frmtip.h"
+
+#include "core/controls.h"
+#include "core/desktop.h"
+#include "core/icons.h"
+#include "core/module1.h"
+#include "sidewindows/tips.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize TipSize{430, 132};
+
+const QString TipFile = QStringLiteral("TIPOFDAY_UK.TXT");
+
+} // namespace
+
+frmTip::frmTip(Module1 &module1, Desktop &desktop, std::function<void(bool)> setCheck1, QWidget &form1)
+    : SideWindow("frmTip", form1), m_module1(module1), m_desktop(desktop), m_setCheck1(std::move(setCheck1))
+{
+    setWindowTitle(QStringLiteral("Tip of the day"));
+    buildWindow();
+    connect(chkLoadTipsAtStartup, &QCheckBox::toggled, this, &frmTip::storeWish);
+    chkLoadTipsAtStartup->setChecked(true);
+    if (!LoadTips(module1.AppFolder + QLatin1Char('/') + TipFile)) {
+        lblTipText->setText(QStringLiteral("That the %1 file was not found? \n\n"
+                                           "Create a text file named %1 using NotePad with 1 tip per line. "
+                                           "Then place it in the same directory as the application. ")
+                                .arg(TipFile));
+    }
+}
+
+void frmTip::buildWindow()
+{
+    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
+    picture->setPixmap(Icons::named(QStringLiteral("tip")).pixmap(QSize(32, 32), devicePixelRatio()));
+    QLabel *question =
+        Controls::heading(QStringLiteral("Label1"), QStringLiteral("Do you know that..."), this);
+    auto *head = new QHBoxLayout;
+    head->setSpacing(10);
+    head->addWidget(picture);
+    head->addWidget(question, 1);
+
+    // What stands here when the tip file is empty.
+    lblTipText = Controls::label(QStringLiteral("lblTipText"), QStringLiteral("There is no tip."), this);
+    lblTipText->setWordWrap(true);
+    lblTipText->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblTipText->setMinimumSize(TipSize);
+    lblTipText->setMargin(12);
+    lblTipText->setFrameShape(QFrame::StyledPanel);
+    lblTipText->setAutoFillBackground(true);
+    lblTipText->setBackgroundRole(QPalette::Base);
+    lblTipText->setForegroundRole(QPalette::Text);
+    lblTipText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto *column = new QVBoxLayout(this);
+    column->setSpacing(10);
+    column->addLayout(head);
+    column->addWidget(lblTipText, 1);
+    column->addLayout(buildButtons());
+}
+
+QLayout *frmTip::buildButtons()
+{
+    chkLoadTipsAtStartup = Controls::named(new QCheckBox(QStringLiteral("Display tips when starting"), this),
+                                           QStringLiteral("chkLoadTipsAtStartup"));
+    auto *cmdNextTip =
+        Controls::named(new QPushButton(QStringLiteral("Next tip"), this), QStringLiteral("cmdNextTip"));
+    auto *cmdOK = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+    cmdNextTip->setAutoDefault(false);
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::nextTip);
+    connect(cmdOK, &QPushButton::clicked, this, &frmTip::ok);
+    auto *row = new QHBoxLayout;
+    row->addWidget(chkLoadTipsAtStartup);
+    row->addStretch();
+    row->addWidget(cmdNextTip);
+    row->addWidget(cmdOK);
+    return row;
+}
+
+bool frmTip::LoadTips(const QString &path)
+{
+    std::optional<QStringList> tips = Tips::read(path);
+    if (!tips)
+        return false;
+    m_tips = std::move(*tips);
+    nextTip();
+    return true;
+}
+
+void frmTip::nextTip()
+{
+    m_current = Tips::next(m_current, int(m_tips.size()),
+                           [] { return QRandomGenerator::global()->generateDouble(); });
+    DisplayCurrentTip();
+}
+
+void frmTip::DisplayCurrentTip()
+{
+    if (!m_tips.isEmpty())
+        lblTipText->setText(m_tips[m_current - 1]);
+}
+
+void frmTip::storeWish(bool wanted)
+{
+    m_module1.OptionSlots(Slot::TipAtStart) = wanted ? 1 : 0;
+    m_setCheck1(wanted);
+}
+
+void frmTip::ok()
+{
+    atEdge(m_desktop, [this] {
+        m_module1.WriteOptions();
+        close();
+    });
+}
+
+void openTip(Module1 &module1, Desktop &desktop, std::function<void(bool)> setCheck1, QWidget &form1)
+{
+    if (Tips::isWanted())
+        (new frmTip(module1, desktop, std::move(setCheck1), form1))->showAboveOwner();
+}
