@@ -14,6 +14,8 @@
 #include "core/module1.h"
 #include "core/modulepanel.h"
 #include "elements/elementspane.h"
+#include "sidewindows/formhelp.h"
+#include "sidewindows/frmabout.h"
 #include "store/datastore.h"
 #include "store/gridlines.h"
 #include "store/loadtable.h"
@@ -40,9 +42,11 @@ public:
 } // namespace
 
 Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
-    : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop)
+    : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop),
+      m_miseAjour1(desktop, m_network, module.AppFolder)
 {
     setObjectName(QStringLiteral("Form1"));
+    m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
     setWindowTitle(QStringLiteral("Alembra"));
     setWindowIcon(Icons::program());
     keepLinksReadable();
@@ -88,6 +92,7 @@ ModulePanel *Form1::makePanel(PanelId id)
     switch (id) {
     case PanelId::Elements:
         m_elements = new ElementsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
+        connect(m_elements, &ElementsPane::helpRequested, this, [this] { openCaptions(*this); });
         return m_elements;
     case PanelId::Solvents:
         m_solvents = new SolventsPane(m_module, m_store, m_desktop, *m_findBar, m_paneArea);
@@ -232,9 +237,11 @@ void Form1::run(const Command &command)
         return m_reportSave.run([this] { return reportContext(); });
     case CommandKind::Find:
         return m_findBar->open(m_panes->isShown(PanelId::Elements));
-    case CommandKind::Options:
     case CommandKind::About:
+        return openAbout(m_desktop, *this);
     case CommandKind::CheckVersion:
+        return checkVersion();
+    case CommandKind::Options:
     case CommandKind::Nothing:
         return;
     }
@@ -254,6 +261,15 @@ ReportContext Form1::reportContext() const
         context.solventCaption = m_solvents->currentTabCaption();
     }
     return context;
+}
+
+void Form1::checkVersion()
+{
+    // The English edition reads the file of that name too.
+    m_miseAjour1.setAdresse(QLatin1StringView(BuildSettings::WebSite) + QStringLiteral("/versions_fr.ini"));
+    m_miseAjour1.setLogiciel(QStringLiteral("ALEMBRA"));
+    m_miseAjour1.setVersion(Module1::version());
+    m_miseAjour1.Verifier();
 }
 
 void Form1::updateCommands()

@@ -5,6 +5,8 @@
 #include "calc/unitlists.h"
 #include "reports/reportsave.h"
 #include "search/findbar.h"
+#include "update/miseajour.h"
+#include "update/qtupdatenetwork.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -57,6 +59,7 @@ private:
     void loadTables(frmload &splash, TableLoader &loader);
     void loadMenus();
     void run(const Command &command);
+    void checkVersion();
     ReportContext reportContext() const;
     void showPanel(PanelId id);
     void focusPanel();
@@ -67,6 +70,8 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
     ReportSave m_reportSave;
+    QtUpdateNetwork m_network;
+    MiseAjour m_miseAjour1;
 
     CommandBars m_commandBars{*this};
     QLabel *m_panel1;

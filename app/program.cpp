@@ -5,6 +5,7 @@
 #include "app/singleinstance.h"
 #include "core/desktop.h"
 #include "core/module1.h"
+#include "sidewindows/frmtip.h"
 #include "store/databaseconnection.h"
 #include "store/databaserecovery.h"
 #include "store/datastore.h"
@@ -36,6 +37,9 @@ int Main(Desktop &desktop, const QString &appFolder)
     form.load(splash, loader);
     form.show();
 
+    if (module.OptionSlots(Slot::TipAtStart).equals(1))
+        openTip(
+            module, desktop, [](bool) {}, form);
     recovery.DisconnectDatabase();
     form.applyOptions();
     splash.close();

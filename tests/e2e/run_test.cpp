@@ -6,8 +6,11 @@
 #include "tests/support/programfolder.h"
 #include "tests/support/scripteddesktop.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QPointer>
+#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void secondClickRunsTheSwitchAgainButNotForSpectroscopy();
     void startModuleLeavesTheBoxesOfTheTableAlone();
     void anotherStartModuleSwitchesNothing();
+    void theTipDisablesTheMainWindowUntilItCloses();
+    void sideWindowsOpenFromTheirCommands();
     void failuresOfTheStartAreReported_data();
     void failuresOfTheStartAreReported();
     void damagedDatabaseAsksBeforeAnyWindow();
@@ -259,6 +264,41 @@ void RunTest::anotherStartModuleSwitchesNothing()
     run(folder, [&](Form1 &form) {
         QCOMPARE(shownPanes(form), QStringList("Frametable"));
         QCOMPARE(statusText(form), QStringLiteral("Elements"));
+    });
+}
+
+void RunTest::theTipDisablesTheMainWindowUntilItCloses()
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       QDir::tempPath() + QStringLiteral("/none"));
+    const ProgramFolder folder;
+    folder.setOption(56, "1");
+    folder.setOption(86, "1");
+    folder.setOption(88, "0");
+    run(folder, [&](Form1 &form) {
+        const QPointer<QWidget> tip = form.findChild<QWidget *>(QStringLiteral("frmTip"));
+        QVERIFY(tip && tip->isVisible() && tip->isEnabled());
+        QVERIFY(!form.isEnabled());
+        QCOMPARE(shownPanes(form), QStringList("frmsolv"));
+        tip->close();
+        QVERIFY(form.isEnabled());
+    });
+}
+
+void RunTest::sideWindowsOpenFromTheirCommands()
+{
+    const ProgramFolder folder;
+    run(folder, [&](Form1 &form) {
+        const auto opened = [&](const char *name) {
+            QWidget *window = form.findChild<QWidget *>(QLatin1StringView(name));
+            const bool alone = window && window->isVisible() && !form.isEnabled();
+            return alone && window->close() && form.isEnabled();
+        };
+        QVERIFY(form.findChild<QWidget *>(QStringLiteral("frmTip")) == nullptr);
+        action(form, 1122)->trigger();
+        QVERIFY(opened("frmAbout"));
+        form.findChild<QAbstractButton *>(QStringLiteral("cmdhelp"))->click();
+        QVERIFY(opened("Formhelp"));
     });
 }
 

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 
 /// A copy of the assembled program folder, for a test to spoil. The folders of pictures and of the original
-/// database are linked: nobody writes there.
+/// database are linked: nobody writes there. No tip opens at start, it would disable the main window.
 class ProgramFolder final
 {
 public:
@@ -14,6 +14,7 @@ public:
         QDir().mkpath(path(QStringLiteral("Data")));
         copyEntries(source, root(), {QStringLiteral("Data")});
         copyEntries(source + QStringLiteral("/Data"), path(QStringLiteral("Data")), {});
+        setOption(56, "0");
     }
 
     QString root() const { return m_folder.path(); }

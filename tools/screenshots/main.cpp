@@ -91,7 +91,11 @@ int main(int argc, char *argv[])
     QTimer started;
     QObject::connect(&started, &QTimer::timeout, &application, [&] {
         Form1 *form = mainWindow();
-        if (!form || !form->isVisible() || !form->isEnabled())
+        if (!form || !form->isVisible())
+            return;
+        if (auto *tip = form->findChild<QWidget *>(QStringLiteral("frmTip")))
+            tip->close();
+        if (!form->isEnabled())
             return;
         started.stop();
         walk(*form, QDir(arguments[2]));
