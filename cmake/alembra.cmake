@@ -13,12 +13,18 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
                     -Werror)
-# GCC 12 sees uninitialised members in every std::optional of a class with a Qt container: false alarms only.
-add_compile_options(-Wno-maybe-uninitialized)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    # GCC 12 sees uninitialised members in every std::optional of a class with a Qt container: false alarms only.
+    add_compile_options(-Wno-maybe-uninitialized)
+endif()
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(ALEMBRA_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(ALEMBRA_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(ALEMBRA_COVERAGE)
