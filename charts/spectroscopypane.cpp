@@ -1,0 +1,359 @@
+#include "charts/spectroscopypane.h"
+
+#include "charts/chartgeometry.h"
+#include "charts/chartpicture.h"
+#include "charts/chartscroll.h"
+#include "charts/chartviewport.h"
+#include "charts/ircharts.h"
+#include "charts/scalelabel.h"
+#include "core/desktop.h"
+#include "core/dropdown.h"
+#include "core/module1.h"
+#include "core/picturebox.h"
+#include "core/picturefile.h"
+#include "core/symboltext.h"
+#include "core/tooltips.h"
+#include "core/windowunits.h"
+#include "store/datastore.h"
+#include "store/titleframe.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+
+namespace {
+
+// Logical pixels. A column with the selector and a list of charts; right of it the chart with its title.
+constexpr int Margin = 4;
+constexpr int StripHeight = 30; // behind the selector and the title
+constexpr int ListTop = StripHeight + 2 + TitleFrame::OneLine + 2;
+constexpr int ListWidth = 260;
+constexpr int ListHeight = ModulePanel::Size.height() - Margin - ListTop;
+constexpr int ChartLeft = Margin + ListWidth + Margin; // of grdFrame17(0) in the pane
+constexpr int ViewportLeft = 3;                        // of grdFrame19 in grdFrame17(0)
+constexpr int ViewportWidth = 11 + ChartGeometry::Width + 1;
+constexpr int ScrollBarWidth = 16;
+constexpr int CreditTop = 516;
+
+constexpr int RepaintPause = 10; // ms
+
+QFrame *makeFrame(const char *name, const QRect &place, QWidget *parent)
+{
+    auto *frame = Controls::named(new QFrame(parent), QLatin1StringView(name));
+    frame->setGeometry(place);
+    return frame;
+}
+
+} // namespace
+
+SpectroscopyPane::SpectroscopyPane(Module1 &module1, DataStore &store, Desktop &desktop, QWidget *parent)
+    : ModulePanel("frmana", parent), m_module1(module1), m_store(store), m_desktop(desktop)
+{}
+
+int SpectroscopyPane::mode() const
+{
+    return Comboana ? Comboana->currentIndex() : 0;
+}
+
+void SpectroscopyPane::selectMode(int mode)
+{
+    build();
+    Comboana->choose(mode);
+}
+
+bool SpectroscopyPane::isListView3_27Shown() const
+{
+    return isBuilt() && Controls::isShown(ListView3[27]);
+}
+
+void SpectroscopyPane::buildContents()
+{
+    buildHiddenControls();
+    buildSelector();
+    buildLists();
+    buildChart();
+    buildScales();
+    buildIrTable();
+    // The first mode, as a choice of it leaves it; there is nothing yet that could wait for a repaint.
+    applyMode(SpectroscopyMode(mode()));
+    placeIrLabels();
+    connectControls();
+}
+
+void SpectroscopyPane::buildSelector()
+{
+    Shape2.add(6, makeFrame("", {0, 0, width(), StripHeight}, this));
+    auto *line = makeFrame("Line12(3)", {0, StripHeight, width(), 1}, this);
+    line->setFrameStyle(int(QFrame::HLine) | int(QFrame::Plain));
+    line->setForegroundRole(QPalette::Mid);
+
+    Comboana = new DropDown(QStringLiteral("Comboana"), this);
+    Comboana->setAccessibleName(tr("Kind of spectra"));
+    Comboana->addItems(SpectroscopyModes::captions());
+    Comboana->setGeometry(Margin, 2, ListWidth, StripHeight - 4);
+}
+
+void SpectroscopyPane::buildLists()
+{
+    Shape2.add(7, makeFrame("", {Margin, ListTop, ListWidth, ListHeight}, this));
+    addChartList(15, tr("Proton NMR charts"));
+    addChartList(16, tr("Carbon NMR charts"));
+    auto &list = addChartList(5, tr("Infrared charts"));
+    auto *titles = new TitleFrame({}, this, TitleFrame::OneLine);
+    titles->addTitles(list, Label2, {104});
+    grdFrame17.add(1, titles);
+}
+
+RowListView &SpectroscopyPane::addChartList(int index, const QString &accessibleName)
+{
+    // Motifs are as long as they are: a line more rather than half a name.
+    const ListColumn column{QStringLiteral("Functional group"), ListWidth - ScrollBarWidth - 4,
+                            ListColumn::Kind::Wrapped};
+    auto *list = new RowListView({}, m_store.lists.ListView3[index], {column}, this);
+    list->setAccessibleName(accessibleName);
+    list->setGeometry(Margin, ListTop, ListWidth, ListHeight);
+    return ListView3.add(index, list);
+}
+
+void SpectroscopyPane::buildChart()
+{
+    auto *box = makeFrame("", {ChartLeft, 0, width() - ChartLeft, height()}, this);
+    box->setAutoFillBackground(true); // covers the strip behind the selector
+    grdFrame17.add(0, box);
+    grdFrame17.add(2, makeFrame("", {}, this));
+
+    Label20 = Controls::heading(QStringLiteral("Label20"), {}, box);
+    Label20->setGeometry(ViewportLeft + 11, 2, ViewportWidth - 60, StripHeight - 4);
+    Shape2.add(4, makeFrame("", {0, StripHeight, box->width(), 1}, box));
+    Shape2[4].setFrameStyle(int(QFrame::HLine) | int(QFrame::Plain));
+    Shape2.add(5, makeFrame("", {}, box));
+    Shape2[5].setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    Shape2[4].setForegroundRole(QPalette::Mid);
+    Shape2[5].setForegroundRole(QPalette::Mid);
+
+    VScroll10 = Controls::named(new QScrollBar(Qt::Vertical, box), QStringLiteral("VScroll10"));
+    VScroll10->setMinimum(ChartScroll::Minimum);
+    VScroll10->setSingleStep(20 * WindowUnits::TwipsPerPixel);
+    grdFrame19 = new ChartViewport(QStringLiteral("grdFrame19"), *VScroll10, Shape2[5], box);
+    grdFrame19->setAccessibleName(tr("Chart"));
+    Picture3 = new ChartPicture(QStringLiteral("Picture3"), grdFrame19);
+    SourceImage = new PictureBox(QStringLiteral("SourceImage"), box);
+    SourceImage->hide();
+
+    auto *credit = Controls::label(QStringLiteral("Label19(25)"),
+                                   tr("Shifts: nmrshiftdb2, open database of NMR spectra"), box);
+    credit->setGeometry(ViewportLeft + 11, CreditTop, ViewportWidth - 60, 20);
+
+    Command1 = Controls::named(new QPushButton(QStringLiteral("?"), box), QStringLiteral("Command1"));
+    Command1->setAccessibleName(tr("Explanation of the chart"));
+    Command1->setGeometry(box->width() - Margin - 28, 2, 28, StripHeight - 4);
+}
+
+void SpectroscopyPane::buildScales()
+{
+    QFrame &box = grdFrame17[0];
+    const int pictureLeft =
+        WindowUnits::pixels(SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places->Picture3Left) +
+        WindowUnits::pixels(IrCharts::PaintLeft);
+    const auto makeScale = [&](const char *name, const char *text) {
+        auto *scale = new ScaleLabel(QLatin1StringView(name), QLatin1StringView(text), pictureLeft, &box);
+        scale->setGeometry(ViewportLeft, 51, ViewportWidth, 20);
+        return scale;
+    };
+    Label24 = makeScale("Label24", IrCharts::WaveNumbers);
+    Label27 = makeScale("Label27", IrCharts::Wavelengths);
+    Label25 = Controls::label(QStringLiteral("Label25"), {}, &box);
+    Label26 = Controls::label(QStringLiteral("Label26"), {}, &box);
+    Label25->setGeometry(0, StripHeight + 3, 140, 18);
+    Label26->setGeometry(0, StripHeight + 3, 11, 18);
+    captionIrScale();
+}
+
+void SpectroscopyPane::buildIrTable()
+{
+    // In the order of the table, which is not that of the columns as a chemist would name them.
+    auto *list = new RowListView({}, m_store.lists.ListView3[27],
+                                 {{QStringLiteral("Functional group"), 330},
+                                  {QStringLiteral("Bond"), 380},
+                                  {QStringLiteral("Frequency (cm-1)"), 200}},
+                                 this);
+    list->setAccessibleName(tr("Infrared bands"));
+    list->showAsRecipes(); // groups of compounds stand as rows without bands
+    list->setGeometry(Margin, ListTop, width() - 2 * Margin, ListHeight);
+    ListView3.add(27, list);
+    (new TitleFrame(QStringLiteral("frmirb"), this, TitleFrame::OneLine))
+        ->addTitles(*list, Label2, {106, 107, 108});
+}
+
+// What holds a value or a place without ever being seen.
+void SpectroscopyPane::buildHiddenControls()
+{
+    Text3 = Controls::named(new QLineEdit(this), QStringLiteral("Text3"));
+    Text3->hide();
+    Shape2.add(8, makeFrame("", {}, this));
+    Shape2.add(9, makeFrame("", {}, this));
+}
+
+void SpectroscopyPane::connectControls()
+{
+    connect(Comboana, &DropDown::chosen, this, &SpectroscopyPane::changeMode);
+    const auto connectList = [this](int index, auto handler) {
+        connect(&ListView3[index], &RowListView::rowClicked, this,
+                [this, handler](int row) { atEdge(m_desktop, [&] { handler(row); }); });
+    };
+    connectList(15, [this](int row) { showNmrChart(ProtonCharts, row); });
+    connectList(16, [this](int row) { showNmrChart(CarbonCharts, row); });
+    connectList(5, [this](int row) { showIrChart(row); });
+    connect(VScroll10, &QScrollBar::valueChanged, this, &SpectroscopyPane::scroll);
+    connect(Command1, &QPushButton::clicked, this, [this] {
+        if (Controls::isShown(ListView3[5]))
+            Q_EMIT colourCodeRequested();
+        else
+            Q_EMIT referencesRequested();
+    });
+}
+
+void SpectroscopyPane::changeMode()
+{
+    Picture3->clear();
+    // A pending repaint finishes before the lists are swapped.
+    m_desktop.pause(RepaintPause);
+    applyMode(SpectroscopyMode(mode()));
+    Q_EMIT modeChanged();
+}
+
+void SpectroscopyPane::applyMode(SpectroscopyMode mode)
+{
+    for (const SpectroscopyModes::Visibility &each : SpectroscopyModes::visibility())
+        control(each.control).setVisible(each.shown[size_t(mode)]);
+    grdFrame19->setScrollable(false);
+
+    const SpectroscopyModes::Settings &settings = SpectroscopyModes::settings(mode);
+    if (settings.emptiesTitle)
+        Label20->clear();
+    if (settings.heading)
+        Label2[104].setText(QLatin1StringView(settings.heading));
+    if (settings.toolTip && m_module1.OptionSlots(Slot::ToolTips).equals(1))
+        Command1->setToolTip(QLatin1StringView(settings.toolTip));
+    if (const auto &places = settings.places) {
+        Picture3->moveTo(places->Picture3Left, places->Picture3Top);
+        grdFrame19->setGeometry(ViewportLeft, WindowUnits::pixels(places->grdFrame19Top), ViewportWidth,
+                                WindowUnits::pixels(places->grdFrame19Height));
+        VScroll10->setGeometry(ViewportLeft + ViewportWidth + 1, WindowUnits::pixels(places->VScroll10Top),
+                               ScrollBarWidth, WindowUnits::pixels(places->VScroll10Height));
+        VScroll10->setPageStep(places->grdFrame19Height);
+        Shape2[5].setGeometry(grdFrame19->geometry().adjusted(-1, -1, 1, 1));
+    }
+}
+
+void SpectroscopyPane::showNmrChart(const NmrCharts &charts, int row)
+{
+    const int number = charts.number(row + 1);
+    m_module1.SelectedChart = number;
+    ChartKey = QString::number(number);
+    if (charts.fillsText3)
+        Text3->setText(QString::number(m_module1.SelectedChart + 1));
+    loadChart(charts.file(m_module1.AppFolder, number));
+    Picture3->paint(SourceImage->picture(), charts.paintLeft);
+    setScrollRange();
+    Picture3->setTop(0);
+    Label20->setText(m_store.lists.ListView3[charts.list].text(row));
+    ListView3[charts.list].setFocus();
+}
+
+void SpectroscopyPane::showIrChart(int row)
+{
+    ChartKey = m_store.lists.ListView3[5].subItem(row, 1);
+    if (const auto title = IrCharts::title(ChartKey))
+        Label20->setText(*title);
+    showIrScale();
+    loadChart(IrCharts::file(m_module1.AppFolder, ChartKey));
+    const auto &places = SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places;
+    Picture3->moveTo(places->Picture3Left, places->Picture3Top);
+    Picture3->paint(SourceImage->picture(), IrCharts::PaintLeft);
+    setScrollRange();
+    ListView3[5].setFocus();
+}
+
+void SpectroscopyPane::loadChart(const QString &file)
+{
+    SourceImage->setPicture(PictureFile::load(file));
+    Picture3->clear();
+}
+
+void SpectroscopyPane::setScrollRange()
+{
+    const auto maximum = ChartScroll::maximum(WindowUnits::pictureUnits(SourceImage->picture().height()));
+    grdFrame19->setScrollable(maximum.has_value());
+    if (!maximum)
+        return;
+    VScroll10->setMaximum(*maximum);
+    VScroll10->setValue(ChartScroll::Minimum);
+}
+
+void SpectroscopyPane::scroll(int value)
+{
+    Picture3->setTop(ChartScroll::pictureTop(value, Controls::isShown(ListView3[5])));
+}
+
+void SpectroscopyPane::captionIrScale()
+{
+    const IrCharts::Graduation &graduation = IrCharts::graduation(m_module1.OptionSlots);
+    Label26->setText(SymbolText::toUnicode(QLatin1StringView(graduation.quantity)));
+    Label25->setText(QLatin1StringView(graduation.unit));
+}
+
+void SpectroscopyPane::showIrScale()
+{
+    const bool inWaveNumbers = IrCharts::graduation(m_module1.OptionSlots).inWaveNumbers;
+    captionIrScale();
+    Label24->setVisible(inWaveNumbers);
+    Label27->setVisible(!inWaveNumbers);
+    Label25->show();
+    Label26->show();
+}
+
+void SpectroscopyPane::placeIrLabels()
+{
+    if (!isBuilt())
+        return;
+    const IrCharts::Graduation &graduation = IrCharts::graduation(m_module1.OptionSlots);
+    Label26->move(WindowUnits::pixels(graduation.quantityLeft), Label26->y());
+    Label25->move(WindowUnits::pixels(graduation.unitLeft), Label25->y());
+}
+
+void SpectroscopyPane::applyIrGraduation()
+{
+    if (!isBuilt())
+        return;
+    placeIrLabels();
+    if (Controls::isShown(ListView3[5]))
+        showIrScale();
+    else
+        captionIrScale();
+}
+
+void SpectroscopyPane::refreshToolTips()
+{
+    if (isBuilt())
+        ToolTips::refresh(m_module1.OptionSlots, *Command1,
+                          QStringLiteral("Display explanation of references"));
+}
+
+void SpectroscopyPane::ClearChartPanels()
+{
+    if (!isBuilt())
+        return;
+    Picture3->clear();
+    Label20->clear();
+    for (QWidget *scale : QList<QWidget *>{Label26, Label25, Label24, Label27})
+        scale->hide();
+    grdFrame19->setScrollable(false);
+}
+
+QWidget &SpectroscopyPane::control(const char *name) const
+{
+    auto *found = findChild<QWidget *>(QLatin1StringView(name));
+    Q_ASSERT_X(found, "SpectroscopyPane", name);
+    return *found;
+}
