@@ -8,13 +8,19 @@
 #include "browsers/solventspane.h"
 #include "browsers/textpanes.h"
 #include "calc/calculationspane.h"
+#include "charts/reactionspane.h"
+#include "charts/spectroscopypane.h"
 #include "core/buildsettings.h"
 #include "core/desktop.h"
 #include "core/icons.h"
 #include "core/module1.h"
 #include "core/modulepanel.h"
+#include "electronics/electronicspane.h"
 #include "elements/elementspane.h"
 #include "sidewindows/formhelp.h"
+#include "sidewindows/formhelp2.h"
+#include "sidewindows/formhelp3.h"
+#include "sidewindows/formhelp4.h"
 #include "sidewindows/frmabout.h"
 #include "store/datastore.h"
 #include "store/gridlines.h"
@@ -52,6 +58,7 @@ Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     keepLinksReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
+    m_panes->setClearChartPanels([this] { ClearChartPanels(); });
     buildPaneArea();
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
     connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
@@ -108,11 +115,43 @@ ModulePanel *Form1::makePanel(PanelId id)
         return new ReferencesPane(m_desktop, m_paneArea);
     case PanelId::Polymers:
         return new PolymersPane(m_paneArea);
+    case PanelId::Spectroscopy:
+        return makeSpectroscopy();
+    case PanelId::Reactions:
+        m_reactions = new ReactionsPane(m_module, m_store, m_desktop, m_paneArea);
+        return m_reactions;
+    case PanelId::Electronics:
+        return makeElectronics();
     case PanelId::Donate:
         return new DonatePane(m_desktop, m_paneArea);
     default:
         return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
     }
+}
+
+// The panes come in the order of their design: that of the elements is there by now.
+ModulePanel *Form1::makeSpectroscopy()
+{
+    m_spectroscopy = new SpectroscopyPane(m_module, m_store, m_desktop, m_paneArea);
+    connect(m_spectroscopy, &SpectroscopyPane::modeChanged, this, &Form1::updateCommands);
+    connect(m_elements, &ElementsPane::toolTipsRefreshed, m_spectroscopy, &SpectroscopyPane::refreshToolTips);
+    connect(m_spectroscopy, &SpectroscopyPane::referencesRequested, this,
+            [this] { openJournals(m_store.tables, *this); });
+    connect(m_spectroscopy, &SpectroscopyPane::colourCodeRequested, this, [this] { openColourCode(*this); });
+    return m_spectroscopy;
+}
+
+ModulePanel *Form1::makeElectronics()
+{
+    auto *pane = new ElectronicsPane(m_store, m_desktop, m_paneArea);
+    connect(pane, &ElectronicsPane::mnemonicRequested, this, [this] { openMnemonic(*this); });
+    return pane;
+}
+
+void Form1::ClearChartPanels()
+{
+    m_spectroscopy->ClearChartPanels();
+    m_reactions->ClearChartPanels();
 }
 
 void Form1::buildStatusBar()
@@ -228,7 +267,7 @@ void Form1::run(const Command &command)
         m_panes->show(command.panel);
         return m_solvents->selectTab(command.argument);
     case CommandKind::SpectroscopyMode:
-        return m_panes->show(command.panel);
+        return showSpectroscopy(command.argument);
     case CommandKind::Help:
         return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
     case CommandKind::WebSite:
@@ -255,6 +294,7 @@ ReportContext Form1::reportContext() const
     context.Frame2 = m_panes->isShown(PanelId::Calculations);
     context.frmbioch = m_panes->isShown(PanelId::Biochemistry);
     context.frmsolution = m_panes->isShown(PanelId::Solutions);
+    context.ListView3_27 = m_spectroscopy->isListView3_27Shown();
     context.panel1 = m_panel1->text();
     if (context.frmsolv) {
         context.solventTab = m_solvents->currentTab();
@@ -272,6 +312,12 @@ void Form1::checkVersion()
     m_miseAjour1.Verifier();
 }
 
+void Form1::showSpectroscopy(int mode)
+{
+    if (!m_panes->isShown(PanelId::Spectroscopy) || m_spectroscopy->mode() != mode)
+        m_panes->show(PanelId::Spectroscopy, [&] { m_spectroscopy->selectMode(mode); });
+}
+
 void Form1::updateCommands()
 {
     const auto anyShown = [this](std::initializer_list<PanelId> panels) {
@@ -282,7 +328,8 @@ void Form1::updateCommands()
                                           (anyShown({PanelId::Solvents}) && searchable));
     m_commandBars.action(1124).setEnabled(
         anyShown({PanelId::Solvents, PanelId::Calculations, PanelId::Solutions, PanelId::Elements,
-                  PanelId::Biochemistry}));
+                  PanelId::Biochemistry}) ||
+        m_spectroscopy->isListView3_27Shown());
     m_commandBars.action(1125).setEnabled(false);
 }
 

@@ -13,7 +13,9 @@
 
 class Desktop;
 class ElementsPane;
+class ReactionsPane;
 class SolventsPane;
+class SpectroscopyPane;
 class TableLoader;
 class frmload;
 struct DataStore;
@@ -56,10 +58,14 @@ private:
     void buildPaneArea();
     void buildStatusBar();
     ModulePanel *makePanel(PanelId id);
+    ModulePanel *makeSpectroscopy();
+    ModulePanel *makeElectronics();
+    void ClearChartPanels();
     void loadTables(frmload &splash, TableLoader &loader);
     void loadMenus();
     void run(const Command &command);
     void checkVersion();
+    void showSpectroscopy(int mode);
     ReportContext reportContext() const;
     void showPanel(PanelId id);
     void focusPanel();
@@ -80,6 +86,8 @@ private:
     QWidget *m_paneArea;
     ElementsPane *m_elements = nullptr;
     SolventsPane *m_solvents = nullptr;
+    SpectroscopyPane *m_spectroscopy = nullptr;
+    ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
 
     UnitLists m_units; ///< filled at the end of the load
