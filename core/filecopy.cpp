@@ -21,8 +21,10 @@ void copyFileOver(const QString &source, const QString &destination)
     QSaveFile to(destination);
     if (!to.open(QIODevice::WriteOnly))
         throw FileErrors::of(to);
-    while (!from.atEnd()) {
+    // Up to the read that gives nothing: a file that cannot be read at all calls itself at its end.
+    for (bool more = true; more;) {
         const QByteArray piece = from.read(PieceSize);
+        more = !piece.isEmpty();
         if (from.error() != QFileDevice::NoError)
             throw FileErrors::of(from);
         if (to.write(piece) != piece.size())
