@@ -2,7 +2,6 @@
 
 #include "core/fileerrors.h"
 
-#include <QFile>
 #include <QXmlStreamReader>
 
 namespace {
@@ -12,7 +11,7 @@ namespace {
 class LayoutReader
 {
 public:
-    explicit LayoutReader(QFile &file) : m_xml(&file), m_path(file.fileName()) {}
+    explicit LayoutReader(const QString &path) : m_xml(FileErrors::readWhole(path)), m_path(path) {}
 
     MenuLayout read()
     {
@@ -84,8 +83,5 @@ private:
 
 MenuLayout MenuLayout::read(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileErrors::of(file);
-    return LayoutReader(file).read();
+    return LayoutReader(path).read();
 }

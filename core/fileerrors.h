@@ -39,4 +39,16 @@ inline RuntimeError ofWriting(const QFileDevice &file)
                : error;
 }
 
+/// All bytes of the file at @p path. RuntimeError 53, 76 or 75 where it cannot be opened or read to its end.
+inline QByteArray readWhole(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw of(file);
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) // a failed read gives no bytes, as an empty file does
+        throw of(file);
+    return bytes;
+}
+
 } // namespace FileErrors

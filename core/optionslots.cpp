@@ -101,12 +101,7 @@ Value &OptionSlots::operator()(int index)
 
 void OptionSlots::read(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileErrors::of(file);
-    const QString text = CodePage::decode(file.readAll());
-    if (file.error() != QFileDevice::NoError)
-        throw FileErrors::of(file);
+    const QString text = CodePage::decode(FileErrors::readWhole(path));
     DelimitedReader reader(text);
     while (!reader.atEnd()) {
         if (m_counter > LastIndex)

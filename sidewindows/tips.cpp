@@ -10,10 +10,7 @@ std::optional<QStringList> Tips::read(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileErrors::of(file);
-    QString text = CodePage::decode(file.readAll());
+    QString text = CodePage::decode(FileErrors::readWhole(path));
     text.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n"));
     text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     if (text.isEmpty())
