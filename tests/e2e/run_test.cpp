@@ -31,7 +31,7 @@ private Q_SLOTS:
     void startModuleLeavesTheBoxesOfTheTableAlone();
     void anotherStartModuleSwitchesNothing();
     void theTipDisablesTheMainWindowUntilItCloses();
-    void sideWindowsOpenFromTheirCommands();
+    void sideWindowsOpenFromCommandsAndPanes();
     void failuresOfTheStartAreReported_data();
     void failuresOfTheStartAreReported();
     void damagedDatabaseAsksBeforeAnyWindow();
@@ -285,7 +285,7 @@ void RunTest::theTipDisablesTheMainWindowUntilItCloses()
     });
 }
 
-void RunTest::sideWindowsOpenFromTheirCommands()
+void RunTest::sideWindowsOpenFromCommandsAndPanes()
 {
     const ProgramFolder folder;
     run(folder, [&](Form1 &form) {
@@ -297,8 +297,20 @@ void RunTest::sideWindowsOpenFromTheirCommands()
         QVERIFY(form.findChild<QWidget *>(QStringLiteral("frmTip")) == nullptr);
         action(form, 1122)->trigger();
         QVERIFY(opened("frmAbout"));
-        form.findChild<QAbstractButton *>(QStringLiteral("cmdhelp"))->click();
+        const auto press = [&](const char *button) {
+            form.findChild<QAbstractButton *>(QLatin1StringView(button))->click();
+        };
+        press("cmdhelp");
         QVERIFY(opened("Formhelp"));
+        form.executeCommand(1142);
+        press("Command1");
+        QVERIFY(opened("Formhelp2"));
+        form.executeCommand(1144);
+        press("Command1");
+        QVERIFY(opened("Formhelp3"));
+        form.executeCommand(1141);
+        press("Command2");
+        QVERIFY(opened("Formhelp4"));
     });
 }
 
