@@ -1,6 +1,8 @@
 #include "app/form1.h"
 #include "app/program.h"
 #include "core/qtdesktop.h"
+#include "core/sidewindow.h"
+#include "store/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -20,7 +22,7 @@ struct Shot
     const char *file;
     int command;
     const char *control = nullptr;
-    int tab = 0;
+    int item = 0;
 };
 
 constexpr Shot Shots[] = {
@@ -35,7 +37,14 @@ constexpr Shot Shots[] = {
     {"solutions-redox", 1113, "TabStrip2", 2},
     {"biochemistry", 1109},
     {"biochemistry-gels", 1109, "TabStrip8", 4},
+    {"spectroscopy-proton", 1142, "ListView3(15)", 61},
+    {"spectroscopy-carbon", 1143, "ListView3(16)", 150},
+    {"spectroscopy-ir", 1144, "ListView3(5)", 9},
+    {"spectroscopy-ir-table", 1145},
     {"calculations", 1120},
+    {"calculations-dilution", 1120, "TabStrip4", 4},
+    {"reactions", 1139},
+    {"electronics", 1141},
     {"references", 1132},
     {"polymers", 1138},
     {"donate", 1131},
@@ -45,10 +54,13 @@ void touch(Form1 &form, const Shot &shot)
 {
     const QString name = QLatin1StringView(shot.control);
     if (auto *tabs = form.findChild<QTabBar *>(name))
-        tabs->setCurrentIndex(shot.tab - 1);
+        tabs->setCurrentIndex(shot.item - 1);
     else if (auto *button = form.findChild<QAbstractButton *>(name))
         button->click();
-    else
+    else if (auto *list = form.findChild<RowListView *>(name)) {
+        list->selectRow(shot.item - 1);
+        Q_EMIT list->rowClicked(shot.item - 1);
+    } else
         qFatal("no control %s", shot.control);
 }
 
