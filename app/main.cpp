@@ -8,7 +8,6 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Alembra_uk"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Alembra"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     QtDesktop desktop;
