@@ -32,6 +32,31 @@ if(ALEMBRA_COVERAGE)
     add_link_options(--coverage)
 endif()
 
+# One precompiled set of headers for all targets halves the time to compile. It also hides a missing #include, so a
+# preset that must find those builds without it.
+if(ALEMBRA_PRECOMPILE)
+    # Otherwise ccache takes nothing that is compiled with them.
+    list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros)
+    # GCC 12 crashes in this pass over some files.
+    add_compile_options(-fno-ipa-cp)
+    file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
+    add_library(precompiled STATIC "${CMAKE_BINARY_DIR}/precompiled.cpp")
+    # The include folders alone, for who links less of Qt defines less, and the compiler wants no definition missing.
+    foreach(module Core Gui Widgets)
+        target_include_directories(precompiled SYSTEM PRIVATE
+            $<TARGET_PROPERTY:Qt6::${module},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
+    set_target_properties(precompiled PROPERTIES POSITION_INDEPENDENT_CODE ON AUTOMOC OFF)
+    target_precompile_headers(precompiled PRIVATE
+        <algorithm> <array> <cmath> <functional> <memory> <optional>
+        <QBoxLayout> <QByteArray> <QDir> <QFile> <QHash> <QLabel> <QList> <QPainter> <QString> <QWidget>)
+endif()
+function(alembra_precompile name)
+    if(TARGET precompiled)
+        target_precompile_headers(${name} REUSE_FROM precompiled)
+    endif()
+endfunction()
+
 # alembra_library(<name> SOURCES <files> LINK <targets>): a static library; sources are included by
 # "<folder>/<file>" from the root.
 function(alembra_library name)
@@ -39,6 +64,7 @@ function(alembra_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    alembra_precompile(${name})
 endfunction()
 
 # alembra_test(<name> SOURCES <files> LINK <targets>): one Qt test program, run offscreen in the C locale.
@@ -46,6 +72,7 @@ function(alembra_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
+    alembra_precompile(${name})
     target_compile_definitions(${name} PRIVATE ALEMBRA_FOLDER="${ALEMBRA_FOLDER}"
                                                ALEMBRA_SOURCE="${PROJECT_SOURCE_DIR}")
     add_test(NAME ${name} COMMAND ${name})
