@@ -1,0 +1,38 @@
+# What the packages are called and say. Which component goes into which stands in cpackgenerators.cmake.
+
+set(CPACK_GENERATOR TXZ DEB)
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_SOURCE_DIR}/cpackgenerators.cmake")
+set(CPACK_PACKAGE_NAME alembra)
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_CONTACT "${ALEMBRA_MAINTAINER}")
+set(CPACK_PACKAGE_HOMEPAGE_URL "${ALEMBRA_WEB_SITE}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "reference and calculator for the chemistry laboratory")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Alembra is a desktop reference for people who work in a chemistry or
+biochemistry laboratory: the periodic table with data and isotopes, tables on
+solvents, solutions and biomolecules, NMR and infrared charts, named reactions,
+solution calculators, unit conversions, physical constants and SI units.
+
+Tables can be searched and written as HTML reports. Every user has a program
+folder of their own, with their options and their copy of the database.")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_THREADS 2)
+
+string(TOLOWER "alembra-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}" CPACK_PACKAGE_FILE_NAME)
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF) # the archive holds one folder, "alembra", as an installation does
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${ALEMBRA_MAINTAINER}")
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+# A font with the letters of formulas, a way to open links, and windows for the launcher's messages.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils, zenity | kdialog | x11-utils")
+# The help file's viewers, and the native platform of desktops without X.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "kchmviewer | xchm, qt6-wayland")
+
+include(CPack)
