@@ -8,6 +8,8 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Alembra_uk"));
+    // The menu entry, by which a desktop finds the icon of a window.
+    QApplication::setDesktopFileName(QStringLiteral("alembra"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     QtDesktop desktop;
