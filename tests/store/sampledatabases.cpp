@@ -52,25 +52,50 @@ QByteArray SampleDatabases::varied()
     return builder.file();
 }
 
-QByteArray SampleDatabases::catalogued(int rows)
+namespace {
+
+void addTable(Builder *builder, int step, const SampleDatabases::Edit &edit)
+{
+    QList<Builder::Column> columns;
+    QList<int> present;
+    QStringList names = TableCatalog::columns(step);
+    if (edit.extraColumn)
+        names.prepend(QStringLiteral("remarks"));
+    for (const QString &name : std::as_const(names)) {
+        const int number = int(columns.size());
+        if (edit.asNumbers)
+            columns.append({name, Type::Double, number, -1, 8 * number, 8});
+        else
+            columns.append({name, Type::Text, number, number, 0, 510});
+        present.append(number);
+    }
+    Builder::Page page;
+    const int first = edit.extraColumn ? 1 : 0;
+    for (int row = 0; row < edit.rows; ++row) {
+        QList<std::optional<QByteArray>> cells;
+        QByteArray numbers;
+        for (const int column : std::as_const(present)) {
+            const QString text = QStringLiteral("%1.%2").arg(row).arg(column - first);
+            cells.append(Builder::utf16(column < first ? QStringLiteral("mine") : text));
+            numbers.resize(numbers.size() + 8);
+            qToLittleEndian(text.toDouble(), numbers.data() + numbers.size() - 8);
+        }
+        const int count = int(columns.size());
+        page.append({edit.asNumbers ? Builder::fixedRow(count, numbers, present)
+                                    : Builder::row(count, {}, cells, present),
+                     edit.deleted.contains(row) ? Jet::SlotIsDeleted : quint16(0)});
+    }
+    builder->addTable(TableCatalog::table(step), columns, {page}, quint32(edit.rows - edit.deleted.size()));
+}
+
+} // namespace
+
+QByteArray SampleDatabases::catalogued(int rows, const Edit &edit)
 {
     Builder builder;
     for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step) {
-        QList<Builder::Column> columns;
-        QList<int> present;
-        for (const QString &name : TableCatalog::columns(step)) {
-            const int number = int(columns.size());
-            columns.append({name, Type::Text, number, number, 0, 510});
-            present.append(number);
-        }
-        Builder::Page page;
-        for (int row = 0; row < rows; ++row) {
-            QList<std::optional<QByteArray>> cells;
-            for (const int column : std::as_const(present))
-                cells.append(Builder::utf16(QStringLiteral("%1.%2").arg(row).arg(column)));
-            page.append({Builder::row(int(columns.size()), {}, cells, present)});
-        }
-        builder.addTable(TableCatalog::table(step), columns, {page}, quint32(rows));
+        const QString table = TableCatalog::table(step);
+        addTable(&builder, step, table == edit.table ? edit : Edit{table, rows});
     }
     return builder.file(DatabasePassword);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
+#include <QString>
 
 class QRandomGenerator;
 
@@ -11,8 +13,19 @@ namespace SampleDatabases {
 /// of both widths, a bitmap page. Two tables, "one" and "two", of 30 rows each; without a password.
 QByteArray varied();
 
-/// All tables of the catalogue, with @p rows rows of short texts each; with the program's password.
-QByteArray catalogued(int rows);
+/// What a user has done to one table in a program of his own.
+struct Edit
+{
+    QString table;
+    int rows = 0;             ///< instead of those of the other tables
+    QSet<int> deleted = {};   ///< rows, from 0
+    bool extraColumn = false; ///< "remarks", in front of the others
+    bool asNumbers = false;   ///< columns of the type Double
+};
+
+/// All tables of the catalogue, with @p rows rows of short texts each, "2.1" in row 2 and column 1; with the
+/// program's password. Rows and columns count from 0, an extra column not at all.
+QByteArray catalogued(int rows, const Edit &edit = {});
 
 /// Spoils @p bytes by chance: cuts it, changes bytes, bits or numbers anywhere, or lets two pages change
 /// places.
