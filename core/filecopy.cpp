@@ -19,8 +19,11 @@ void copyFileOver(const QString &source, const QString &destination)
     // Written beside the destination and put in its place at the end: a copy that fails half-way harms
     // nothing, nor does one of a file onto itself.
     QSaveFile to(destination);
-    if (!to.open(QIODevice::WriteOnly))
-        throw FileErrors::of(to);
+    if (!to.open(QIODevice::WriteOnly)) {
+        // An existing file that may not be written is told as a failed write.
+        throw to.error() == QFileDevice::WriteError ? RuntimeError(ErrorNumber::PathAccess, destination)
+                                                    : FileErrors::ofWriting(to);
+    }
     // Up to the read that gives nothing: a file that cannot be read at all calls itself at its end.
     for (bool more = true; more;) {
         const QByteArray piece = from.read(PieceSize);
@@ -28,8 +31,11 @@ void copyFileOver(const QString &source, const QString &destination)
         if (from.error() != QFileDevice::NoError)
             throw FileErrors::of(from);
         if (to.write(piece) != piece.size())
-            throw FileErrors::of(to);
+            throw RuntimeError(ErrorNumber::DiskFull, destination);
     }
+    // The commit knows nothing of a piece that was written in part, and would put it in the file's place.
+    if (!to.flush())
+        throw RuntimeError(ErrorNumber::DiskFull, destination);
     if (!to.commit())
-        throw FileErrors::of(to);
+        throw FileErrors::ofWriting(to);
 }
