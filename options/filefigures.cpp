@@ -1,0 +1,59 @@
+#include "options/filefigures.h"
+
+#include "core/numbers.h"
+#include "core/runtimeerror.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <cmath>
+
+namespace {
+
+QFileInfo existingFile(const QString &path)
+{
+    QFileInfo file(path);
+    if (!file.isFile())
+        throw RuntimeError(ErrorNumber::FileNotFound, path);
+    return file;
+}
+
+} // namespace
+
+qint64 FileFigures::fileLength(const QString &path)
+{
+    return existingFile(path).size();
+}
+
+qint64 FileFigures::folderSize(const QString &path, const QString &leavingOut)
+{
+    const QDir folder(path);
+    if (!folder.exists())
+        throw RuntimeError(ErrorNumber::PathNotFound, path);
+    qint64 size = 0;
+    const QFileInfoList entries =
+        folder.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entry : entries) {
+        if (!entry.isDir())
+            size += entry.size();
+        else if (!entry.isSymLink() && entry.fileName() != leavingOut)
+            size += folderSize(entry.filePath());
+    }
+    return size;
+}
+
+QString FileFigures::kilobytes(qint64 bytes)
+{
+    return Numbers::write(double(bytes) / 1024) + QStringLiteral(" Ko");
+}
+
+QString FileFigures::megabytes(qint64 bytes)
+{
+    return Numbers::write(std::nearbyint(double(bytes) / 1048576 * 100) / 100) + QStringLiteral(" Mo");
+}
+
+QString FileFigures::modificationDate(const QString &path)
+{
+    return QLocale::system().toString(existingFile(path).lastModified(), QLocale::ShortFormat);
+}

@@ -1,0 +1,141 @@
+#include "options/formoptions.h"
+
+#include "core/desktop.h"
+#include "core/module1.h"
+#include "core/tabstrip.h"
+#include "options/databasetab.h"
+#include "options/exporttab.h"
+#include "options/generaltab.h"
+#include "options/optionstarget.h"
+#include "options/statisticstab.h"
+#include "store/datastore.h"
+#include "store/gridlines.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QPushButton>
+#include <QStackedLayout>
+
+namespace {
+
+constexpr QSize WindowSize{560, 440}; // logical pixels
+
+QStringList menuStyles()
+{
+    return {QStringLiteral("Office 2000"), QStringLiteral("Office XP"),   QStringLiteral("Office 2003"),
+            QStringLiteral("Windows XP"),  QStringLiteral("Office 2007"), QStringLiteral("Vista")};
+}
+
+QStringList startModules()
+{
+    return {QStringLiteral("Solvents"),     QStringLiteral("Solutions"),    QStringLiteral("Elements"),
+            QStringLiteral("Biochemistry"), QStringLiteral("Spectroscopy"), QStringLiteral("Calculations")};
+}
+
+} // namespace
+
+Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, OptionsTarget &target,
+                         QWidget &owner)
+    : SideWindow("Formoptions", owner), m_module(module), m_store(store), m_desktop(desktop), m_target(target)
+{
+    setWindowTitle(QStringLiteral("Options"));
+    buildWindow();
+    connectClickRules();
+    load();
+    resize(sizeHint().expandedTo(WindowSize));
+}
+
+void Formoptions::buildWindow()
+{
+    TabStrip1 = new TabStrip(QStringLiteral("TabStrip1"),
+                             {QStringLiteral("General"), QStringLiteral("Export"), QStringLiteral("Database"),
+                              QStringLiteral("Statistics")},
+                             TabStrip::Across, this);
+    auto *page = new QFrame(this);
+    page->setFrameShape(QFrame::StyledPanel);
+    auto *frames = new QStackedLayout(page);
+    frmbdd = new DatabaseTab(m_module, m_desktop, page);
+    frmstat = new StatisticsTab(m_store, m_module, page);
+    for (QWidget *frame : {makeGeneralTab(controls, page), makeExportTab(controls, page),
+                           static_cast<QWidget *>(frmbdd), static_cast<QWidget *>(frmstat)})
+        frames->addWidget(frame);
+    connect(TabStrip1, &TabStrip::tabClicked, frames,
+            [frames](int tab) { frames->setCurrentIndex(tab - 1); });
+
+    auto *rows = new QVBoxLayout(this);
+    auto *sheet = new QVBoxLayout; // strip and page touch
+    sheet->setSpacing(0);
+    sheet->addWidget(TabStrip1);
+    sheet->addWidget(page, 1);
+    rows->addLayout(sheet, 1);
+    rows->addLayout(buildButtons());
+}
+
+QLayout *Formoptions::buildButtons()
+{
+    auto *XPButton1 =
+        Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("XPButton1"));
+    auto *XpButton2 =
+        Controls::named(new QPushButton(QStringLiteral("Cancel"), this), QStringLiteral("XpButton2"));
+    XPButton1->setDefault(true);
+    XpButton2->setAutoDefault(false);
+    connect(XPButton1, &QPushButton::clicked, this, [this] { atEdge(m_desktop, [this] { ok(); }); });
+    connect(XpButton2, &QPushButton::clicked, this, &QWidget::close);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(XPButton1);
+    buttons->addWidget(XpButton2);
+    return buttons;
+}
+
+void Formoptions::connectClickRules()
+{
+    // The balloon has no meaning without the tray.
+    controls.Check1.connectEach(&QCheckBox::toggled, this, [this](int) {
+        controls.Check1[8].setEnabled(controls.Check1[7].isChecked());
+    });
+    connect(controls.Check10, &QCheckBox::toggled, controls.Combo3, &QWidget::setEnabled);
+}
+
+void Formoptions::load()
+{
+    controls.Combo2->addItems(menuStyles());
+    controls.Combo3->addItems(startModules());
+    controls.show(m_module.OptionSlots);
+    m_target.placeIrLabels();
+    m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
+    m_target.refreshToolTips();
+    ApplyGridLines();
+    m_target.refreshZoomPointer();
+    frmbdd->load();
+    frmstat->load();
+}
+
+void Formoptions::ApplyGridLines()
+{
+    ::ApplyGridLines(m_store.lists, controls.Check1[6].isChecked());
+}
+
+void Formoptions::ok()
+{
+    controls.store(m_module.OptionSlots);
+    m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
+    m_target.applyMenuStyle();
+    ApplyGridLines();
+    m_target.refreshToolTips();
+    m_target.applyIrGraduation();
+    m_target.refreshZoomPointer();
+    m_target.applyPictureOption();
+    owner().setEnabled(true);
+    m_module.WriteOptions();
+    m_target.emptyEntryFields();
+    close();
+}
+
+void Formoptions::closeEvent(QCloseEvent *event)
+{
+    SideWindow::closeEvent(event);
+    Q_EMIT unloaded();
+}

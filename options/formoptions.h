@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/sidewindow.h"
+#include "options/optioncontrols.h"
+
+class DatabaseTab;
+class Desktop;
+class OptionsTarget;
+class StatisticsTab;
+class TabStrip;
+struct DataStore;
+struct Module1;
+
+/// `Formoptions`: the one place where the user changes settings.
+///
+/// Making it is its load: it shows the slots and applies some of them to the main window. That is why it is
+/// made hidden at start. OK stores the controls in the slots, applies them and writes the options file;
+/// Cancel and the close box leave the slots alone. Each of them unloads the window.
+class Formoptions final : public SideWindow
+{
+    Q_OBJECT
+
+public:
+    /// @p owner is `Form1`. RuntimeError 53 or 76 if a file or folder that it measures is not there, 13 for a
+    /// text in the slot of a box or list.
+    Formoptions(Module1 &module, DataStore &store, Desktop &desktop, OptionsTarget &target, QWidget &owner);
+
+    /// Grid lines of all lists, by `Check1(6)`.
+    void ApplyGridLines();
+
+    OptionControls controls;
+
+Q_SIGNALS:
+    /// The window is closed and will be destroyed; nobody may use it any more.
+    void unloaded();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void buildWindow();
+    QLayout *buildButtons();
+    void connectClickRules();
+    void load();
+    void ok();
+
+    Module1 &m_module;
+    DataStore &m_store;
+    Desktop &m_desktop;
+    OptionsTarget &m_target;
+
+    TabStrip *TabStrip1;
+    DatabaseTab *frmbdd;
+    StatisticsTab *frmstat;
+};

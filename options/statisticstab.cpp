@@ -1,0 +1,118 @@
+#include "options/statisticstab.h"
+
+#include "core/module1.h"
+#include "options/filefigures.h"
+#include "options/statistics.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+
+// Logical pixels.
+constexpr int GroupSpacing = 18;
+constexpr int CaptionWidth = 190; // the same on every page, so that the numbers stay where they are
+constexpr int ValueWidth = 130;
+
+QString labelName(int number)
+{
+    return QStringLiteral("Label%1").arg(number);
+}
+
+QLabel *addValue(QGridLayout &grid, int row, QLabel *caption, const QString &name)
+{
+    QLabel *value = Controls::label(name, {}, caption->parentWidget());
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid.addWidget(caption, row, 0);
+    grid.addWidget(value, row, 1);
+    return value;
+}
+
+QGridLayout *makeGrid()
+{
+    auto *grid = new QGridLayout;
+    grid->setColumnMinimumWidth(0, CaptionWidth);
+    grid->setColumnMinimumWidth(1, ValueWidth);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+} // namespace
+
+StatisticsTab::StatisticsTab(const DataStore &store, const Module1 &module, QWidget *parent)
+    : QWidget(parent), m_module(module)
+{
+    setObjectName(QStringLiteral("frmstat"));
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(Controls::heading(QStringLiteral("Label1(4)"), QStringLiteral("Space occupation"), this));
+    QGridLayout *space = makeGrid();
+    const auto addSpace = [&](int index, const QString &text, const char *valueName) {
+        QLabel *caption = &Label7.add(index, Controls::label({}, text, this));
+        return addValue(*space, index, caption, QLatin1StringView(valueName));
+    };
+    Label27 = addSpace(0, QStringLiteral("Alembra folder:"), "Label27");
+    Label28 = addSpace(1, QStringLiteral("Application file:"), "Label28");
+    Label29 = addSpace(2, QStringLiteral("Data folder:"), "Label29");
+    Label26 = addSpace(3, QStringLiteral("Database file:"), "Label26");
+    rows->addLayout(space);
+
+    rows->addSpacing(GroupSpacing);
+    auto *chooser = new QHBoxLayout;
+    QLabel *heading =
+        Controls::heading(QStringLiteral("Label1(11)"), QStringLiteral("Database contents"), this);
+    Combo1 = Controls::named(new QComboBox(this), QStringLiteral("Combo1"));
+    heading->setBuddy(Combo1);
+    chooser->addWidget(heading);
+    chooser->addSpacing(GroupSpacing / 2);
+    chooser->addWidget(Combo1);
+    chooser->addStretch();
+    rows->addLayout(chooser);
+    rows->addSpacing(GroupSpacing / 3);
+    rows->addLayout(buildCounts(store));
+    rows->addStretch();
+}
+
+// All pages lie in the same cells; what is hidden takes no room.
+QLayout *StatisticsTab::buildCounts(const DataStore &store)
+{
+    QGridLayout *grid = makeGrid();
+    for (const Statistics::Page &page : Statistics::pages()) {
+        QList<QLabel *> labels;
+        for (const Statistics::Count &count : page.counts) {
+            const int row = int(labels.size()) / 2;
+            QLabel *caption =
+                Controls::label(labelName(count.captionLabel), QLatin1StringView(count.caption), this);
+            QLabel *value = addValue(*grid, row, caption, labelName(count.valueLabel));
+            value->setText(QString::number(count.value(store, m_module)));
+            labels << caption << value;
+        }
+        m_pages << labels;
+        Combo1->addItem(QLatin1StringView(page.name));
+    }
+    connect(Combo1, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPage);
+    Combo1->setCurrentIndex(0);
+    showPage(0);
+    return grid;
+}
+
+void StatisticsTab::showPage(int shown)
+{
+    for (int page = 0; page < m_pages.size(); ++page) {
+        for (QLabel *label : std::as_const(m_pages[page]))
+            label->setVisible(page == shown);
+    }
+}
+
+void StatisticsTab::load()
+{
+    using namespace FileFigures;
+    const QString folder = m_module.AppFolder;
+    const qint64 dataSize = folderSize(folder + QStringLiteral("/Data"));
+    // The start waits for this: each file is looked at once.
+    Label27->setText(megabytes(dataSize + folderSize(folder, QStringLiteral("Data"))));
+    Label28->setText(kilobytes(fileLength(folder + QStringLiteral("/Alembra_uk"))));
+    Label29->setText(megabytes(dataSize));
+    Label26->setText(kilobytes(fileLength(folder + QStringLiteral("/Data/Database_uk.mdb"))));
+}
