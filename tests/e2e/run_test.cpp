@@ -1,10 +1,7 @@
 #include "app/commands.h"
-#include "app/form1.h"
-#include "app/program.h"
 #include "core/modulepanel.h"
 #include "store/rowlistview.h"
-#include "tests/support/programfolder.h"
-#include "tests/support/scripteddesktop.h"
+#include "tests/support/wholerun.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -13,10 +10,9 @@
 #include <QSettings>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
-class RunTest final : public QObject
+class RunTest final : public WholeRun
 {
     Q_OBJECT
 
@@ -39,32 +35,6 @@ private Q_SLOTS:
     void missingColumnIsPassedOver();
 
 private:
-    // Runs the program and @p walk in its event loop, then quits it. The status of the process.
-    int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
-    {
-        QTimer::singleShot(0, this, [&] {
-            Form1 *form = mainWindow();
-            if (form)
-                walk(*form);
-            if (form)
-                form->executeCommand(1005);
-        });
-        try {
-            return Main(m_desktop, folder.root());
-        } catch (const ProcessEnded &end) {
-            return end.status;
-        }
-    }
-
-    static Form1 *mainWindow()
-    {
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (auto *form = qobject_cast<Form1 *>(window))
-                return form;
-        }
-        return nullptr;
-    }
-
     static QStringList shownPanes(const Form1 &form)
     {
         QStringList shown;
@@ -98,8 +68,6 @@ private:
             rows << line.split(QLatin1Char('\t'));
         return rows;
     }
-
-    ScriptedDesktop m_desktop;
 };
 
 void RunTest::everyPaneIsShownAloneAndNamed()

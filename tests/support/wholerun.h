@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/form1.h"
+#include "app/program.h"
+#include "tests/support/programfolder.h"
+#include "tests/support/scripteddesktop.h"
+
+#include <QApplication>
+#include <QTimer>
+
+/// What tests of whole runs of the program share, from `Main` to its end.
+class WholeRun : public QObject
+{
+protected:
+    // Runs the program and @p walk in its event loop, then quits it. The status of the process.
+    int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
+    {
+        QTimer::singleShot(0, this, [&] {
+            Form1 *form = mainWindow();
+            if (form)
+                walk(*form);
+            if (form)
+                form->executeCommand(1005);
+        });
+        try {
+            return Main(m_desktop, folder.root());
+        } catch (const ProcessEnded &end) {
+            return end.status;
+        }
+    }
+
+    static Form1 *mainWindow()
+    {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (auto *form = qobject_cast<Form1 *>(window))
+                return form;
+        }
+        return nullptr;
+    }
+
+    ScriptedDesktop m_desktop;
+};
