@@ -2,7 +2,9 @@
 
 #include "app/frmload.h"
 #include "app/menulayout.h"
+#include "app/optionshost.h"
 #include "browsers/biochemistrypane.h"
+#include "browsers/references.h"
 #include "browsers/referencespane.h"
 #include "browsers/solutionspane.h"
 #include "browsers/solventspane.h"
@@ -23,7 +25,6 @@
 #include "sidewindows/formhelp4.h"
 #include "sidewindows/frmabout.h"
 #include "store/datastore.h"
-#include "store/gridlines.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
 
@@ -49,7 +50,7 @@ public:
 
 Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop),
-      m_miseAjour1(desktop, m_network, module.AppFolder)
+      m_miseAjour1(desktop, m_network, module.AppFolder), m_tray(*this, module.OptionSlots)
 {
     setObjectName(QStringLiteral("Form1"));
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
@@ -60,9 +61,15 @@ Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
     m_panes->setClearChartPanels([this] { ClearChartPanels(); });
     buildPaneArea();
+    m_options = std::make_unique<OptionsHost>(
+        module, store, desktop,
+        OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy}, *this);
+    connectTray();
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
     connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
 }
+
+Form1::~Form1() = default;
 
 void Form1::buildPaneArea()
 {
@@ -106,7 +113,8 @@ ModulePanel *Form1::makePanel(PanelId id)
         connect(m_solvents, &SolventsPane::tabChanged, this, &Form1::updateCommands);
         return m_solvents;
     case PanelId::Calculations:
-        return new CalculationsPane(m_module, m_desktop, m_store.lists, m_units, m_paneArea);
+        m_calculations = new CalculationsPane(m_module, m_desktop, m_store.lists, m_units, m_paneArea);
+        return m_calculations;
     case PanelId::Solutions:
         return new SolutionsPane(m_store, m_paneArea);
     case PanelId::Biochemistry:
@@ -174,10 +182,21 @@ void Form1::buildStatusBar()
     statusBar()->setFixedHeight(statusBar()->sizeHint().height() + 8);
 }
 
+void Form1::connectTray()
+{
+    connect(&m_tray, &TrayIcon::helpWanted, this, [this] { executeCommand(1123); });
+    connect(&m_tray, &TrayIcon::aboutWanted, this, [this] { executeCommand(1122); });
+    connect(&m_tray, &TrayIcon::webSiteWanted, this, [this] { executeCommand(1134); });
+    connect(&m_tray, &TrayIcon::donationPageWanted, this,
+            [this] { m_desktop.openTarget(References::donationPage()); });
+    connect(&m_tray, &TrayIcon::quitWanted, this, &Form1::unloadAllWindows);
+}
+
 void Form1::load(frmload &splash, TableLoader &loader)
 {
     splash.showAndPause(m_desktop);
     splash.ProgressTick();
+    m_tray.load();
     m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);
     loadTables(splash, loader);
     loadMenus();
@@ -212,13 +231,6 @@ void Form1::loadMenus()
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
     resize(sizeHint()); // adjustSize() would hold it to two thirds of the screen
-}
-
-void Form1::applyOptions()
-{
-    m_elements->refreshToolTips();
-    ApplyGridLines(m_store.lists, m_module.OptionSlots(Slot::GridLines).equals(1));
-    m_elements->refreshZoomPointer();
 }
 
 void Form1::showStartModule()
@@ -272,6 +284,9 @@ void Form1::run(const Command &command)
         return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
+    case CommandKind::Options:
+        // Unlike a failure of other commands, a window that cannot be loaded ends the program.
+        return atEdge(m_desktop, [this] { m_options->open(); });
     case CommandKind::Export:
         return m_reportSave.run([this] { return reportContext(); });
     case CommandKind::Find:
@@ -280,7 +295,6 @@ void Form1::run(const Command &command)
         return openAbout(m_desktop, *this);
     case CommandKind::CheckVersion:
         return checkVersion();
-    case CommandKind::Options:
     case CommandKind::Nothing:
         return;
     }
@@ -333,14 +347,6 @@ void Form1::updateCommands()
     m_commandBars.action(1125).setEnabled(false);
 }
 
-void Form1::restoreAndRaise()
-{
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
-}
-
 void Form1::closeEvent(QCloseEvent *event)
 {
     if (!isEnabled()) {
@@ -366,6 +372,14 @@ void Form1::changeEvent(QEvent *event)
     if (event->type() == QEvent::ApplicationPaletteChange)
         keepLinksReadable();
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        m_tray.windowChanged();
+}
+
+void Form1::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_tray.windowChanged();
 }
 
 void Form1::unloadAllWindows()

@@ -2,6 +2,7 @@
 
 #include "app/commandbars.h"
 #include "app/paneswitch.h"
+#include "app/trayicon.h"
 #include "calc/unitlists.h"
 #include "reports/reportsave.h"
 #include "search/findbar.h"
@@ -11,8 +12,10 @@
 #include <QLabel>
 #include <QMainWindow>
 
+class CalculationsPane;
 class Desktop;
 class ElementsPane;
+class OptionsHost;
 class ReactionsPane;
 class SolventsPane;
 class SpectroscopyPane;
@@ -28,13 +31,13 @@ class Form1 final : public QMainWindow
 
 public:
     Form1(Module1 &module, DataStore &store, Desktop &desktop);
+    ~Form1() override;
 
     /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
     void load(frmload &splash, TableLoader &loader);
 
-    /// What the options set on the main window at start: grid lines, help balloons, the pointer over the
-    /// picture.
-    void applyOptions();
+    /// `Formoptions`, made on demand.
+    OptionsHost &options() { return *m_options; }
 
     /// The start module of the options, if there is one.
     void showStartModule();
@@ -46,17 +49,25 @@ public:
     void updateCommands();
 
     /// Out of the tray or from behind other windows.
-    void restoreAndRaise();
+    void restoreAndRaise() { m_tray.bringBack(); }
+
+    /// Into the tray or back.
+    void ToggleTray() { m_tray.ToggleTray(); }
+
+    /// 0 while the window is on the screen, -1 while it is in the tray.
+    qint16 TrayMinimized() const { return m_tray.TrayMinimized; }
 
 protected:
     /// Closing by any route unloads every window. A side window that is open keeps the main window from
     /// closing.
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildPaneArea();
     void buildStatusBar();
+    void connectTray();
     ModulePanel *makePanel(PanelId id);
     ModulePanel *makeSpectroscopy();
     ModulePanel *makeElectronics();
@@ -80,15 +91,18 @@ private:
     MiseAjour m_miseAjour1;
 
     CommandBars m_commandBars{*this};
+    TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;
     FindBar *m_findBar;
     QWidget *m_paneArea;
+    CalculationsPane *m_calculations = nullptr;
     ElementsPane *m_elements = nullptr;
     SolventsPane *m_solvents = nullptr;
     SpectroscopyPane *m_spectroscopy = nullptr;
     ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
+    std::unique_ptr<OptionsHost> m_options;
 
     UnitLists m_units; ///< filled at the end of the load
     Value m_decimals;  ///< decimals of the calculators, from the options

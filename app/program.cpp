@@ -2,6 +2,7 @@
 
 #include "app/form1.h"
 #include "app/frmload.h"
+#include "app/optionshost.h"
 #include "app/singleinstance.h"
 #include "core/desktop.h"
 #include "core/module1.h"
@@ -39,9 +40,9 @@ int Main(Desktop &desktop, const QString &appFolder)
 
     if (module.OptionSlots(Slot::TipAtStart).equals(1))
         openTip(
-            module, desktop, [](bool) {}, form);
+            module, desktop, [&form](bool wanted) { form.options().setTipAtStart(wanted); }, form);
     recovery.DisconnectDatabase();
-    form.applyOptions();
+    form.options().loadHidden();
     splash.close();
     form.showStartModule();
     return QApplication::exec();

@@ -1,0 +1,87 @@
+#include "app/optionshost.h"
+
+#include "app/commandbars.h"
+#include "app/trayicon.h"
+#include "calc/calculationspane.h"
+#include "charts/spectroscopypane.h"
+#include "core/module1.h"
+#include "core/windowunits.h"
+#include "elements/elementspane.h"
+#include "options/formoptions.h"
+
+#include <QAction>
+#include <QCheckBox>
+
+namespace {
+
+constexpr double HiddenTop = 10000; // twips
+
+} // namespace
+
+OptionsHost::OptionsHost(Module1 &module, DataStore &store, Desktop &desktop, const Parts &parts,
+                         QWidget &form)
+    : m_module(module), m_store(store), m_desktop(desktop), m_parts(parts), m_form(form)
+{}
+
+Formoptions &OptionsHost::loaded()
+{
+    if (!m_window) {
+        m_window = new Formoptions(m_module, m_store, m_desktop, *this, m_form);
+        connect(m_window, &Formoptions::unloaded, this, [this] { m_window = nullptr; });
+    }
+    return *m_window;
+}
+
+void OptionsHost::loadHidden()
+{
+    Formoptions &window = loaded();
+    window.move(window.x(), WindowUnits::pixels(HiddenTop));
+}
+
+void OptionsHost::open()
+{
+    Formoptions &window = loaded();
+    window.setAttribute(Qt::WA_Moved, false); // back from where it was hidden to the middle of its owner
+    window.showAboveOwner();
+}
+
+void OptionsHost::setTipAtStart(bool on)
+{
+    loaded().controls.Check1[1].setChecked(on);
+}
+
+void OptionsHost::enableTrayEntry(bool enabled)
+{
+    m_parts.tray.trayminimax->setEnabled(enabled);
+}
+
+void OptionsHost::applyMenuStyle()
+{
+    m_parts.commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
+}
+
+void OptionsHost::refreshToolTips()
+{
+    m_parts.elements.refreshToolTips();
+}
+
+void OptionsHost::placeIrLabels()
+{}
+
+void OptionsHost::applyIrGraduation()
+{}
+
+void OptionsHost::refreshZoomPointer()
+{
+    m_parts.elements.refreshZoomPointer();
+}
+
+void OptionsHost::applyPictureOption()
+{
+    m_parts.elements.applyPictureOption();
+}
+
+void OptionsHost::emptyEntryFields()
+{
+    m_parts.calculations.emptyEntryFields();
+}

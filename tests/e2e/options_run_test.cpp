@@ -1,0 +1,138 @@
+#include "app/optionshost.h"
+#include "options/formoptions.h"
+#include "store/rowlistview.h"
+#include "tests/support/wholerun.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+/// The options dialog in whole runs of the program.
+class OptionsRunTest final : public WholeRun
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itIsLoadedHiddenAtStartAndOpensInTheMiddle();
+    void okChangesTheMainWindowAndTheFile();
+    void eachOpeningLoadsAnew();
+    void aMissingDatabaseEndsTheProgram();
+
+private:
+    static Formoptions *dialog(const Form1 &form)
+    {
+        return form.findChild<Formoptions *>(QStringLiteral("Formoptions"));
+    }
+
+    // A control of the dialog, not one of the same name of the main window.
+    template<class W>
+    static W &control(const Form1 &form, const char *name)
+    {
+        return *dialog(form)->findChild<W *>(QLatin1StringView(name));
+    }
+
+    static void press(const Form1 &form, const char *button)
+    {
+        control<QPushButton>(form, button).click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+};
+
+void OptionsRunTest::itIsLoadedHiddenAtStartAndOpensInTheMiddle()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "0"); // no tip
+    QCOMPARE(run(folder,
+                 [&](Form1 &form) {
+                     const Formoptions *loaded = dialog(form);
+                     QVERIFY(loaded && !loaded->isVisible());
+                     QCOMPARE(loaded->y(), 667); // 10000 twips
+                     QVERIFY(form.isEnabled());
+
+                     form.executeCommand(1058);
+                     QCOMPARE(dialog(form), loaded); // the first opening shows the one made at start
+                     QVERIFY(loaded->isVisible() && !form.isEnabled());
+                     QVERIFY(loaded->screen()->geometry().contains(loaded->geometry()));
+                     QVERIFY((loaded->geometry().center() - form.geometry().center()).manhattanLength() < 60);
+                 }),
+             0);
+    QCOMPARE(m_desktop.boxes.size(), 0);
+}
+
+void OptionsRunTest::okChangesTheMainWindowAndTheFile()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "0"); // no tip
+    folder.setOption(54, "0");
+    folder.setOption(81, "0");
+    run(folder, [&](Form1 &form) {
+        const auto *bar = form.findChild<QToolBar *>();
+        QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+        form.executeCommand(1120);
+        auto *field = form.findChild<QLineEdit *>(QStringLiteral("TextBoxM7(0)"));
+        QVERIFY(field);
+        field->setText(QStringLiteral("12"));
+        const auto *arrow = form.findChild<QToolButton *>(QStringLiteral("cmdpre(0)"));
+        QVERIFY(!arrow->toolTip().isEmpty());
+
+        form.executeCommand(1058);
+        control<QComboBox>(form, "Combo2").setCurrentIndex(4);
+        control<QCheckBox>(form, "Check1(2)").setChecked(false);
+        control<QCheckBox>(form, "Check1(7)").setChecked(true);
+        press(form, "XPButton1");
+
+        QVERIFY(!dialog(form));
+        QVERIFY(form.isEnabled());
+        QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+        QCOMPARE(field->text(), QString());
+        QVERIFY(arrow->toolTip().isEmpty());
+    });
+    const QList<QByteArray> written = folder.read(QStringLiteral("options_uk.ini")).split('\n');
+    QCOMPARE(written[54], QByteArray("4\r"));
+    QCOMPARE(written[57], QByteArray("0\r"));
+    QCOMPARE(written[81], QByteArray("1\r"));
+}
+
+void OptionsRunTest::eachOpeningLoadsAnew()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "0"); // no tip
+    folder.setOption(53, "1");
+    run(folder, [&](Form1 &form) {
+        form.executeCommand(1058);
+        control<QCheckBox>(form, "Check1(6)").setChecked(false);
+        press(form, "XpButton2");
+        QVERIFY(!dialog(form));
+        form.executeCommand(1058);
+        QVERIFY(control<QCheckBox>(form, "Check1(6)").isChecked());
+        form.options().setTipAtStart(true);
+        QVERIFY(control<QCheckBox>(form, "Check1(1)").isChecked());
+    });
+}
+
+void OptionsRunTest::aMissingDatabaseEndsTheProgram()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "0"); // no tip
+    bool ended = false;
+    run(folder, [&](Form1 &form) {
+        form.executeCommand(1058);
+        press(form, "XpButton2");
+        QVERIFY(QFile::remove(folder.path(QStringLiteral("Data/Database_uk.mdb"))));
+        try {
+            form.executeCommand(1058);
+        } catch (const ProcessEnded &end) {
+            ended = end.status == 1;
+        }
+    });
+    QVERIFY(ended);
+    QVERIFY(m_desktop.boxes.constLast().first.startsWith(QStringLiteral("Run-time error '53':")));
+}
+
+QTEST_MAIN(OptionsRunTest)
+#include "options_run_test.moc"
