@@ -95,6 +95,7 @@ void Form1::buildPaneArea()
 
     auto *scroll = new PaneScroll(this);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // the panes' controls take the keyboard, and it follows them
     scroll->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     scroll->setWidget(m_paneArea);
     setCentralWidget(scroll);

@@ -120,6 +120,7 @@ void DataPanel::buildRows()
         auto *value = new QLabel(line);
         value->setFont(sized(font(), 1, true));
         value->setGeometry(ValueLeft, 0, Width - ValueLeft - 4, LineHeight);
+        value->setAccessibleDescription(QString::fromUtf8(row.caption));
         addValue(row.index, value);
         if (row.note) {
             QLabel *note = text(QLatin1StringView(row.note), sized(font(), 0.8), line);

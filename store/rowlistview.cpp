@@ -1,5 +1,6 @@
 #include "store/rowlistview.h"
 
+#include "store/listnames.h"
 #include "store/rowlist.h"
 #include "store/rowlistdelegate.h"
 
@@ -28,6 +29,9 @@ bool anyWrapped(const QList<ListColumn> &columns)
 RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent)
     : QTreeView(parent), m_model(new RowListModel(list, std::move(columns), this))
 {
+    // A list that is one of an array gets its name with its index later.
+    connect(this, &QObject::objectNameChanged, this,
+            [this](const QString &newName) { setAccessibleName(ListNames::of(newName)); });
     setObjectName(name);
     setModel(m_model);
     m_delegate = new RowListDelegate(list, m_model->columns(), this);
