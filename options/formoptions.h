@@ -21,8 +21,7 @@ class Formoptions final : public SideWindow
     Q_OBJECT
 
 public:
-    /// @p owner is `Form1`. RuntimeError 53 or 76 if a file or folder that it measures is not there, 13 for a
-    /// text in the slot of a box or list.
+    /// @p owner is `Form1`. RuntimeError 53 or 76 if a file or folder that it measures is not there.
     Formoptions(Module1 &module, DataStore &store, Desktop &desktop, OptionsTarget &target, QWidget &owner);
 
     /// Grid lines of all lists, by `Check1(6)`.

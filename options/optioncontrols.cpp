@@ -41,6 +41,12 @@ constexpr std::array SlotControls{
     SlotControl{Slot::ReportColours, Control::Option1, 1},
 };
 
+// What a control can show is never negative.
+double shownNumber(const Value &value)
+{
+    return value.isText() ? -1 : value.toNumber();
+}
+
 QCheckBox &box(const OptionControls &controls, const SlotControl &entry)
 {
     switch (entry.control) {
@@ -72,16 +78,16 @@ void OptionControls::show(const OptionSlots &slots)
         const Value &value = slots(entry.slot);
         switch (entry.control) {
         case Control::Combo2:
-            showInList(*Combo2, value.toNumber());
+            showInList(*Combo2, shownNumber(value));
             break;
         case Control::Combo3:
-            showInList(*Combo3, value.toNumber());
+            showInList(*Combo3, shownNumber(value));
             break;
         case Control::Option1:
             Option1[value.equals(1) ? entry.index : entry.index - 1].setChecked(true);
             break;
         default:
-            showInBox(box(*this, entry), value.toNumber());
+            showInBox(box(*this, entry), shownNumber(value));
         }
     }
 }

@@ -9,9 +9,9 @@ class QRadioButton;
 
 /// The controls of the options dialog that show a slot, on whichever tab they stand.
 ///
-/// Their slots are one table, read in both directions. A number that a control cannot show (a box knows 0 and
-/// 1, a list its items) leaves a box half checked and a list without a selection; unless the user touches it,
-/// such a slot keeps its value.
+/// Their slots are one table, read in both directions. What a control cannot show (a box knows 0 and 1, a
+/// list the numbers of its items) leaves a box half checked and a list without a selection; unless the user
+/// touches it, such a slot keeps its value.
 struct OptionControls final
 {
     ControlArray<QCheckBox> Check1{"Check1"};
@@ -21,7 +21,6 @@ struct OptionControls final
     QComboBox *Combo2 = nullptr;
     QComboBox *Combo3 = nullptr;
 
-    /// In the order of the table. A text that is no number in a slot is RuntimeError 13.
     void show(const OptionSlots &slots);
 
     void store(OptionSlots &slots) const;
