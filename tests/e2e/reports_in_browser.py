@@ -16,9 +16,10 @@ import sys
 import tempfile
 import urllib.parse
 
+# The driver speaks to it through a pipe: a socket takes the name "localhost", which a bare system may not know.
 SWITCHES = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
             "--disable-background-networking", "--disable-component-update", "--disable-sync",
-            "--disable-dev-shm-usage", "--window-size=1280,1600"]
+            "--disable-dev-shm-usage", "--remote-debugging-pipe", "--window-size=1280,1600"]
 
 # What each report shows, and how many pictures it has.
 EXPECTED = {
