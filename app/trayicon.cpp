@@ -106,11 +106,13 @@ void TrayIcon::bringBack()
     m_form.show();
     m_form.raise();
     m_form.activateWindow();
+    windowChanged();
 }
 
 void TrayIcon::windowChanged()
 {
-    if (!m_options(Slot::MinimiseToTray).equals(1))
+    // Window managers go on changing the state of a window that has left the screen.
+    if (m_form.isHidden() || !m_options(Slot::MinimiseToTray).equals(1))
         return;
     if (!m_form.isMinimized()) {
         trayminimax->setText(MinimizeCaption);
