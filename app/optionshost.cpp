@@ -66,10 +66,14 @@ void OptionsHost::refreshToolTips()
 }
 
 void OptionsHost::placeIrLabels()
-{}
+{
+    m_parts.spectroscopy.placeIrLabels();
+}
 
 void OptionsHost::applyIrGraduation()
-{}
+{
+    m_parts.spectroscopy.applyIrGraduation();
+}
 
 void OptionsHost::refreshZoomPointer()
 {

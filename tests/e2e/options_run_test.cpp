@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTest>
 #include <QToolBar>
@@ -20,7 +21,9 @@ class OptionsRunTest final : public WholeRun
 private Q_SLOTS:
     void itIsLoadedHiddenAtStartAndOpensInTheMiddle();
     void okChangesTheMainWindowAndTheFile();
+    void okPutsTheInfraredScaleOnShow();
     void eachOpeningLoadsAnew();
+    void tipAndDialogShareTheirBox();
     void aMissingDatabaseEndsTheProgram();
 
 private:
@@ -98,6 +101,34 @@ void OptionsRunTest::okChangesTheMainWindowAndTheFile()
     QCOMPARE(written[81], QByteArray("1\r"));
 }
 
+void OptionsRunTest::okPutsTheInfraredScaleOnShow()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "0");
+    folder.setOption(89, "1");
+    run(folder, [&](Form1 &form) {
+        const auto label = [&](const char *name) {
+            return form.findChild<QWidget *>(QStringLiteral("frmana"))
+                ->findChild<QLabel *>(QLatin1StringView(name));
+        };
+        form.executeCommand(1145); // the table: captions and places change out of sight
+        form.executeCommand(1058);
+        control<QRadioButton>(form, "Option1(2)").click();
+        press(form, "XPButton1");
+        QCOMPARE(label("Label25")->text(), QStringLiteral("/ micrometer"));
+        QVERIFY(label("Label25")->isHidden());
+        QCOMPARE(label("Label26")->x(), 287); // 4305 twips
+
+        form.executeCommand(1144);
+        form.executeCommand(1058);
+        control<QRadioButton>(form, "Option1(3)").click();
+        press(form, "XPButton1");
+        QCOMPARE(label("Label25")->text(), QStringLiteral("/ cm-1"));
+        QVERIFY(!label("Label25")->isHidden());
+        QCOMPARE(label("Label26")->x(), 307); // 4605 twips
+    });
+}
+
 void OptionsRunTest::eachOpeningLoadsAnew()
 {
     const ProgramFolder folder;
@@ -112,6 +143,23 @@ void OptionsRunTest::eachOpeningLoadsAnew()
         QVERIFY(control<QCheckBox>(form, "Check1(6)").isChecked());
         form.options().setTipAtStart(true);
         QVERIFY(control<QCheckBox>(form, "Check1(1)").isChecked());
+    });
+}
+
+void OptionsRunTest::tipAndDialogShareTheirBox()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "1");
+    run(folder, [&](Form1 &form) {
+        auto *tip = form.findChild<QWidget *>(QStringLiteral("frmTip"));
+        QVERIFY(tip && tip->isVisible());
+        QVERIFY(control<QCheckBox>(form, "Check1(1)").isChecked());
+        tip->findChild<QCheckBox *>(QStringLiteral("chkLoadTipsAtStartup"))->click();
+        QVERIFY(!control<QCheckBox>(form, "Check1(1)").isChecked());
+        tip->close();
+        form.executeCommand(1058);
+        QVERIFY(dialog(form)->isEnabled());
+        QVERIFY(!control<QCheckBox>(form, "Check1(1)").isChecked());
     });
 }
 
