@@ -98,7 +98,7 @@ void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
     ReportPage page(m_module);
     choice->report(page, m_data);
     if (file.write(page.bytes()) != page.bytes().size() || !file.flush())
-        throw FileErrors::ofWriting(file);
+        throw RuntimeError(ErrorNumber::DiskFull, file.fileName()); // a part that was written sets no error
 }
 
 void ReportSave::tell(const RuntimeError &error)

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void folderInTheWayIsTold();
     void folderWithoutPermissionIsTold();
     void missingFolderIsSilent();
+    void fullDiskIsSilentAndLeavesTheFirstBytes_data();
     void fullDiskIsSilentAndLeavesTheFirstBytes();
 
 private:
@@ -314,18 +315,41 @@ void ReportSaveTest::missingFolderIsSilent()
     QCOMPARE(m_module->ProbedLength, 76);
 }
 
+void ReportSaveTest::fullDiskIsSilentAndLeavesTheFirstBytes_data()
+{
+    QTest::addColumn<int>("pane");
+    QTest::addColumn<int>("solventTab");
+    for (int pane = 1; pane <= 5; ++pane)
+        QTest::addRow("pane %d", pane) << pane << 0;
+    for (int tab = 1; tab <= 6; ++tab)
+        QTest::addRow("solvents, tab %d", tab) << 0 << tab;
+}
+
+// Whatever the report and wherever the disk fills up.
 void ReportSaveTest::fullDiskIsSilentAndLeavesTheFirstBytes()
 {
-    m_desktop->savePaths << path() << path("again.htm");
-    {
-        const FullDisk disk(1000);
-        run();
+    QFETCH(int, pane);
+    QFETCH(int, solventTab);
+    const auto onShow = [&] {
+        return ReportContext{pane < 1, pane < 2, pane < 3, pane < 4, pane < 5, true, "Pane", solventTab, ""};
+    };
+    m_desktop->savePaths << path("whole.htm");
+    m_save->run(onShow);
+    const QByteArray whole = read("whole.htm");
+    QVERIFY(whole.endsWith("</body></html>\r\n"));
+    for (const qsizetype bytes : {qsizetype(0), qsizetype(1), whole.size() / 2, whole.size() - 1}) {
+        m_desktop->savePaths << path(QString::number(bytes) + ".htm");
+        {
+            const FullDisk disk{rlim_t(bytes)};
+            m_save->run(onShow);
+        }
+        QVERIFY(m_desktop->boxes.isEmpty());
+        QCOMPARE(m_module->ProbedLength, 61);
+        QCOMPARE(read(QString::number(bytes) + ".htm"), whole.first(bytes));
     }
-    QVERIFY(m_desktop->boxes.isEmpty());
-    QCOMPARE(m_module->ProbedLength, 61);
-    QCOMPARE(read().size(), 1000);
-    run();
-    QVERIFY(read("again.htm").startsWith(read()));
+    m_desktop->savePaths << path("again.htm");
+    m_save->run(onShow);
+    QCOMPARE(read("again.htm"), whole);
     QCOMPARE(m_module->ProbedLength, 0);
 }
 
