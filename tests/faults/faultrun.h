@@ -78,21 +78,26 @@ public:
 /// What can be wrong with a file, and how it is brought about.
 namespace Fault {
 
-// Folders of pictures are links to the assembled ones: makes the one of @p below a folder of links, but for
-// the file itself.
+// Folders of pictures are links to the assembled ones: makes each folder on the way to @p below a folder of
+// links, and the file itself a copy.
 inline void makeOwn(const ProgramFolder &folder, const QString &below)
 {
-    const QString path = folder.path(below);
-    const QString parent = path.section(QLatin1Char('/'), 0, -2);
-    const QDir assembled(QFile::symLinkTarget(parent));
-    if (!QFileInfo(parent).isSymLink())
-        return;
-    QFile::remove(parent);
-    QDir().mkpath(parent);
-    for (const QString &name : assembled.entryList(QDir::Files))
-        QFile::link(assembled.filePath(name), parent + QLatin1Char('/') + name);
-    QFile::remove(path);
-    QFile::copy(assembled.filePath(path.section(QLatin1Char('/'), -1)), path);
+    QString path = folder.root();
+    for (const QString &part : below.split(QLatin1Char('/'))) {
+        path += QLatin1Char('/') + part;
+        if (!QFileInfo(path).isSymLink())
+            continue;
+        const QFileInfo assembled(QFile::symLinkTarget(path));
+        QFile::remove(path);
+        if (!assembled.isDir()) {
+            QFile::copy(assembled.filePath(), path);
+            continue;
+        }
+        QDir().mkpath(path);
+        for (const QFileInfo &each :
+             QDir(assembled.filePath()).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot))
+            QFile::link(each.filePath(), path + QLatin1Char('/') + each.fileName());
+    }
 }
 
 inline void bring(const ProgramFolder &folder, const QString &below, const QByteArray &fault)

@@ -53,9 +53,10 @@ void FilesTest::spoiltAtStart_data()
         add(fault, "Data/Database_uk.mdb", "question");
     add("cut", "Data/Database_uk.mdb", "question");
 
-    // Never opened while the database is good.
-    for (const char *fault : {"missing", "empty", "cut", "of another kind", "unreadable", "a folder"}) {
-        add(fault, "Backup/Database_uk_origin.rbk", "runs");
+    // Never opened while the database is good, or by another program.
+    for (const char *file : {"Backup/Database_uk_origin.rbk", "alembra_help_uk.chm"}) {
+        for (const char *fault : {"missing", "empty", "cut", "of another kind", "unreadable", "a folder"})
+            add(fault, file, "runs");
     }
 }
 
@@ -67,7 +68,7 @@ void FilesTest::spoiltAtStart()
     const ProgramFolder folder;
     Fault::bring(folder, file, fault);
     FaultRun run;
-    run.start(folder);
+    run.start(folder, [](Form1 &form) { form.executeCommand(1123); }); // the help
     QCOMPARE(run.outcome(), outcome);
     QCOMPARE(run.stood, outcome == QStringLiteral("runs"));
     if (outcome.startsWith(QStringLiteral("report")))
@@ -162,6 +163,17 @@ void showCrystal(Form1 &form)
     click(form, "Command9");
 }
 
+// Shows the chart of the first row of a list behind a command.
+std::function<void(Form1 &)> chart(int command, const char *list)
+{
+    return [command, list](Form1 &form) {
+        form.executeCommand(command);
+        auto *view = form.findChild<RowListView *>(QLatin1StringView(list));
+        view->selectRow(0);
+        Q_EMIT view->rowClicked(0);
+    };
+}
+
 void showFormula(Form1 &form)
 {
     form.executeCommand(1119);
@@ -189,7 +201,10 @@ void FilesTest::spoiltPictures_data()
     // Without a trap the report ends the program, with the path of the picture.
     for (const Place &place :
          {Place{"Data/elements/26.jpg", showIron, ""}, Place{"Data/elements/26b.jpg", zoomIron, "Form5"},
-          Place{"Data/cristal/Body-centered cubic.bmp", showCrystal, "Form4"}}) {
+          Place{"Data/cristal/Body-centered cubic.bmp", showCrystal, "Form4"},
+          Place{"Data/ir/1.gif", chart(1144, "ListView3(5)"), ""},
+          Place{"Data/nmr/1h/1000.gif", chart(1142, "ListView3(15)"), ""},
+          Place{"Data/nmr/13c/1000.gif", chart(1143, "ListView3(16)"), ""}}) {
         const auto add = [&](const char *fault, const char *outcome, const char *window) {
             QTest::addRow("%s %s", place.file, fault)
                 << QByteArray(fault) << place.file << place.walk << outcome << window;

@@ -1,11 +1,16 @@
+#include "core/sidewindow.h"
 #include "core/tabstrip.h"
 #include "tests/faults/faultrun.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRandomGenerator>
 #include <QStringEncoder>
 #include <QTest>
+#include <algorithm>
+#include <csignal>
+#include <sys/wait.h>
 #include <unistd.h>
 
 /// Options files that somebody has spoilt: the program starts with what can be read in them, or tells that
@@ -18,6 +23,7 @@ private Q_SLOTS:
     void damaged_data();
     void damaged();
     void forbidden();
+    void killedBehindOk();
 
 private:
     static QByteArray delivered()
@@ -183,6 +189,58 @@ void OptionsTest::forbidden()
     run.start(folder);
     QCOMPARE(run.outcome(), QStringLiteral("report 75"));
     QVERIFY(run.boxNames(path));
+}
+
+namespace {
+
+// Turns the grid lines on or off and presses OK.
+void pressOk(Form1 &form)
+{
+    form.executeCommand(1058);
+    auto *window = form.findChild<SideWindow *>(QStringLiteral("Formoptions"));
+    window->findChild<QAbstractButton *>(QStringLiteral("Check1(6)"))->click();
+    window->findChild<QAbstractButton *>(QStringLiteral("XPButton1"))->click();
+    delete window; // the event loop would do it later
+}
+
+} // namespace
+
+// What a kill leaves is one of the two files that were meant or the beginning of one, and the program starts
+// on it.
+void OptionsTest::killedBehindOk()
+{
+    const ProgramFolder folder;
+    const QString options = QStringLiteral("options_uk.ini");
+    QSet<QByteArray> meant;
+    QSet<QByteArray> left;
+    FaultRun run;
+    run.start(folder, [&](Form1 &form) {
+        for (int twice = 0; twice < 2; ++twice) {
+            pressOk(form);
+            meant << folder.read(options);
+        }
+        QRandomGenerator random(11);
+        for (int round = 0; round < 200; ++round) {
+            const pid_t child = fork();
+            while (child == 0)
+                pressOk(form);
+            usleep(useconds_t(1000 + random.bounded(20000)));
+            kill(child, SIGKILL);
+            waitpid(child, nullptr, 0);
+            left << folder.read(options);
+        }
+    });
+    QCOMPARE(run.outcome(), QStringLiteral("runs"));
+    QCOMPARE(meant.size(), 2);
+    QVERIFY(left.size() > 1); // the children came to write
+    for (const QByteArray &content : std::as_const(left)) {
+        QVERIFY(std::any_of(meant.cbegin(), meant.cend(),
+                            [&](const QByteArray &whole) { return whole.startsWith(content); }));
+        folder.write(options, content);
+        FaultRun next;
+        next.start(folder);
+        QCOMPARE(next.outcome(), QStringLiteral("runs"));
+    }
 }
 
 QTEST_MAIN(OptionsTest)
