@@ -4,6 +4,7 @@
 #include "store/databasepassword.h"
 #include "store/jet/jetfile.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
@@ -26,6 +27,17 @@ QByteArray deliveredFile()
 {
     QFile file(QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int deliveredRows()
+{
+    const QDir tables(QStringLiteral(ALEMBRA_SOURCE "/data/tables"));
+    int rows = 0;
+    for (const QFileInfo &table : tables.entryInfoList({QStringLiteral("*.tsv")})) {
+        QFile file(table.filePath());
+        rows += file.open(QIODevice::ReadOnly) ? int(file.readAll().count('\n')) - 1 : 0;
+    }
+    return rows;
 }
 
 // The number of rows that could be read before the first error of each table.
@@ -60,7 +72,7 @@ void JetDamageTest::damagedCopiesEnd_data()
     QTest::addColumn<int>("copies");
     QTest::addColumn<int>("rows");
     QTest::newRow("varied") << SampleDatabases::varied() << 1800 << 60;
-    QTest::newRow("delivered") << deliveredFile() << 200 << 4038;
+    QTest::newRow("delivered") << deliveredFile() << 200 << deliveredRows();
 }
 
 void JetDamageTest::damagedCopiesEnd()
