@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QToolTip>
 #include <algorithm>
 
@@ -22,6 +23,21 @@ bool isWrapped(const ListColumn &column)
 bool anyWrapped(const QList<ListColumn> &columns)
 {
     return std::any_of(columns.begin(), columns.end(), isWrapped);
+}
+
+// As text and as a table: a spreadsheet that gets the text asks how to read it, and takes the CAS number
+// 75-05-8 for a day in May.
+void copy(const QString &lines)
+{
+    QString rows;
+    for (const QString &line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const QString cells = line.toHtmlEscaped().replace(QLatin1Char('\t'), QStringLiteral("</td><td>"));
+        rows += QStringLiteral("<tr><td>%1</td></tr>").arg(cells);
+    }
+    auto *data = new QMimeData;
+    data->setText(lines);
+    data->setHtml(QStringLiteral("<meta charset=\"utf-8\"><table>%1</table>").arg(rows));
+    QGuiApplication::clipboard()->setMimeData(data);
 }
 
 } // namespace
@@ -112,12 +128,12 @@ QString RowListView::allText() const
 void RowListView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_C && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
-        QGuiApplication::clipboard()->setText(allText());
+        copy(allText());
         return;
     }
     if (event->matches(QKeySequence::Copy)) {
         if (selectedRow() >= 0)
-            QGuiApplication::clipboard()->setText(selectedText());
+            copy(selectedText());
         return;
     }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

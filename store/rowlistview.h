@@ -10,7 +10,8 @@ class RowListDelegate;
 ///
 /// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
 /// the columns to copied text and to screen readers. Ctrl+C copies the selected row, Ctrl+Shift+C the list
-/// with its titles, tab-separated. A text that does not fit shows whole on hover.
+/// with its titles, as tab-separated text and as an HTML table. A text that does not fit shows whole on
+/// hover.
 class RowListView final : public QTreeView
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHelpEvent>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
@@ -90,6 +91,9 @@ void RowListViewTest::copyTakesTheRowOrTheListWithItsTitles()
              QStringLiteral("Name\tValue (g)\tRemark\n"
                             "row 1\t1.5\ta long text that does not fit in its column, number 1\n"
                             "row 2\t2.5\ta long text that does not fit in its column, number 2\n"));
+    const QString table = QGuiApplication::clipboard()->mimeData()->html();
+    QVERIFY(table.contains(QStringLiteral("<td>Name</td><td>Value (g)</td><td>Remark</td></tr>"
+                                          "<tr><td>row 1</td><td>1.5</td><td>a long")));
 }
 
 void RowListViewTest::rowsAreChosenByMouseAndKeyboardAlike()
