@@ -116,6 +116,7 @@ private Q_SLOTS:
     void everyCalculatorHasAnExampleAsTheProgramSolvesIt_data();
     void everyCalculatorHasAnExampleAsTheProgramSolvesIt();
     void conversionsAreWhatTheProgramShows();
+    void sourcesOfEveryTableAreTold();
 };
 
 void HelpTest::holdsEveryPageContentsIndexAndFullText()
@@ -255,6 +256,21 @@ void HelpTest::conversionsAreWhatTheProgramShows()
         QVERIFY2(pair.to < lists.names(quantity.resultList).size(), qPrintable(equation.captured(4)));
         UnitConverter converter([&](int) { return pair; });
         QCOMPARE(converter.keyReleased(int(tab), equation.captured(1)), equation.captured(3));
+    }
+}
+
+void HelpTest::sourcesOfEveryTableAreTold()
+{
+    const QString root = QStringLiteral(ALEMBRA_SOURCE "/");
+    const QStringList tables =
+        QDir(root + QStringLiteral("data/tables")).entryList({QStringLiteral("*.tsv")});
+    QCOMPARE(tables.size(), 35);
+    for (const char *page : {"data/help/data.html", "docs/data.md"}) {
+        const QString text = QString::fromUtf8(contentOf(root + QLatin1StringView(page)));
+        for (const QString &table : tables) {
+            const QRegularExpression name(QStringLiteral("\\b%1\\b").arg(table.chopped(4)));
+            QVERIFY2(text.contains(name), qPrintable(QLatin1StringView(page) + QLatin1Char(' ') + table));
+        }
     }
 }
 
