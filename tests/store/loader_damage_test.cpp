@@ -59,7 +59,7 @@ private:
 
 void LoaderDamageTest::everyDamagedCopyHasANamedOutcome()
 {
-    constexpr int Copies = 3000;
+    constexpr int Copies = 5000;
     const QByteArray whole = SampleDatabases::catalogued(8);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Database_uk.mdb"));
