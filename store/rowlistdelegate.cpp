@@ -36,7 +36,7 @@ int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &ce
 }
 
 // Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one. A word that is wider
-// than the whole line breaks behind its hyphens and brackets.
+// than the whole line breaks behind its hyphens and brackets, and a formula before the symbol of an element.
 QString wrappable(const QString &text, const QFontMetrics &metrics, int width)
 {
     constexpr QChar WordJoiner(u'\u2060');
@@ -45,8 +45,13 @@ QString wrappable(const QString &text, const QFontMetrics &metrics, int width)
     for (QString &word : words) {
         const bool fits = metrics.horizontalAdvance(word) <= width;
         word.replace(QLatin1Char('-'), QLatin1Char('-') + QString(fits ? WordJoiner : BreakHere));
-        if (!fits)
-            word.replace(QLatin1Char(')'), QLatin1Char(')') + QString(BreakHere));
+        if (fits)
+            continue;
+        word.replace(QLatin1Char(')'), QLatin1Char(')') + QString(BreakHere));
+        for (qsizetype place = word.size() - 1; place > 0; --place) {
+            if (word[place].isUpper() && word[place - 1].isDigit())
+                word.insert(place, BreakHere);
+        }
     }
     return words.join(QLatin1Char(' '));
 }
@@ -89,7 +94,7 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     painter->setFont(item.font);
     painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    drawText(*painter, item.rect, text, index, heading);
+    drawText(*painter, item.rect, text, index);
     if (m_list.gridLines()) {
         painter->setPen(item.palette.color(QPalette::Midlight));
         painter->drawLine(item.rect.bottomLeft(), item.rect.bottomRight());
@@ -98,23 +103,46 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->restore();
 }
 
+// The last column may be drawn wider than it was made, and a heading runs over all columns.
+QRect RowListDelegate::room(const QRect &cell, const QModelIndex &index) const
+{
+    const ListColumn &column = m_columns[index.column()];
+    const int left = leftInset(index);
+    QRect room = cell.adjusted(left, 0, -Padding, 0);
+    if (column.kind == ListColumn::Kind::Text || isHeading(index.row()))
+        return room;
+    room.setWidth(column.width - left - Padding);
+    // Numbers stand near the middle. One that comes close to the lines can still be read, one cut short
+    // cannot.
+    constexpr int Spare = 4;
+    return column.kind == ListColumn::Kind::Number ? room.adjusted(-Spare, 0, Spare, 0) : room;
+}
+
+bool RowListDelegate::isCut(QFont font, const QRect &cell, const QModelIndex &index) const
+{
+    const bool heading = isHeading(index.row());
+    if (m_columns[index.column()].kind == ListColumn::Kind::Wrapped && !heading)
+        return false;
+    font.setBold(heading);
+    // A pixel of the space between two cells is better than three dots.
+    return QFontMetricsF(font).horizontalAdvance(index.data().toString()) > room(cell, index).width() + 1;
+}
+
 void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QString &text,
-                               const QModelIndex &index, bool heading) const
+                               const QModelIndex &index) const
 {
     const ListColumn &column = m_columns[index.column()];
     const QFontMetrics metrics = painter.fontMetrics();
-    const int left = leftInset(index);
-    QRect cell = rect.adjusted(left, 0, -Padding, 0);
-    // The last column may be drawn wider than it was made, and a heading runs over all columns.
-    if (column.kind != ListColumn::Kind::Text && !heading)
-        cell.setWidth(column.width - left - Padding);
+    QRect cell = room(rect, index);
+    if (column.kind == ListColumn::Kind::Wrapped && !isHeading(index.row())) {
+        painter.drawText(cell, Qt::AlignVCenter | Qt::TextWordWrap, wrappable(text, metrics, cell.width()));
+        return;
+    }
+    const bool cut = isCut(painter.font(), rect, index);
     if (column.kind == ListColumn::Kind::Number)
         cell.setLeft(numberLeft(metrics, text, cell));
-    if (column.kind == ListColumn::Kind::Wrapped && !heading)
-        painter.drawText(cell, Qt::AlignVCenter | Qt::TextWordWrap, wrappable(text, metrics, cell.width()));
-    else
-        painter.drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine,
-                         metrics.elidedText(text, Qt::ElideRight, cell.width() + 1));
+    painter.drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                     cut ? metrics.elidedText(text, Qt::ElideRight, cell.width()) : text);
 }
 
 QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

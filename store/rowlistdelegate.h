@@ -25,10 +25,13 @@ public:
 
     bool isHeading(int row) const;
 
+    /// Whether the text has no room in @p cell and is drawn shortened.
+    bool isCut(QFont font, const QRect &cell, const QModelIndex &index) const;
+
 private:
     int leftInset(const QModelIndex &index) const;
-    void drawText(QPainter &painter, const QRect &rect, const QString &text, const QModelIndex &index,
-                  bool heading) const;
+    QRect room(const QRect &cell, const QModelIndex &index) const;
+    void drawText(QPainter &painter, const QRect &rect, const QString &text, const QModelIndex &index) const;
 
     bool m_recipes = false;
     const RowList &m_list;

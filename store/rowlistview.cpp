@@ -10,6 +10,8 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 #include <algorithm>
 
@@ -147,18 +149,26 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowClicked(selectedRow());
 }
 
+// With rows, the current one shows the focus.
+void RowListView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (!hasFocus() || m_model->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    QStyleOptionFocusRect option;
+    option.initFrom(viewport());
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
 bool RowListView::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return QTreeView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.data().toString();
-    const bool cut =
-        index.isValid() && !isWrapped(columns()[index.column()]) && !isFirstColumnSpanned(index.row(), {}) &&
-        fontMetrics().horizontalAdvance(text) + 2 * RowListDelegate::Padding > columnWidth(index.column());
-    if (cut)
-        QToolTip::showText(help->globalPos(), text, viewport(), visualRect(index));
+    if (index.isValid() && m_delegate->isCut(font(), visualRect(index), index))
+        QToolTip::showText(help->globalPos(), index.data().toString(), viewport(), visualRect(index));
     else
         QToolTip::hideText();
     return true;
