@@ -8,8 +8,9 @@
 namespace {
 
 // Left and right of a caption, logical pixels. Less than the styles' own, for the long captions of the
-// calculators.
+// calculators; the least where they would not all be seen.
 constexpr int CaptionMargin = 7;
+constexpr int LeastCaptionMargin = 3;
 constexpr int DownHeight = 5; // more than the height of the letters
 
 } // namespace
@@ -27,9 +28,17 @@ TabStrip::TabStrip(const QString &name, const QStringList &captions, Direction d
     connect(this, &QTabBar::currentChanged, this, [this](int index) { Q_EMIT tabClicked(index + 1); });
 }
 
+int TabStrip::captionMargin() const
+{
+    int room = width();
+    for (int index = 0; index < count(); ++index)
+        room -= fontMetrics().horizontalAdvance(tabText(index));
+    return isDown() ? CaptionMargin : qBound(LeastCaptionMargin, room / (2 * count()), CaptionMargin);
+}
+
 QSize TabStrip::tabSizeHint(int index) const
 {
-    const int caption = fontMetrics().horizontalAdvance(tabText(index)) + 2 * CaptionMargin;
+    const int caption = fontMetrics().horizontalAdvance(tabText(index)) + 2 * captionMargin();
     if (!isDown())
         return {caption, QTabBar::tabSizeHint(index).height()};
     return {qMax(caption, width()), fontMetrics().height() + DownHeight};
@@ -94,8 +103,9 @@ void TabStrip::paintTab(QStylePainter &painter, int index)
     const QPalette::ColorRole colour = !isDown()  ? QPalette::WindowText
                                        : selected ? QPalette::HighlightedText
                                                   : QPalette::Text;
-    painter.drawItemText(tab.rect.adjusted(CaptionMargin, 0, -CaptionMargin, 0), alignment | Qt::AlignVCenter,
-                         tab.palette, isEnabled(), tab.text, colour);
+    const int margin = captionMargin();
+    painter.drawItemText(tab.rect.adjusted(margin, 0, -margin, 0), alignment | Qt::AlignVCenter, tab.palette,
+                         isEnabled(), tab.text, colour);
     if (selected && hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);

@@ -35,6 +35,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    int captionMargin() const;
     bool isDown() const { return shape() == RoundedWest; }
     void paintTab(QStylePainter &painter, int index);
 };

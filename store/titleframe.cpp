@@ -10,7 +10,7 @@
 namespace {
 
 /// A title that does not fit in one line breaks before its unit, "Molar mass" over "(g/mol)", and nowhere
-/// inside it.
+/// inside it. One that has no room even so is set smaller.
 class TitleLabel final : public QLabel
 {
 public:
@@ -22,9 +22,14 @@ protected:
         QString shown = text();
         if (fontMetrics().horizontalAdvance(shown) > width())
             shown.replace(QLatin1StringView(" ("), QLatin1StringView("\n("));
+        const int flags = int(alignment()) | Qt::TextWordWrap;
+        QFont fitting = font();
+        while (fitting.pointSizeF() > 1 &&
+               !rect().contains(QFontMetrics(fitting).boundingRect(rect(), flags, shown)))
+            fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
         QPainter painter(this);
-        style()->drawItemText(&painter, rect(), int(alignment()) | Qt::TextWordWrap, palette(), isEnabled(),
-                              shown, foregroundRole());
+        painter.setFont(fitting);
+        style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown, foregroundRole());
     }
 };
 
