@@ -75,6 +75,7 @@ void Form1::buildPaneArea()
 {
     m_paneArea = new QWidget;
     m_paneArea->setFixedSize(ModulePanel::Size);
+    m_paneArea->setFont(ModulePanel::fittingFont(QApplication::font()));
     for (const PanelName &panel : Panels)
         m_panes->add(panel.panel, *makePanel(panel.panel));
 
@@ -90,8 +91,8 @@ void Form1::buildPaneArea()
         box->setGeometry(place);
         m_panes->addElementsCompanion(*box);
     };
-    addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(36, 430, 84, 20));
-    addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(36, 462, 84, 20));
+    addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(24, 430, 84, 20));
+    addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(24, 462, 84, 20));
 
     auto *scroll = new PaneScroll(this);
     scroll->setFrameShape(QFrame::NoFrame);

@@ -4,6 +4,7 @@
 #include "core/desktop.h"
 #include "core/icons.h"
 #include "core/module1.h"
+#include "core/modulepanel.h"
 #include "core/versionrecord.h"
 
 #include <QLabel>
@@ -12,7 +13,7 @@
 
 namespace {
 
-constexpr QSize WindowSize{440, 216};
+constexpr QSize WindowSize{470, 230};
 constexpr int TextLeft = 128;
 constexpr int PauseMilliseconds = 50;
 
@@ -29,6 +30,7 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     setObjectName(QStringLiteral("frmload"));
     setWindowTitle(QStringLiteral("0% Alembra"));
     setFixedSize(WindowSize);
+    setFont(ModulePanel::fittingFont(font())); // fixed in size like the panes
 
     auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
     picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
@@ -40,14 +42,14 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     large.setBold(true);
     title->setFont(large);
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
-    addLine("lblDescription", VersionRecord::comments(), 72, 54);
-    addLine("lblcopy", VersionRecord::legalNotice(), 128, 34);
+    addLine("lblDescription", VersionRecord::comments(), 72, 68);
+    addLine("lblcopy", VersionRecord::legalNotice(), 142, 34);
 
     auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
-    doing->setGeometry(20, 164, WindowSize.width() - 40, 18);
+    doing->setGeometry(20, 178, WindowSize.width() - 40, 18);
     m_progressBar = Controls::named(new QProgressBar(this), QStringLiteral("ProgressBar1"));
     m_progressBar->setTextVisible(false);
-    m_progressBar->setGeometry(20, 186, WindowSize.width() - 40, 14);
+    m_progressBar->setGeometry(20, 200, WindowSize.width() - 40, 14);
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(0);
 }

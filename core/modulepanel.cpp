@@ -1,10 +1,27 @@
 #include "core/modulepanel.h"
 
+#include <QFontMetricsF>
+
 ModulePanel::ModulePanel(const char *name, QWidget *parent) : QWidget(parent)
 {
     setObjectName(QLatin1StringView(name));
     setFixedSize(Size);
     hide();
+}
+
+QFont ModulePanel::fittingFont(QFont desktop)
+{
+    // Wide and high enough for DejaVu Sans and Noto Sans of 10 points.
+    constexpr double Widest = 151;
+    constexpr double Highest = 18;
+    const auto fits = [](const QFont &font) {
+        const QFontMetricsF metrics(font);
+        return metrics.height() <= Highest &&
+               metrics.horizontalAdvance(QStringLiteral("Temperature / Pressure")) <= Widest;
+    };
+    while (desktop.pointSizeF() > 1 && !fits(desktop))
+        desktop.setPointSizeF(desktop.pointSizeF() - 0.5);
+    return desktop;
 }
 
 void ModulePanel::setVisible(bool visible)

@@ -14,6 +14,10 @@ public:
     /// The pane area, the same for all panes: 14400 x 8100 twips.
     static constexpr QSize Size{960, 540};
 
+    /// The largest font, up to @p desktop's, that the places on the panes have room for: they are as fixed as
+    /// the size.
+    static QFont fittingFont(QFont desktop);
+
     /// @p name is the frame's name in the system, "frmsolv". The pane starts hidden.
     ModulePanel(const char *name, QWidget *parent);
 

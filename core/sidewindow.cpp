@@ -6,6 +6,7 @@ SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_ow
 {
     setObjectName(QLatin1StringView(name));
     setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_WindowPropagation); // palette and font of the main window
 }
 
 void SideWindow::showAboveOwner()

@@ -1,6 +1,7 @@
 #include "sidewindows/formhelp2.h"
 
 #include "core/controls.h"
+#include "core/modulepanel.h"
 #include "store/rowlistview.h"
 #include "store/titleframe.h"
 
@@ -42,16 +43,18 @@ QLayout *Formhelp2::buildCode()
     auto *row = new QHBoxLayout;
     row->setSpacing(4);
     row->addWidget(Controls::heading(QStringLiteral("Label3(0)"), QStringLiteral("Code : "), this));
-    row->addWidget(
+    QLabel *example =
         Controls::label(QStringLiteral("Label2"),
-                        QStringLiteral("J. Org. Chem 1989, 54, 4436 = JOC-89-4436 or JOC-(54)-4436"), this),
-        1);
+                        QStringLiteral("J. Org. Chem 1989, 54, 4436 = JOC-89-4436 or JOC-(54)-4436"), this);
+    example->setMargin(1); // the J of some fonts begins left of its place
+    row->addWidget(example, 1);
     return row;
 }
 
 QWidget *Formhelp2::buildList()
 {
     auto *area = new QWidget(this);
+    area->setFont(ModulePanel::fittingFont(font())); // fixed in size like the panes
     auto *ListView100 = new RowListView(
         QStringLiteral("ListView100"), m_journals,
         {{QStringLiteral("Abbrev."), AbbreviationWidth}, {QStringLiteral("Journal"), JournalWidth}}, area);
