@@ -8,11 +8,14 @@
 
 namespace {
 
-constexpr int Width = 328;
+constexpr int Width = 334;
 constexpr int HeadingHeight = 60;
 constexpr int LineHeight = 22;
+constexpr int Edge = 2; ///< free of the rows, for the frame
 constexpr int Padding = 10;
-constexpr int ValueLeft = 152;
+constexpr int ValueLeft = 158;
+
+constexpr std::array HeadingSizes{2.6, 1.6}; ///< of symbol and name, in sizes of the desktop's font
 
 constexpr int IsotopeTop = 36;
 constexpr int IsotopeHeight = 24; ///< 360 twips, by which the panel grows
@@ -96,11 +99,9 @@ DataPanel::DataPanel(QWidget *parent) : QFrame(parent)
 void DataPanel::buildHeading()
 {
     auto *symbol = new QLabel(this);
-    symbol->setFont(sized(font(), 2.6, true));
     symbol->setGeometry(Padding, 4, ValueLeft - Padding, HeadingHeight - 8);
     addValue(0, symbol);
     auto *name = new QLabel(this);
-    name->setFont(sized(font(), 1.6, true));
     name->setGeometry(ValueLeft, 4, Width - ValueLeft - 4, HeadingHeight - 8);
     addValue(1, name);
 }
@@ -112,24 +113,23 @@ void DataPanel::buildRows()
     for (const ValueRow &row : ValueRows) {
         auto *line = new QWidget(this);
         const int height = row.note ? LineHeight + 14 : LineHeight;
-        line->setGeometry(1, top, Width - 2, height);
+        line->setGeometry(Edge, top, Width - 2 * Edge, height);
         line->setAutoFillBackground(true);
         line->setBackgroundRole(striped ? QPalette::AlternateBase : QPalette::Base);
         QLabel *caption = text(QString::fromUtf8(row.caption), font(), line);
-        caption->setGeometry(Padding, 0, ValueLeft - Padding, LineHeight);
+        caption->setGeometry(Padding - Edge, 0, ValueLeft - Padding, LineHeight);
         auto *value = new QLabel(line);
-        value->setFont(sized(font(), 1, true));
-        value->setGeometry(ValueLeft, 0, Width - ValueLeft - 4, LineHeight);
+        value->setGeometry(ValueLeft - Edge, 0, Width - ValueLeft - 4, LineHeight);
         value->setAccessibleDescription(QString::fromUtf8(row.caption));
         addValue(row.index, value);
         if (row.note) {
             QLabel *note = text(QLatin1StringView(row.note), sized(font(), 0.8), line);
-            note->setGeometry(ValueLeft, LineHeight - 4, Width - ValueLeft - 4, 16);
+            note->setGeometry(ValueLeft - Edge, LineHeight - 4, Width - ValueLeft - 4, 16);
         }
         top += height;
         striped = !striped;
     }
-    resize(Width, top + 1);
+    resize(Width, top + Edge);
 }
 
 void DataPanel::addValue(int index, QLabel *value)
@@ -142,8 +142,19 @@ void DataPanel::addValue(int index, QLabel *value)
 
 void DataPanel::showValues(const ElementPanel &panel)
 {
-    for (const auto &[index, label] : lblatome)
+    for (const auto &[index, label] : lblatome) {
         label->setText(panel.lblatome[size_t(index)]);
+        fit(*label, index < int(HeadingSizes.size()) ? HeadingSizes[size_t(index)] : 1);
+    }
+}
+
+// A text that is longer than its place, like the oxidation numbers of nitrogen, is set smaller.
+void DataPanel::fit(QLabel &label, double size) const
+{
+    QFont fitting = sized(font(), size, true);
+    while (fitting.pointSizeF() > 1 && QFontMetrics(fitting).horizontalAdvance(label.text()) > label.width())
+        fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
+    label.setFont(fitting);
 }
 
 IsotopePanel::IsotopePanel(QWidget *parent) : QFrame(parent)

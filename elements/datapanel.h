@@ -23,6 +23,7 @@ private:
     void buildHeading();
     void buildRows();
     void addValue(int index, QLabel *value);
+    void fit(QLabel &label, double size) const;
 };
 
 /// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number.

@@ -43,6 +43,11 @@ void ElementButton::paintEvent(QPaintEvent *)
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
+    if (text().size() > 2) {
+        QFont narrower = font();
+        narrower.setPixelSize(narrower.pixelSize() * 4 / 5);
+        painter.setFont(narrower);
+    }
     painter.drawText(rect(), Qt::AlignCenter, text());
 }
 

@@ -25,7 +25,7 @@ constexpr QPoint ArrowCentre{354, 97};
 constexpr int ArrowSide = 30;
 constexpr QRect ButtonArea{290, 150, 128, 28};
 constexpr int ButtonPitch = 34;
-constexpr QPoint DataCorner{626, 8};
+constexpr QPoint DataCorner{622, 8};
 constexpr int IsotopeTop = 376; // ends with the pane at five isotopes
 
 struct Arrow

@@ -104,10 +104,11 @@ void PeriodicTable::buildButtons()
 {
     auto *buttons = new QWidget(this);
     buttons->resize(size());
-    // Set once around them all. Its size is fixed like the cells': three letters have to fit.
+    // Set once around them all. Its size is fixed like the cells', as large as two letters go: the table is
+    // read from the other end of the bench.
     QFont tahoma(QStringLiteral("Tahoma"));
     tahoma.setBold(true);
-    tahoma.setPixelSize(12);
+    tahoma.setPixelSize(15);
     buttons->setFont(tahoma);
     for (const Run &run : Runs) {
         for (int index = run.first; index <= run.last; ++index) {
@@ -135,6 +136,7 @@ void PeriodicTable::buildPeriodNumbers()
         QLabel *number =
             Controls::label(QLatin1StringView(period.name), QLatin1StringView(period.text), this);
         number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        number->setMargin(1); // a V is wider than its place
         number->setGeometry(WindowUnits::rect(period.left - 540, period.top, 450, Side));
     }
 }
