@@ -12,7 +12,7 @@
 /// Where a section of the pane stands: heading, tabs, titles and lists one below the other.
 struct BiochemistryPane::Section
 {
-    static constexpr int HeadingHeight = 22;
+    static constexpr int HeadingHeight = 24;
     static constexpr int TabsHeight = 28;
 
     QRect place;
@@ -64,7 +64,7 @@ void BiochemistryPane::buildBiomolecules()
     makeTabs(
         QStringLiteral("TabStrip9"), {"Amino acids", "Nitrogen bases", "Carbohydrates", "Fatty acids"},
         section.tabs(), [this](int number) { apply(PaneEffects::TabStrip9(), number); }, this);
-    const QPoint first = section.options().topLeft() + QPoint(6, 2);
+    const QPoint first = section.options().topLeft() + QPoint(6, 0);
     placeOptions({&Option5.add(0, new QRadioButton(QStringLiteral("Natural"), this)),
                   &Option5.add(1, new QRadioButton(QStringLiteral("Synthetic"), this))},
                  first);
@@ -73,10 +73,10 @@ void BiochemistryPane::buildBiomolecules()
     grdFrame15->setGeometry(section.options());
     placeOptions({&Option5.add(2, new QRadioButton(QStringLiteral("Pyrimidines"), grdFrame15)),
                   &Option5.add(3, new QRadioButton(QStringLiteral("Purines"), grdFrame15))},
-                 {6, 2});
+                 {6, 0});
 
-    const ListColumn mass{"Molar mass (g/mol)", 96, Kind::Number};
-    const ListColumn melting{"Melting point (°C)", 96, Kind::Number};
+    const ListColumn mass{"Molar mass (g/mol)", 98, Kind::Number};
+    const ListColumn melting{"Melting point (°C)", 106, Kind::Number};
     const ListColumn isoelectric{"Isoelectric point", 86, Kind::Number};
     addList(section, 9,
             {{"Name", 134},
@@ -88,19 +88,19 @@ void BiochemistryPane::buildBiomolecules()
              {"pKb", 66, Kind::Number},
              {"pKc", 66, Kind::Number},
              isoelectric,
-             {"Solubility (g/kg)", 130, Kind::Number}});
+             {"Solubility (g/kg)", 118, Kind::Number}});
     addTitles(section, "grdFrame10", 9, 66);
     addList(section, 10,
             {{"Name", 214, Kind::Wrapped},
              {"Formula", 104},
              {"Molar mass (g/mol)", 86, Kind::Number},
-             {"Melting point (°C)", 86, Kind::Number},
+             {"Melting point (°C)", 106, Kind::Number},
              {"pKa", 56, Kind::Number},
              {"pKb", 56, Kind::Number},
              {"pKc", 56, Kind::Number},
              {"pKd", 56, Kind::Number},
              isoelectric,
-             {"Solubility (g/kg)", 128, Kind::Number}});
+             {"Solubility (g/kg)", 108, Kind::Number}});
     addTitles(section, "grdFrame11", 10, 76);
 
     const QList<ListColumn> bases{{"Name", 220},
@@ -117,7 +117,7 @@ void BiochemistryPane::buildBiomolecules()
     addTitles(section, "grdFrame13", 14, 93);
     addList(section, 12,
             {{"Name", 160},
-             {"Systematic name", 330},
+             {"Systematic name", 318},
              {"Formula", 110},
              mass,
              melting,
@@ -136,25 +136,30 @@ void BiochemistryPane::buildSdsPage()
         [this](int number) { apply(PaneEffects::TabStrip8(), number); }, this);
     placeOptions({&Option4.add(7, new QRadioButton(QStringLiteral("Coomassie blue"), this)),
                   &Option4.add(6, new QRadioButton(QStringLiteral("Silver"), this))},
-                 section.options().topLeft() + QPoint(6, 2));
+                 section.options().topLeft() + QPoint(6, 0));
     auto *grdFrame26 = Controls::named(new QFrame(this), QStringLiteral("grdFrame26"));
     grdFrame26->setAutoFillBackground(true);
     grdFrame26->setGeometry(section.options());
     placeOptions({&Option4.add(8, new QRadioButton(QStringLiteral("Resolving gel"), grdFrame26)),
                   &Option4.add(9, new QRadioButton(QStringLiteral("Stacking gel"), grdFrame26))},
-                 {6, 2});
+                 {6, 0});
 
     addList(section, 17, {{"Separation domain (Da)", 240}, {"% Acrylamide (resolving gel)", 270}});
     addTitles(section, "grdFrame21", 17, 102);
     addList(section, 18, {{"Kit", 238}, {"Proteins", 192, Kind::Wrapped}, {"MW (Da)", 86}});
     addTitles(section, "grdFrame22", 18, 104);
     addList(section, 21,
-            {{"Name", 280, Kind::Wrapped}, {"Final concentration", 154, Kind::Wrapped}, {"Quantity", 82}})
+            {{"Name", 262, Kind::Wrapped}, {"Final concentration", 172, Kind::Wrapped}, {"Quantity", 82}})
         .showAsRecipes();
     addTitles(section, "grdFrame24", 21, 107);
     const auto gel = [](const QString &title) { return ListColumn{title, 64, Kind::Number}; };
     addList(section, 22,
-            {{"Composition", 196}, gel("5 %"), gel("7.5 %"), gel("10 %"), gel("12.5 %"), gel("15 %")})
+            {{"Composition", 196, Kind::Wrapped},
+             gel("5 %"),
+             gel("7.5 %"),
+             gel("10 %"),
+             gel("12.5 %"),
+             gel("15 %")})
         .showAsRecipes();
     addTitles(section, "grdFrame25", 22, 110);
     addList(section, 23, {{"Composition", 260}, {"4 %", 120, Kind::Number}}).showAsRecipes();

@@ -17,7 +17,7 @@ constexpr QPoint BottomRight{484, 274};
 
 // Inside a block, logical pixels.
 constexpr int TabsHeight = 28;
-constexpr int HeadingWidth = 130;
+constexpr int HeadingWidth = 142;
 constexpr int OptionsTop = 33;
 constexpr int TitlesBelowOptions = 56;
 constexpr int TitlesInPlaceOfOptions = 42;
@@ -76,7 +76,7 @@ void SolutionsPane::buildCouples()
         [this](int number) { apply(PaneEffects::TabStrip2(), number); }, block);
     addOptions({{0, "Inorganic"}, {1, "Organic"}}, block);
 
-    const QList<ListColumn> acids{{"Acid/Base", 134, Kind::Wrapped}, {"Formula", 116, Kind::Wrapped},
+    const QList<ListColumn> acids{{"Acid/Base", 136, Kind::Wrapped}, {"Formula", 118, Kind::Wrapped},
                                   {"pKa1", 50, Kind::Number},        {"pKa2", 50, Kind::Number},
                                   {"pKa3", 50, Kind::Number},        {"pKa4", 50, Kind::Number}};
     auto *grdFrame8 = new TitleFrame(QStringLiteral("grdFrame8"), block, TitleFrame::OneLine);
@@ -129,7 +129,7 @@ void SolutionsPane::buildFluorochromes()
     addOptions({{4, "Carl-Zeiss"}, {5, "Olympus"}}, block);
 
     const QList<ListColumn> columns{
-        {"Name", 278}, {"ex (nm)", 85, Kind::Number}, {"em (nm)", 85, Kind::Number}};
+        {"Name", 258}, {"ex (nm)", 95, Kind::Number}, {"em (nm)", 95, Kind::Number}};
     auto &first = addList(7, columns, TitlesBelowOptions, block);
     addList(8, columns, TitlesBelowOptions, block);
     auto *grdFrame9 = new TitleFrame(QStringLiteral("grdFrame9"), block, TitleFrame::OneLine);

@@ -91,9 +91,9 @@ void SolventsPane::buildMiscibility()
     constexpr int Gap = 8;
     auto *list = makeList(QStringLiteral("ListView6"), m_store.lists.ListView6,
                           {{"Name", 174},
-                           {"Polarity index", 66, Kind::Number},
-                           {"Solub. in water (wt%/%)", 114, Kind::Number},
-                           {"Non-miscible", 222, Kind::Wrapped}},
+                           {"Polarity index", 68, Kind::Number},
+                           {"Solub. in water (wt%/%)", 126, Kind::Number},
+                           {"Non-miscible", 208, Kind::Wrapped}},
                           room(ListTop, room().width() - LadderWidth - Gap), this);
     (new TitleFrame(QStringLiteral("frmm"), this))->addTitles(*list, Label2, {14, 15, 16, 13});
     auto *ladder = new PolarityLadder(this);
@@ -104,12 +104,12 @@ void SolventsPane::buildMiscibility()
 void SolventsPane::buildNmr()
 {
     const QList<ListColumn> shifts{
-        {"Chloroform", 90, Kind::Number}, {"Acetone", 68, Kind::Number},      {"DMSO", 66, Kind::Number},
+        {"Chloroform", 90, Kind::Number}, {"Acetone", 68, Kind::Number},      {"DMSO", 60, Kind::Number},
         {"Benzene", 74, Kind::Number},    {"Acetonitrile", 94, Kind::Number}, {"Methanol", 79, Kind::Number},
-        {"Water", 64, Kind::Number},
+        {"Water", 58, Kind::Number},
     };
-    const QList<ListColumn> proton{{"Name", 245}, {"Proton", 98}, {"Peak", 50}};
-    const QList<ListColumn> carbon{{"Name", 245}, {"Carbon", 148}};
+    const QList<ListColumn> proton{{"Name", 264}, {"Proton", 98}, {"Peak", 50}};
+    const QList<ListColumn> carbon{{"Name", 264}, {"Carbon", 148}};
     // A line lower than on the other tabs: the buttons for the nucleus stand above.
     const QRect place = room(ListTop + 22);
     auto *protons =

@@ -77,7 +77,7 @@ void ConstantsBox::buildUnits(RowLists &lists, const QRect &place)
                                  "Electromagnetism", "Molecular physics", "Radiations"},
                                 room, this);
     makeStack(ListView7, lists.ListView7, 7,
-              {{"Name", 190}, {"Unit", 195}, {"Symb.", 82}, {"Dimension", 118}, {"Dimension SI units", 130}},
+              {{"Name", 213}, {"Unit", 175}, {"Symb.", 80}, {"Dimension", 118}, {"Dimension SI units", 130}},
               room, *strip);
     auto *frmunit2 = new TitleFrame(QStringLiteral("frmunit2"), this, TitleFrame::OneLine);
     frmunit2->addTitles(ListView7[0], Label2, {37, 36, 35, Dimension, DimensionInUnits});

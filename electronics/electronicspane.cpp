@@ -265,15 +265,15 @@ void ElectronicsPane::changeRingCount()
         tbm[result].clear();
 }
 
-// The labels of the rings that apply stand in the colour of a selection, which is the nearest that a palette
-// has to that of an active title bar.
+// The labels of the rings that apply stand in the accent of the desktop, the nearest that a palette has to
+// the colour of an active title bar, in its shade for texts.
 void ElectronicsPane::markRings()
 {
     const QString count = Combo3->currentText();
     for (const Column &column : Columns)
-        mark(Label18[column.label], ResistorCode::hasRing(count, column.list), QPalette::Highlight);
+        mark(Label18[column.label], ResistorCode::hasRing(count, column.list), QPalette::Link);
     for (const int label : {3, 6})
-        mark(Label18[label], true, QPalette::Highlight);
+        mark(Label18[label], true, QPalette::Link);
     mark(lbl2[20], ResistorCode::hasRing(count, 9), QPalette::ButtonText);
 }
 

@@ -71,7 +71,10 @@ void ColourMnemonic::paintLine(QPainter &painter, int digit) const
     write(DigitLeft, QString(QChar(u'0' + digit)), true);
     write(WordLeft, QLatin1StringView(line.word), true);
     write(ColourNameLeft, QLatin1StringView(line.colourName), false);
-    painter.setPen(palette().color(QPalette::Mid));
+    // Black is told from a dark desktop, and white from a light one, by the outline alone.
+    QColor outline = palette().color(QPalette::Text);
+    outline.setAlphaF(0.5F);
+    painter.setPen(outline);
     painter.setBrush(QColor(line.colour));
     painter.drawRect(QRect(BandLeft, top + 5, BandWidth, LineHeight - 10));
 }

@@ -48,7 +48,7 @@ QLayout *frmAbout::buildTexts()
     const auto addText = [&](const char *name, const QString &text) {
         QLabel *label = Controls::label(QLatin1StringView(name), text, this);
         label->setWordWrap(true);
-        label->setFixedWidth(TextWidth);
+        label->setFixedSize(TextWidth, label->heightForWidth(TextWidth));
         column->addWidget(label);
     };
     column->addWidget(lblTitle);
