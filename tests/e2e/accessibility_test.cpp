@@ -1,13 +1,10 @@
-#include "app/commands.h"
-#include "app/form1.h"
 #include "core/modulepanel.h"
-#include "core/sidewindow.h"
+#include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QTabBar>
 #include <QTest>
 
 /// What a screen reader and the keyboard find: every pane and window, walked as they stand in the running
@@ -43,24 +40,6 @@ private:
         }
         return found;
     }
-
-    static bool showsPane(CommandKind kind)
-    {
-        return kind == CommandKind::ShowPanel || kind == CommandKind::ShowPanelOnce ||
-               kind == CommandKind::SolventTab || kind == CommandKind::SpectroscopyMode ||
-               kind == CommandKind::Find;
-    }
-
-    static void selectEveryTab(Form1 &form, const std::function<void()> &visit)
-    {
-        visit();
-        for (QTabBar *tabs : form.findChildren<QTabBar *>()) {
-            for (int tab = 0; tabs->isVisible() && tab < tabs->count(); ++tab) {
-                tabs->setCurrentIndex(tab);
-                visit();
-            }
-        }
-    }
 };
 
 void AccessibilityTest::everyControlOfEveryPaneHasAName()
@@ -69,12 +48,7 @@ void AccessibilityTest::everyControlOfEveryPaneHasAName()
     QStringList found;
     run(folder, [&](Form1 &form) {
         form.findChild<QAbstractButton *>(QStringLiteral("Command7(25)"))->click(); // values to read
-        for (const Command &command : Commands) {
-            if (!showsPane(command.kind))
-                continue;
-            form.executeCommand(command.id);
-            selectEveryTab(form, [&] { found << unnamed(form); });
-        }
+        Walk::throughPanes(form, [&] { found << unnamed(form); });
     });
     found.removeDuplicates();
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char(' '))));
@@ -87,17 +61,9 @@ void AccessibilityTest::everyControlOfEverySideWindowHasAName()
     run(folder, [&](Form1 &form) {
         for (const int id : {1058, 1122}) {
             form.executeCommand(id);
-            SideWindow *window = nullptr;
-            for (SideWindow *each : form.findChildren<SideWindow *>())
-                window = each->isVisible() ? each : window;
+            SideWindow *window = Walk::sideWindow(form);
             QVERIFY(window);
-            for (QTabBar *tabs : window->findChildren<QTabBar *>()) {
-                for (int tab = 0; tab < tabs->count(); ++tab) {
-                    tabs->setCurrentIndex(tab);
-                    found << unnamed(*window);
-                }
-            }
-            found << unnamed(*window);
+            Walk::throughTabs(*window, [&] { found << unnamed(*window); });
             QTest::keyClick(window, Qt::Key_Escape);
             QVERIFY(form.isEnabled());
         }

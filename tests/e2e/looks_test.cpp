@@ -1,0 +1,257 @@
+#include "app/frmload.h"
+#include "sidewindows/tips.h"
+#include "store/rowlistview.h"
+#include "tests/e2e/judge.h"
+#include "tests/e2e/walk.h"
+#include "tests/support/wholerun.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QTest>
+
+/// Nothing is clipped, covered or hard to read, in every pane and window as it stands in the running program.
+///
+/// Fonts and palettes are rows here; the factor of the display comes with QT_SCALE_FACTOR.
+class LooksTest final : public WholeRun
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyPane_data() { addLooks(); }
+    void everyPane();
+    void everyElement_data() { addLooks(); }
+    void everyElement();
+    void everySideWindow_data() { addLooks(); }
+    void everySideWindow();
+    void tipAndSplash_data() { addLooks(); }
+    void tipAndSplash();
+    void everyStyleOfTheToolBar_data() { addLooks(); }
+    void everyStyleOfTheToolBar();
+    void focusIsSeen_data() { addLooks(); }
+    void focusIsSeen();
+    void cleanup();
+
+private:
+    static void addLooks();
+    void setLooks();
+    void verifyNothingFound();
+
+    void openAndLook(Form1 &form, const std::function<void()> &open);
+
+    const QFont m_ownFont = QApplication::font();
+    const QPalette m_ownPalette = QApplication::palette();
+    Judge m_judge;
+};
+
+namespace {
+
+const QStringList NamedFonts{QStringLiteral("Tahoma"), QStringLiteral("Arial")};
+
+template<class W = QAbstractButton>
+W &control(Form1 &form, const char *name)
+{
+    auto *found = form.findChild<W *>(QLatin1StringView(name));
+    if (!found)
+        qFatal("no control %s", name);
+    return *found;
+}
+
+} // namespace
+
+void LooksTest::addLooks()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("DejaVu 10") << QStringLiteral("DejaVu Sans") << 10 << false;
+    QTest::newRow("Noto 10, dark") << QStringLiteral("Noto Sans") << 10 << true;
+    QTest::newRow("Liberation 9") << QStringLiteral("Liberation Sans") << 9 << false;
+    QTest::newRow("DejaVu 14") << QStringLiteral("DejaVu Sans") << 14 << false;
+}
+
+void LooksTest::setLooks()
+{
+    QFETCH(QString, family);
+    QFETCH(int, points);
+    QFETCH(bool, dark);
+    QVERIFY2(QFontDatabase::hasFamily(family), "see tools/packages");
+    for (const QString &named : NamedFonts)
+        QFont::insertSubstitution(named, family); // a desktop that has none of them
+    QApplication::setFont(QFont(family, points));
+    if (dark)
+        QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a)));
+}
+
+void LooksTest::cleanup()
+{
+    for (const QString &named : NamedFonts)
+        QFont::removeSubstitutions(named);
+    QApplication::setFont(m_ownFont);
+    QApplication::setPalette(m_ownPalette);
+    m_judge.takeFindings();
+}
+
+void LooksTest::verifyNothingFound()
+{
+    const QStringList found = m_judge.takeFindings();
+    for (const QString &each : found)
+        qWarning("%s", qPrintable(each)); // as many as there are: a message of QVERIFY2 is cut
+    QCOMPARE(found.size(), 0);
+    QVERIFY(m_desktop.boxes.isEmpty()); // a run-time error, which would have ended the walk
+}
+
+void LooksTest::everyPane()
+{
+    setLooks();
+    const ProgramFolder folder;
+    run(folder, [this](Form1 &form) {
+        control(form, "Command7(25)").click(); // values to read
+        Walk::throughPanes(
+            form, [&] { m_judge.look(form); }, true);
+        for (const auto &[command, list] :
+             {std::pair(1142, "ListView3(15)"), {1143, "ListView3(16)"}, {1144, "ListView3(5)"}}) {
+            form.executeCommand(command);
+            auto &charts = control<RowListView>(form, list);
+            for (int row = 0; row < charts.model()->rowCount(); row += 5)
+                Q_EMIT charts.rowClicked(row);
+            m_judge.look(form);
+        }
+        form.executeCommand(1141);
+        for (int ring = 4; ring <= 9; ++ring)
+            control<QComboBox>(form, qPrintable(QStringLiteral("Combo2(%1)").arg(ring))).setCurrentIndex(1);
+        m_judge.look(form);
+        for (const int pane : {1108, 1119}) {
+            form.executeCommand(pane);
+            form.executeCommand(1121); // with the Find bar
+            m_judge.look(form);
+        }
+    });
+    verifyNothingFound();
+}
+
+void LooksTest::everyElement()
+{
+    setLooks();
+    const ProgramFolder folder;
+    run(folder, [this](Form1 &form) {
+        for (int element = 0; element < 118; ++element) {
+            control(form, qPrintable(QStringLiteral("Command7(%1)").arg(element))).click();
+            m_judge.look(control<QWidget>(form, "ReyFrame1"));
+            m_judge.look(control<QWidget>(form, "ReyFrame2"));
+        }
+    });
+    verifyNothingFound();
+}
+
+void LooksTest::openAndLook(Form1 &form, const std::function<void()> &open)
+{
+    open();
+    SideWindow *window = Walk::sideWindow(form);
+    QVERIFY(window);
+    Walk::throughTabs(*window, [&] { m_judge.look(*window); });
+    window->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void LooksTest::everySideWindow()
+{
+    setLooks();
+    const ProgramFolder folder;
+    run(folder, [this, &folder](Form1 &form) {
+        openAndLook(form, [&] { form.executeCommand(1122); });
+        openAndLook(form, [&] { form.executeCommand(1058); });
+        openAndLook(form, [&] {
+            form.executeCommand(1058);
+            SideWindow &options = *Walk::sideWindow(form);
+            options.findChild<QTabBar *>()->setCurrentIndex(3);
+            auto *pages = options.findChild<QComboBox *>(QStringLiteral("Combo1"));
+            for (int page = 0; page < pages->count(); ++page) {
+                pages->setCurrentIndex(page);
+                m_judge.look(options);
+            }
+        });
+        control(form, "Command7(16)").click();
+        for (const char *opener : {"cmdhelp", "Command9"})
+            openAndLook(form, [&] { control(form, opener).click(); });
+        const auto openStructure = [&](int command, const char *list, int row) {
+            form.executeCommand(command);
+            openAndLook(form, [&] { Q_EMIT control<RowListView>(form, list).rowDoubleClicked(row); });
+        };
+        openStructure(1119, "ListView1", 0);
+        for (const auto &[command, opener] :
+             {std::pair(1142, "Command1"), {1144, "Command1"}, {1141, "Command2"}}) {
+            form.executeCommand(command);
+            openAndLook(form, [&] { control(form, opener).click(); });
+        }
+    });
+    verifyNothingFound();
+}
+
+void LooksTest::tipAndSplash()
+{
+    setLooks();
+    const ProgramFolder folder;
+    folder.setOption(56, "1");
+    run(folder, [&](Form1 &form) {
+        SideWindow *tip = Walk::sideWindow(form);
+        QVERIFY(tip);
+        const auto tips = Tips::read(folder.path(QStringLiteral("TIPOFDAY_UK.TXT")));
+        for (const QString &text : tips.value_or(QStringList())) {
+            tip->findChild<QLabel *>(QStringLiteral("lblTipText"))->setText(text);
+            m_judge.look(*tip);
+        }
+        frmload splash;
+        splash.show();
+        m_judge.look(splash);
+        tip->close();
+    });
+    verifyNothingFound();
+}
+
+void LooksTest::everyStyleOfTheToolBar()
+{
+    setLooks();
+    const ProgramFolder folder;
+    run(folder, [this](Form1 &form) {
+        for (int style = 0; style < 6; ++style) {
+            form.executeCommand(1058);
+            SideWindow &options = *Walk::sideWindow(form);
+            options.findChild<QComboBox *>(QStringLiteral("Combo2"))->setCurrentIndex(style);
+            options.findChild<QAbstractButton *>(QStringLiteral("XPButton1"))->click();
+            m_judge.look(form);
+        }
+    });
+    verifyNothingFound();
+}
+
+void LooksTest::focusIsSeen()
+{
+    setLooks();
+    const ProgramFolder folder;
+    run(folder, [this](Form1 &form) {
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        const auto throughChain = [this](QWidget &window) {
+            for (QWidget *each : window.findChildren<QWidget *>()) {
+                if (each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) &&
+                    !each->focusProxy())
+                    m_judge.lookAtFocus(*each);
+            }
+        };
+        control(form, "Command7(25)").click();
+        form.setAttribute(Qt::WA_KeyboardFocusChange); // as after Tab: styles mark the focus from then on
+        Walk::throughPanes(form, [&] { throughChain(form); });
+        form.executeCommand(1058);
+        SideWindow &options = *Walk::sideWindow(form);
+        options.setAttribute(Qt::WA_KeyboardFocusChange);
+        QVERIFY(QTest::qWaitForWindowActive(&options));
+        Walk::throughTabs(options, [&] { throughChain(options); });
+        options.close();
+    });
+    verifyNothingFound();
+}
+
+QTEST_MAIN(LooksTest)
+#include "looks_test.moc"
