@@ -1,5 +1,6 @@
 #include "app/form1.h"
 #include "app/program.h"
+#include "core/picturebox.h"
 #include "core/qtdesktop.h"
 #include "core/sidewindow.h"
 #include "store/rowlistview.h"
@@ -10,13 +11,13 @@
 #include <QTabBar>
 #include <QTimer>
 
-// Runs the program, walks through its panes and saves a picture of the main window at each:
-// screenshots <program folder> <folder for the pictures> [dark]
+// Runs the program, walks through its panes and windows and saves a picture of each:
+// screenshots <program folder> <folder for the pictures> [light|dark [<font family> [<points>]]]
 
 namespace {
 
-/// A picture: the command that shows the pane, and the control that is clicked or, with a tab, selected
-/// there.
+/// A picture: the command that shows the pane or window, and the control that is clicked or, with a tab,
+/// selected there. Where a side window stands open then, the picture is of that.
 struct Shot
 {
     const char *file;
@@ -27,7 +28,13 @@ struct Shot
 
 constexpr Shot Shots[] = {
     {"elements", 1108, "Command7(25)"},
+    {"elements-find", 1121},
+    {"captions", 1108, "cmdhelp"},
+    {"crystal", 1108, "Command9"},
+    {"zoom", 1108, "imgato"},
     {"solvents", 1119},
+    {"solvents-find", 1121},
+    {"structure", 1119, "ListView1", 4},
     {"solvents-miscibility", 1116},
     {"solvents-nmr", 1115},
     {"solvents-mass", 1133},
@@ -37,43 +44,78 @@ constexpr Shot Shots[] = {
     {"solutions-redox", 1113, "TabStrip2", 2},
     {"biochemistry", 1109},
     {"biochemistry-gels", 1109, "TabStrip8", 4},
+    {"biochemistry-staining", 1109, "TabStrip8", 5},
     {"spectroscopy-proton", 1142, "ListView3(15)", 61},
+    {"journals", 1142, "Command1"},
     {"spectroscopy-carbon", 1143, "ListView3(16)", 150},
     {"spectroscopy-ir", 1144, "ListView3(5)", 9},
+    {"colour-code", 1144, "Command1"},
     {"spectroscopy-ir-table", 1145},
     {"calculations", 1120},
     {"calculations-dilution", 1120, "TabStrip4", 4},
+    {"calculations-vapour", 1120, "TabStrip4", 6},
     {"reactions", 1139},
     {"electronics", 1141},
+    {"mnemonic", 1141, "Command2"},
+    {"electronics-series", 1141, "TabStrip11", 2},
+    {"electronics-eia96", 1141, "TabStrip11", 3},
     {"references", 1132},
     {"polymers", 1138},
     {"donate", 1131},
+    {"about", 1122},
+    {"options", 1058},
+    {"options-export", 1058, "TabStrip1", 2},
+    {"options-database", 1058, "TabStrip1", 3},
+    {"options-statistics", 1058, "TabStrip1", 4},
 };
 
-void touch(Form1 &form, const Shot &shot)
+SideWindow *sideWindow(const Form1 &form)
+{
+    for (SideWindow *each : form.findChildren<SideWindow *>()) {
+        if (each->isVisible())
+            return each;
+    }
+    return nullptr;
+}
+
+void touch(const QWidget &window, const Shot &shot)
 {
     const QString name = QLatin1StringView(shot.control);
-    if (auto *tabs = form.findChild<QTabBar *>(name))
+    if (auto *tabs = window.findChild<QTabBar *>(name))
         tabs->setCurrentIndex(shot.item - 1);
-    else if (auto *button = form.findChild<QAbstractButton *>(name))
+    else if (auto *button = window.findChild<QAbstractButton *>(name))
         button->click();
-    else if (auto *list = form.findChild<RowListView *>(name)) {
+    else if (auto *picture = window.findChild<PictureBox *>(name))
+        Q_EMIT picture->clicked();
+    else if (auto *list = window.findChild<RowListView *>(name)) {
         list->selectRow(shot.item - 1);
         Q_EMIT list->rowClicked(shot.item - 1);
+        Q_EMIT list->rowDoubleClicked(shot.item - 1);
     } else
         qFatal("no control %s", shot.control);
+}
+
+void take(QWidget &window, const QString &path)
+{
+    QApplication::processEvents(); // the layout follows the texts
+    if (!window.grab().save(path))
+        qFatal("cannot write %s", qUtf8Printable(path));
 }
 
 void walk(Form1 &form, const QDir &pictures)
 {
     for (const Shot &shot : Shots) {
         form.executeCommand(shot.command);
+        const auto shown = [&form]() -> QWidget & {
+            SideWindow *window = sideWindow(form);
+            return window ? *window : static_cast<QWidget &>(form);
+        };
         if (shot.control)
-            touch(form, shot);
-        QApplication::processEvents(); // the layout follows the texts
-        const QString path = pictures.filePath(QLatin1StringView(shot.file) + QStringLiteral(".png"));
-        if (!form.grab().save(path))
-            qFatal("cannot write %s", qUtf8Printable(path));
+            touch(shown(), shot);
+        take(shown(), pictures.filePath(QLatin1StringView(shot.file) + QStringLiteral(".png")));
+        if (SideWindow *window = sideWindow(form))
+            window->close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     form.executeCommand(1005);
 }
@@ -95,9 +137,13 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3)
-        qFatal("usage: screenshots <program folder> <folder for the pictures> [dark]");
+        qFatal("usage: screenshots <program folder> <folder for the pictures> "
+               "[light|dark [<font family> [<points>]]]");
     if (arguments.value(3) == QStringLiteral("dark"))
         QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a)));
+    if (arguments.size() > 4)
+        QApplication::setFont(QFont(arguments[4], arguments.value(5, QStringLiteral("9")).toInt()));
+    const QDir pictures(arguments[2]);
 
     // The program's own event loop runs once before the load is through: the pause of the splash.
     QTimer started;
@@ -105,12 +151,14 @@ int main(int argc, char *argv[])
         Form1 *form = mainWindow();
         if (!form || !form->isVisible())
             return;
-        if (auto *tip = form->findChild<QWidget *>(QStringLiteral("frmTip")))
+        if (auto *tip = form->findChild<QWidget *>(QStringLiteral("frmTip"))) {
+            take(*tip, pictures.filePath(QStringLiteral("tip.png")));
             tip->close();
+        }
         if (!form->isEnabled())
             return;
         started.stop();
-        walk(*form, QDir(arguments[2]));
+        walk(*form, pictures);
     });
     started.start(100);
     QtDesktop desktop;
