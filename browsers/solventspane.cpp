@@ -97,7 +97,7 @@ void SolventsPane::buildMiscibility()
                           room(ListTop, room().width() - LadderWidth - Gap), this);
     (new TitleFrame(QStringLiteral("frmm"), this))->addTitles(*list, Label2, {14, 15, 16, 13});
     auto *ladder = new PolarityLadder(this);
-    ladder->setGeometry(list->geometry().right() + Gap, TabsHeight + 4, LadderWidth,
+    ladder->setGeometry(list->geometry().right() + 1 + Gap, TabsHeight + 4, LadderWidth,
                         room().bottom() - TabsHeight - 3);
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int Margin = 8;
 constexpr int Gap = 12;
-constexpr int ConversionWidth = 205;
+constexpr int ConversionWidth = 204;
 constexpr int SolverHeight = 158;
 
 } // namespace

@@ -13,7 +13,7 @@ constexpr int HeadingHeight = 60;
 constexpr int LineHeight = 22;
 constexpr int Edge = 2; ///< free of the rows, for the frame
 constexpr int Padding = 10;
-constexpr int ValueLeft = 158;
+constexpr int ValueLeft = 160;
 
 constexpr std::array HeadingSizes{2.6, 1.6}; ///< of symbol and name, in sizes of the desktop's font
 

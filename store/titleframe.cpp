@@ -9,8 +9,9 @@
 
 namespace {
 
-/// A title that does not fit in one line breaks before its unit, "Molar mass" over "(g/mol)", and nowhere
-/// inside it. One that has no room even so is set smaller.
+/// Over numbers a title stands above its unit where there are two lines, "Molar mass" over "(g/mol)". Any
+/// title that does not fit in one line breaks there, and nowhere inside the unit. One that has no room even
+/// so is set smaller.
 class TitleLabel final : public QLabel
 {
 public:
@@ -19,17 +20,29 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
+        constexpr int Apart = 4; // from its neighbours, where there is room for that
+        const bool overNumbers = alignment() & Qt::AlignHCenter;
+        QRect room = overNumbers ? rect().adjusted(Apart, 0, -Apart, 0) : rect();
         QString shown = text();
-        if (fontMetrics().horizontalAdvance(shown) > width())
+        const bool twoLines = overNumbers && height() >= 2 * fontMetrics().height();
+        if (twoLines || fontMetrics().horizontalAdvance(shown) > room.width())
             shown.replace(QLatin1StringView(" ("), QLatin1StringView("\n("));
-        const int flags = int(alignment()) | Qt::TextWordWrap;
         QFont fitting = font();
-        while (fitting.pointSizeF() > 1 &&
-               !rect().contains(QFontMetrics(fitting).boundingRect(rect(), flags, shown)))
+        if (!fits(shown, room, fitting))
+            room = rect();
+        while (fitting.pointSizeF() > 1 && !fits(shown, room, fitting))
             fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
         QPainter painter(this);
         painter.setFont(fitting);
-        style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown, foregroundRole());
+        style()->drawItemText(&painter, room, flags(), palette(), isEnabled(), shown, foregroundRole());
+    }
+
+private:
+    int flags() const { return int(alignment()) | Qt::TextWordWrap; }
+
+    bool fits(const QString &shown, const QRect &room, const QFont &font) const
+    {
+        return room.contains(QFontMetrics(font).boundingRect(room, flags(), shown));
     }
 };
 

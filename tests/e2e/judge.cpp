@@ -139,7 +139,7 @@ void Judge::lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &win
             const PaintedText &b = texts[other];
             if (a.by->isAncestorOf(b.by))
                 continue; // a sign in the gap of a formula
-            const int gap = a.by == b.by ? 0 : 3;
+            const int gap = a.by == b.by ? 0 : 5;
             if (b.seen.intersects(a.seen.boundingRect().adjusted(-gap, 0, gap, 0)))
                 report(QStringLiteral("over \"%1\"").arg(a.text), b.text, window);
         }
