@@ -5,6 +5,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 // Resources of a static library are registered by hand, outside any namespace.
@@ -21,13 +22,13 @@ QString pathOf(const QString &name)
     return QStringLiteral(":/icons/%1.svg").arg(name);
 }
 
-/// Draws an icon's lines in the palette's colour of the moment.
-class TintedIconEngine final : public QIconEngine
+/// Draws a drawing at the size that is asked for, once.
+class DrawnIconEngine : public QIconEngine
 {
 public:
-    explicit TintedIconEngine(QString path) : m_path(std::move(path)) {}
+    explicit DrawnIconEngine(QString path) : m_path(std::move(path)) {}
 
-    QIconEngine *clone() const override { return new TintedIconEngine(m_path); }
+    QIconEngine *clone() const override { return new DrawnIconEngine(*this); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -36,18 +37,74 @@ public:
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
+        const QString key = QStringLiteral("%1 %2x%3 %4")
+                                .arg(m_path)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(tint(mode), 0, 16);
+        QPixmap picture;
+        if (!QPixmapCache::find(key, &picture)) {
+            picture = draw(size, mode);
+            QPixmapCache::insert(key, picture);
+        }
+        return picture;
+    }
+
+protected:
+    /// What the picture depends on besides its drawing and its size.
+    virtual QRgb tint(QIcon::Mode) const { return 0; }
+
+    virtual QPixmap draw(const QSize &size, QIcon::Mode) const
+    {
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         QSvgRenderer(m_path).render(&painter);
-        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(picture.rect(), QGuiApplication::palette().color(group, QPalette::ButtonText));
         return picture;
     }
 
 private:
     const QString m_path;
+};
+
+/// Draws an icon's lines in the palette's colour of the moment.
+class TintedIconEngine final : public DrawnIconEngine
+{
+public:
+    using DrawnIconEngine::DrawnIconEngine;
+    QIconEngine *clone() const override { return new TintedIconEngine(*this); }
+
+protected:
+    QRgb tint(QIcon::Mode mode) const override
+    {
+        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        return QGuiApplication::palette().color(group, QPalette::ButtonText).rgba();
+    }
+
+    QPixmap draw(const QSize &size, QIcon::Mode mode) const override
+    {
+        QPixmap picture = DrawnIconEngine::draw(size, mode);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), QColor::fromRgba(tint(mode)));
+        return picture;
+    }
+};
+
+/// The program's icon. A window manager is given each of its sizes.
+class ProgramIconEngine final : public DrawnIconEngine
+{
+public:
+    using DrawnIconEngine::DrawnIconEngine;
+    QIconEngine *clone() const override { return new ProgramIconEngine(*this); }
+
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        QList<QSize> sizes;
+        for (const int side : {16, 24, 32, 48, 64, 128})
+            sizes << QSize(side, side);
+        return sizes;
+    }
 };
 
 } // namespace
@@ -60,14 +117,5 @@ QIcon Icons::named(const QString &name)
 
 QIcon Icons::program()
 {
-    const QString path = pathOf(QStringLiteral("alembra"));
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        QPixmap picture(size, size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        QSvgRenderer(path).render(&painter);
-        icon.addPixmap(picture);
-    }
-    return icon;
+    return QIcon(new ProgramIconEngine(pathOf(QStringLiteral("alembra"))));
 }
