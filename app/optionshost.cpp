@@ -10,7 +10,6 @@
 #include "options/formoptions.h"
 
 #include <QAction>
-#include <QCheckBox>
 
 namespace {
 
@@ -47,7 +46,7 @@ void OptionsHost::open()
 
 void OptionsHost::setTipAtStart(bool on)
 {
-    loaded().controls.Check1[1].setChecked(on);
+    loaded().setTipAtStart(on);
 }
 
 void OptionsHost::enableTrayEntry(bool enabled)

@@ -5,6 +5,7 @@
 #include "core/tabstrip.h"
 #include "options/databasetab.h"
 #include "options/exporttab.h"
+#include "options/filefigures.h"
 #include "options/generaltab.h"
 #include "options/optionstarget.h"
 #include "options/statisticstab.h"
@@ -41,10 +42,20 @@ Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, Op
     : SideWindow("Formoptions", owner), m_module(module), m_store(store), m_desktop(desktop), m_target(target)
 {
     setWindowTitle(QStringLiteral("Options"));
-    buildWindow();
-    connectClickRules();
     load();
-    resize(sizeHint().expandedTo(WindowSize));
+}
+
+void Formoptions::setVisible(bool visible)
+{
+    if (visible && !TabStrip1)
+        build();
+    SideWindow::setVisible(visible);
+}
+
+void Formoptions::setTipAtStart(bool on)
+{
+    if (TabStrip1)
+        controls.Check1[1].setChecked(on);
 }
 
 void Formoptions::buildWindow()
@@ -101,21 +112,31 @@ void Formoptions::connectClickRules()
 
 void Formoptions::load()
 {
-    controls.Combo2->addItems(menuStyles());
-    controls.Combo3->addItems(startModules());
-    controls.show(m_module.OptionSlots);
     m_target.placeIrLabels();
     m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
     m_target.refreshToolTips();
-    ApplyGridLines();
+    applyGridLines();
     m_target.refreshZoomPointer();
-    frmbdd->load();
-    frmstat->load();
+    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // those that the tabs will measure
+        FileFigures::fileLength(m_module.AppFolder + QLatin1Char('/') + QLatin1StringView(file));
 }
 
-void Formoptions::ApplyGridLines()
+void Formoptions::build()
 {
-    ::ApplyGridLines(m_store.lists, controls.Check1[6].isChecked());
+    buildWindow();
+    connectClickRules();
+    controls.Combo2->addItems(menuStyles());
+    controls.Combo3->addItems(startModules());
+    controls.show(m_module.OptionSlots);
+    frmbdd->load();
+    frmstat->load();
+    resize(sizeHint().expandedTo(WindowSize));
+}
+
+// A box that is neither on nor off has its mark.
+void Formoptions::applyGridLines()
+{
+    ApplyGridLines(m_store.lists, !m_module.OptionSlots(Slot::GridLines).equals(0));
 }
 
 void Formoptions::ok()
@@ -123,7 +144,7 @@ void Formoptions::ok()
     controls.store(m_module.OptionSlots);
     m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
     m_target.applyMenuStyle();
-    ApplyGridLines();
+    applyGridLines();
     m_target.refreshToolTips();
     m_target.applyIrGraduation();
     m_target.refreshZoomPointer();
