@@ -254,9 +254,10 @@ private:
     {
         if (target && target->list) {
             RowList &list = target->list(m_data.lists);
-            list.append(m_rows.field(target->fields.constFirst()));
-            for (const int field : target->fields.sliced(1))
-                list.appendSubItem(m_rows.field(field));
+            const auto cells = target->fields.size();
+            list.append(m_rows.field(target->fields.constFirst()), cells);
+            for (qsizetype cell = 1; cell < cells; ++cell)
+                list.appendSubItem(m_rows.field(target->fields[cell]));
         }
         if (m_step.handler)
             m_step.handler(m_rows, m_data, m_row);

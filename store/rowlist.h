@@ -21,8 +21,14 @@ public:
     /// Sub-item @p number, from 1; empty where the row has none of that number. RuntimeError 9 as above.
     QString subItem(int row, int number) const;
 
-    /// Filling goes row by row without a signal; filled() tells the views once.
-    void append(const QString &text) { m_rows.append(QStringList(text)); }
+    /// Filling goes row by row without a signal; filled() tells the views once. @p cells is how many texts
+    /// the row will have, with its own.
+    void append(const QString &text, qsizetype cells = 1)
+    {
+        m_rows.append(QStringList());
+        m_rows.last().reserve(cells);
+        m_rows.last().append(text);
+    }
 
     /// Sub-items are added to the last row in rising order.
     void appendSubItem(const QString &text) { m_rows.last().append(text); }

@@ -24,20 +24,34 @@ QString plainText(JetBytes bytes)
     return text;
 }
 
+// The characters of one byte from @p at on, to the next zero byte or the end.
+QByteArrayView narrowRun(JetBytes bytes, qsizetype at)
+{
+    const QByteArrayView rest = bytes.from(at).view();
+    const qsizetype end = rest.indexOf('\0');
+    return end < 0 ? rest : rest.first(end);
+}
+
 // Behind the mark FF FE, one byte is one character; a zero byte switches to two bytes for each character and
-// the next one back.
+// the next one back. Nearly all texts are a single run of narrow ones.
 QString packedText(JetBytes bytes)
 {
-    QString text;
-    text.reserve(bytes.size());
+    constexpr qsizetype MarkSize = 2;
+    const QByteArrayView first = narrowRun(bytes, MarkSize);
+    QString text = QString::fromLatin1(first);
     bool wide = false;
-    for (qsizetype at = 2; at < bytes.size(); ++at) {
-        if (bytes.u8(at) == 0)
+    for (qsizetype at = MarkSize + first.size(); at < bytes.size();) {
+        if (bytes.u8(at) == 0) {
             wide = !wide;
-        else if (wide)
-            text += QChar(bytes.u16(at++));
-        else
-            text += QChar(bytes.u8(at));
+            ++at;
+        } else if (wide) {
+            text += QChar(bytes.u16(at));
+            at += 2;
+        } else {
+            const QByteArrayView run = narrowRun(bytes, at);
+            text += QLatin1StringView(run.data(), run.size());
+            at += run.size();
+        }
     }
     return text;
 }
