@@ -65,12 +65,8 @@ void Portrait::paintEvent(QPaintEvent *)
     painter.drawRect(plate.adjusted(5, 5, -5, -5));
     drawMotif(painter, QRectF(16, 20, width() - 31, 0));
 
-    QFont serif(QStringLiteral("serif"));
-    serif.setPixelSize(14);
-    painter.setFont(serif);
+    // In the desktop's font: another typeface would cost the start more than all that is written here.
     const QRectF words(6, height() - 62, width() - 12, 26);
     painter.drawText(words, Qt::AlignCenter, QStringLiteral("Dmitri Mendeleev"));
-    serif.setPixelSize(13);
-    painter.setFont(serif);
     painter.drawText(words.translated(0, 24), Qt::AlignCenter, QStringLiteral("1834\u20131907"));
 }
