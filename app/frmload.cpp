@@ -76,8 +76,7 @@ void frmload::setMaximum(int maximum)
 
 void frmload::ProgressTick()
 {
-    m_progressBar->setValue(m_progressBar->value() + 5);
+    m_progressBar->setValue(m_progressBar->value() + 5); // paints at once: nothing else does during the load
     setWindowTitle(
         QStringLiteral("%1% Alembra").arg(progressPercent(m_progressBar->value(), m_progressBar->maximum())));
-    m_progressBar->repaint(); // nothing else paints during the load
 }
