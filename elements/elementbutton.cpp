@@ -1,5 +1,7 @@
 #include "elements/elementbutton.h"
 
+#include <QApplication>
+#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -11,6 +13,16 @@ const QColor Mark(0x1f, 0x6f, 0xd6);
 bool isArrow(int key)
 {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+// A desktop without the typeface draws in its own. To look for a like one takes it as long as the whole
+// table.
+QFont drawnFont(QFont font)
+{
+    static const bool installed = QFontDatabase::hasFamily(font.family());
+    if (!installed)
+        font.setFamilies(QApplication::font().families());
+    return font;
 }
 
 } // namespace
@@ -43,11 +55,10 @@ void ElementButton::paintEvent(QPaintEvent *)
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
-    if (text().size() > 2) {
-        QFont narrower = font();
-        narrower.setPixelSize(narrower.pixelSize() * 4 / 5);
-        painter.setFont(narrower);
-    }
+    QFont drawn = drawnFont(font());
+    if (text().size() > 2)
+        drawn.setPixelSize(drawn.pixelSize() * 4 / 5);
+    painter.setFont(drawn);
     painter.drawText(rect(), Qt::AlignCenter, text());
 }
 
