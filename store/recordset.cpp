@@ -16,18 +16,18 @@ Recordset::Recordset(const QString &statement, const DatabaseConnection &connect
             throw RuntimeError(ErrorNumber::ColumnNotFound, select->table + QLatin1Char('.') + name);
         m_columns.append(*column);
     }
+    m_fields.resize(m_columns.size());
     m_cursor.emplace(file.rows(table));
     fetch();
 }
 
 void Recordset::fetch()
 {
-    m_fields.clear();
     m_atEnd = true;
     if (!m_cursor->next())
         return;
-    for (const JetColumn &column : std::as_const(m_columns))
-        m_fields.append(m_cursor->text(column));
+    for (qsizetype index = 0; index < m_columns.size(); ++index)
+        m_fields[index] = m_cursor->text(m_columns.at(index));
     m_atEnd = false;
 }
 

@@ -1,15 +1,31 @@
 #include "store/selectstatement.h"
 
-#include <QRegularExpression>
+#include <algorithm>
+
+namespace {
+
+bool isName(const QString &text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c.isLetterOrNumber() || c == QLatin1Char('_');
+    });
+}
+
+} // namespace
 
 std::optional<SelectStatement> SelectStatement::parse(const QString &text)
 {
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A\s*SELECT\s+(\w+(?:\s*,\s*\w+)*)\s+FROM\s+(\w+)\s*\z)"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
-    static const QRegularExpression comma(QStringLiteral(R"(\s*,\s*)"));
-    const QRegularExpressionMatch match = form.match(text);
-    if (!match.hasMatch())
+    const auto Select = QLatin1StringView("SELECT ");
+    const auto From = QLatin1StringView(" FROM ");
+    const QString plain = text.simplified();
+    const qsizetype from = plain.lastIndexOf(From, -1, Qt::CaseInsensitive);
+    if (!plain.startsWith(Select, Qt::CaseInsensitive) || from < Select.size())
         return std::nullopt;
-    return SelectStatement{match.captured(1).split(comma), match.captured(2)};
+
+    SelectStatement statement{{}, plain.mid(from + From.size())};
+    for (const QString &column : plain.mid(Select.size(), from - Select.size()).split(QLatin1Char(',')))
+        statement.columns.append(column.trimmed());
+    if (!isName(statement.table) || !std::all_of(statement.columns.begin(), statement.columns.end(), isName))
+        return std::nullopt;
+    return statement;
 }
