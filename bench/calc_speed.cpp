@@ -1,57 +1,61 @@
-// Prints what one key press in the conversions and one click on "Calculate" cost, as shares of a frame of
-// 1/60 s. Exits with 1 if either takes more than a hundredth of one.
+// What computing costs behind a key of the conversions and a click on "Calculate", against reading and
+// writing the same numbers.
 
+#include "bench/measure.h"
 #include "calc/solver.h"
 #include "calc/unitconverter.h"
-
-#include <QElapsedTimer>
-#include <cstdio>
+#include "core/numbers.h"
 
 using namespace CalcFields;
 
 namespace {
 
-constexpr double FrameNanoseconds = 1E9 / 60;
-constexpr double Limit = 0.01;
+constexpr double ConversionTarget = 1.5;
+constexpr double SolverTarget = 2;
 
-/// Share of a frame that one call of @p work takes, the best of some runs.
-template<class Work>
-double shareOfFrame(const char *name, Work work)
+const QString Input = QStringLiteral("123.456");
+constexpr double Result = 123.456 / 7;
+
+void bareNumbers(int read, int written)
 {
-    constexpr int Calls = 20000;
-    double best = FrameNanoseconds;
-    for (int run = 0; run < 5; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        for (int call = 0; call < Calls; ++call)
-            work(call);
-        best = std::min(best, double(timer.nsecsElapsed()) / Calls);
-    }
-    std::printf("%-12s %8.0f a second, %.4f %% of a frame each\n", name, 1E9 / best,
-                100 * best / FrameNanoseconds);
-    return best / FrameNanoseconds;
+    for (; read > 0; --read)
+        Numbers::read(Input);
+    for (; written > 0; --written)
+        Numbers::write(Result);
+}
+
+void conversions(Measure &measure)
+{
+    UnitConverter converter([](int) { return UnitPair{1, 2}; });
+    const auto tabs = int(UnitConverter::quantities().size());
+    measure.compare(
+        QStringLiteral("conversion of a number on each tab / reading, writing"),
+        [tabs] { bareNumbers(tabs, tabs); },
+        [&] {
+            for (int tab = 1; tab <= tabs; ++tab)
+                converter.keyReleased(tab, Input);
+        },
+        ConversionTarget);
+}
+
+void clicks(Measure &measure)
+{
+    FieldTexts dilution;
+    dilution[Ci] = dilution[Vi] = dilution[Vf] = Input;
+    const auto changes = int(Solver::solve(4, dilution).changes.size());
+    if (changes == 0)
+        throw std::runtime_error("no dilution was calculated");
+    measure.compare(
+        QStringLiteral("calculation of a dilution / reading, writing"), [=] { bareNumbers(3, changes); },
+        [&] { Solver::solve(4, dilution); }, SolverTarget);
 }
 
 } // namespace
 
 int main()
 {
-    const QString input = QStringLiteral("123.456");
-    qsizetype letters = 0; // so that nothing is optimised away
-
-    UnitConverter converter([](int) { return UnitPair{1, 2}; });
-    const auto tabs = int(UnitConverter::quantities().size());
-    const double conversion = shareOfFrame(
-        "conversions", [&](int call) { letters += converter.keyReleased(call % tabs + 1, input).size(); });
-
-    FieldTexts dilution;
-    dilution[Ci] = dilution[Vi] = dilution[Vf] = input;
-    FieldTexts pressure;
-    pressure[Tc] = pressure[TcStar] = pressure[PStar] = input;
-    const double click = shareOfFrame("clicks", [&](int call) {
-        const Outcome outcome = call % 2 ? Solver::solve(4, dilution) : Solver::solve(6, pressure, 85);
-        letters += outcome.changes.size();
+    return measureAll([](Measure &measure) {
+        conversions(measure);
+        clicks(measure);
     });
-
-    return letters > 0 && conversion < Limit && click < Limit ? 0 : 1;
 }

@@ -1,76 +1,55 @@
-// How fast tables come from the database into memory, and whether the time for a row grows with the table:
-//   database_load <database of the program> <folder of the table files>
-// Loads the program's own database, then a database of one table with its rows once and a hundred times,
-// which is near the largest that the build can make.
+// How fast tables come from the database into memory: the program's own against making the same texts from
+// their characters, and how the time grows with the rows of a table.
 
-#include "store/databaseconnection.h"
-#include "store/databasepassword.h"
-#include "store/datastore.h"
-#include "store/loadtable.h"
-#include "store/recordset.h"
-#include "store/tablecatalog.h"
+#include "bench/measure.h"
+#include "bench/programdata.h"
 #include "tools/make_database/databasefile.h"
 #include "tools/make_database/tablefile.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QTextStream>
-
-#include <algorithm>
-#include <memory>
 #include <numeric>
-#include <stdexcept>
 
 namespace {
 
-constexpr int Runs = 15;
-constexpr int LastLoaded = 31;    // the program's start loads no further
+constexpr double LoadTarget = 2; // a page, its rows and their cells are each looked at once on the way
+constexpr double GrowthTarget = 1.1;
 constexpr int ImpurityShifts = 2; // the step of `RMN1H`: ten columns, every row goes to one list
-constexpr int Times = 100;
 
-struct Load
+/// All cells of the loaded tables, each as its bytes in the file: one for a character.
+QList<QList<QByteArray>> cells()
 {
-    int rows = 0;
-    double seconds = 0;
-};
-
-/// From the closed file to the rows in memory, as the start of the program does it.
-Load load(const QString &database, int firstStep, int lastStep)
-{
-    QElapsedTimer timer;
-    timer.start();
+    QList<QList<QByteArray>> rows;
     DatabaseConnection connection;
-    connection.Open(database, QStringLiteral("Admin"), DatabasePassword);
-    const auto data = std::make_unique<DataStore>();
-    TableLoader loader(
-        *data, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },
-        [] { throw std::runtime_error("a table is missing"); });
-    for (loader.LoadCounter = firstStep; loader.LoadCounter <= lastStep; ++loader.LoadCounter)
-        loader.LoadTable(TableCatalog::statement(loader.LoadCounter));
+    connection.Open(ProgramData::database(), QStringLiteral("Admin"), DatabasePassword);
+    for (int step = TableCatalog::FirstStep; step <= ProgramData::LastLoaded; ++step) {
+        const qsizetype columns = TableCatalog::columns(step).size();
+        for (Recordset records(TableCatalog::statement(step), connection); !records.atEnd();
+             records.moveNext()) {
+            rows.append(QList<QByteArray>());
+            for (int column = 0; column < columns; ++column)
+                rows.last() << records.field(column).toLatin1();
+        }
+    }
     connection.Close();
-    const auto &rows = data->tallies.rows;
-    return {std::accumulate(rows.cbegin(), rows.cend(), 0), double(timer.nsecsElapsed()) / 1e9};
+    return rows;
 }
 
-/// The run with the median time.
-Load median(const QString &database, int firstStep, int lastStep)
+/// What no load can do without: the bytes of the file, and a text for each cell.
+qsizetype bareDecode(const QList<QList<QByteArray>> &cells)
 {
-    QList<Load> runs;
-    load(database, firstStep, lastStep); // warms the caches
-    for (int run = 0; run < Runs; ++run)
-        runs.append(load(database, firstStep, lastStep));
-    std::sort(runs.begin(), runs.end(), [](const Load &a, const Load &b) { return a.seconds < b.seconds; });
-    return runs[Runs / 2];
-}
-
-TableData readTable(const QDir &folder)
-{
-    TableRules rules;
-    rules.name = TableCatalog::table(ImpurityShifts);
-    rules.columns = TableCatalog::columns(ImpurityShifts) + QStringList{QStringLiteral("source")};
-    return TableFile::read(folder.filePath(rules.name + QStringLiteral(".tsv")), rules);
+    QFile file(ProgramData::database());
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error(file.errorString().toStdString());
+    const QByteArray bytes = file.readAll();
+    QList<QStringList> rows;
+    for (const QList<QByteArray> &row : cells) {
+        rows.append(QStringList());
+        for (const QByteArray &cell : row)
+            rows.last() << QString::fromLatin1(cell);
+    }
+    return bytes.size() + rows.size();
 }
 
 /// A database in @p folder that holds the rows of @p table @p times over.
@@ -86,31 +65,26 @@ QString makeDatabase(const QTemporaryDir &folder, TableData table, int times)
     return file.fileName();
 }
 
-void print(QTextStream &out, const QString &what, const Load &load)
+void growth(Measure &measure)
 {
-    out << QStringLiteral("%1 %2 rows %3 ms %4 rows/s\n")
-               .arg(what, -28)
-               .arg(load.rows, 7)
-               .arg(load.seconds * 1e3, 9, 'f', 2)
-               .arg(load.rows / load.seconds, 9, 'f', 0);
-}
-
-void run(const QString &database, const QDir &tables)
-{
-    QTextStream out(stdout);
     const QTemporaryDir folder;
-    const TableData table = readTable(tables);
-    const Load whole = median(database, TableCatalog::FirstStep, LastLoaded);
-    const Load once = median(makeDatabase(folder, table, 1), ImpurityShifts, ImpurityShifts);
-    const Load often = median(makeDatabase(folder, table, Times), ImpurityShifts, ImpurityShifts);
-    if (once.rows != table.rows.size() || often.rows != Times * once.rows)
-        throw std::runtime_error("rows got lost");
-    print(out, QStringLiteral("the program's database"), whole);
-    print(out, table.name, once);
-    print(out, table.name + QStringLiteral(", rows x %1").arg(Times), often);
-    out << QStringLiteral("time for a row at x %1 to that at x 1: %2\n")
-               .arg(Times)
-               .arg(often.seconds / often.rows / (once.seconds / once.rows), 0, 'f', 2);
+    TableRules rules;
+    rules.name = TableCatalog::table(ImpurityShifts);
+    rules.columns = TableCatalog::columns(ImpurityShifts) + QStringList{QStringLiteral("source")};
+    const TableData table =
+        TableFile::read(QStringLiteral(ALEMBRA_SOURCE "/data/tables/%1.tsv").arg(rules.name), rules);
+    QList<Measure::Size> sizes;
+    for (const int times : {1, 10, 100}) {
+        const QString database = makeDatabase(folder, table, times);
+        const int rows = times * int(table.rows.size());
+        sizes << Measure::Size{rows, [=] {
+                                   const auto data =
+                                       ProgramData::load(database, ImpurityShifts, ImpurityShifts);
+                                   if (data->lists.ListView4.rowCount() != rows)
+                                       throw std::runtime_error("rows got lost");
+                               }};
+    }
+    measure.growth(QStringLiteral("load of a table"), sizes, GrowthTarget);
 }
 
 } // namespace
@@ -118,17 +92,11 @@ void run(const QString &database, const QDir &tables)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    QTextStream errors(stderr);
-    if (arguments.size() != 3) {
-        errors << "usage: database_load <database of the program> <folder of the table files>\n";
-        return 2;
-    }
-    try {
-        run(arguments[1], QDir(arguments[2]));
-    } catch (const std::exception &error) {
-        errors << error.what() << '\n';
-        return 1;
-    }
-    return 0;
+    return measureAll([](Measure &measure) {
+        const auto rows = cells();
+        measure.compare(
+            QStringLiteral("load of the database / file and its texts"), [&] { bareDecode(rows); },
+            [] { ProgramData::load(ProgramData::database()); }, LoadTarget);
+        growth(measure);
+    });
 }

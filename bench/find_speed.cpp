@@ -1,59 +1,45 @@
-// Prints what a key press in the Find bar costs as the list grows. Exits with 1 if
-// a key press over 200 rows takes a millisecond, or if the time grows faster than the rows.
+// What gathering the hits of a search key costs against the bare comparison of the rows, and how it grows
+// with them.
 
+#include "bench/measure.h"
+#include "bench/programdata.h"
 #include "search/find.h"
-#include "store/rowlist.h"
 
-#include <QElapsedTimer>
-#include <cstdio>
+#include <array>
 
 namespace {
 
-/// Nanoseconds of one call of @p work, the best of some runs.
-template<class Work>
-double bestTime(Work work)
-{
-    double best = 1E18;
-    for (int run = 0; run < 7; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        best = std::min(best, double(timer.nsecsElapsed()));
-    }
-    return best;
-}
-
-/// Names of which every tenth holds the text that is looked for.
-void fill(RowList &list, int rows)
-{
-    for (int row = 0; row < rows; ++row) {
-        const char *stem = row % 10 == 0 ? "acetyl compound no. %1" : "chlorinated solvent no. %1";
-        list.append(QString::fromLatin1(stem).arg(row));
-    }
-}
-
-double keyPress(int rows)
-{
-    RowList list;
-    fill(list, rows);
-    RowList hits;
-    return bestTime([&] { Find::gather(list, rows, QStringLiteral("ACE"), Qt::CaseInsensitive, hits); });
-}
+constexpr double GatherTarget = 1.3;
+constexpr double GrowthTarget = 1.1;
+constexpr int Solvents = 1; // load step
 
 } // namespace
 
 int main()
 {
-    constexpr double Millisecond = 1E6;
-    constexpr double Tolerance = 3; // of a straight line, for caches and noise
-    const double first = keyPress(200);
-    bool good = first < Millisecond;
-    for (const int rows : {200, 1000, 10000, 100000}) {
-        const double time = keyPress(rows);
-        const double perRow = time / rows / (first / 200);
-        std::printf("%7d rows  %9.4f ms a key press, %.2f of the time a row that 200 rows take\n", rows,
-                    time / Millisecond, perRow);
-        good = good && perRow < Tolerance;
-    }
-    return good ? 0 : 1;
+    return measureAll([](Measure &measure) {
+        const auto data = ProgramData::load(ProgramData::database(), Solvents, Solvents);
+        const QString key = QStringLiteral("ACE");
+        std::array<RowList, 3> lists;
+        RowList hits;
+        QList<Measure::Size> sizes;
+        int times = 1;
+        for (RowList &list : lists) {
+            ProgramData::multiply(data->lists.ListView1, times, 0, list);
+            sizes << Measure::Size{list.rowCount(), [&list, &key, &hits] {
+                                       Find::gather(list, list.rowCount(), key, Qt::CaseInsensitive, hits);
+                                   }};
+            times *= 10;
+        }
+        int found = 0;
+        const auto bare = [&] {
+            for (int row = 0; row < lists[0].rowCount(); ++row)
+                found += lists[0].text(row).contains(key, Qt::CaseInsensitive) ? 1 : 0;
+        };
+        measure.compare(QStringLiteral("gathering of hits / comparison"), bare, sizes[0].action,
+                        GatherTarget);
+        if (found == 0)
+            throw std::runtime_error("nothing was found");
+        measure.growth(QStringLiteral("search"), sizes, GrowthTarget);
+    });
 }
