@@ -46,12 +46,10 @@ void ElementButton::setMarked(bool marked)
 void ElementButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
     const bool lively = m_marked || underMouse() || isDown();
     const int thickness = m_marked || isDown() ? 3 : 1;
-    painter.setPen(QPen(lively ? Mark : GridLine, thickness, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    const double inset = thickness / 2.0;
-    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+    painter.fillRect(rect(), lively ? Mark : GridLine);
+    painter.fillRect(rect().adjusted(thickness, thickness, -thickness, -thickness), Qt::white);
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
