@@ -70,6 +70,8 @@ void ElementButton::keyPressEvent(QKeyEvent *event)
 
 bool ElementButton::event(QEvent *event)
 {
+    if (event->type() == QEvent::Enter)
+        raise(); // with all four of its lines
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave)
         update();
     return QPushButton::event(event);
