@@ -32,6 +32,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
 
@@ -231,7 +232,10 @@ void Form1::loadMenus()
     m_commandBars.load(MenuLayout::read(m_module.AppFolder + QStringLiteral("/menuc_uk.xcb")));
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
-    resize(sizeHint()); // adjustSize() would hold it to two thirds of the screen
+    // The pane whole, where the screen is large enough. adjustSize() would hold it to two thirds of the
+    // screen.
+    constexpr QSize Decoration{8, 36}; // about what window managers put around it
+    resize(sizeHint().boundedTo(screen()->availableSize() - Decoration));
 }
 
 void Form1::showStartModule()

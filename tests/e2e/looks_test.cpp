@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 
 /// Nothing is clipped, covered or hard to read, in every pane and window as it stands in the running program.
@@ -38,6 +39,15 @@ private:
     void setLooks();
     void verifyNothingFound();
 
+    // The test's own display is smaller than the window, which then scrolls.
+    void walk(const ProgramFolder &folder, const std::function<void(Form1 &)> &looks)
+    {
+        run(folder, [&](Form1 &form) {
+            QVERIFY(form.screen()->availableGeometry().contains(QRect({}, form.size())));
+            form.resize(form.sizeHint());
+            looks(form);
+        });
+    }
     void openAndLook(Form1 &form, const std::function<void()> &open);
 
     const QFont m_ownFont = QApplication::font();
@@ -106,7 +116,7 @@ void LooksTest::everyPane()
 {
     setLooks();
     const ProgramFolder folder;
-    run(folder, [this](Form1 &form) {
+    walk(folder, [this](Form1 &form) {
         control(form, "Command7(25)").click(); // values to read
         Walk::throughPanes(
             form, [&] { m_judge.look(form); }, true);
@@ -135,7 +145,7 @@ void LooksTest::everyElement()
 {
     setLooks();
     const ProgramFolder folder;
-    run(folder, [this](Form1 &form) {
+    walk(folder, [this](Form1 &form) {
         for (int element = 0; element < 118; ++element) {
             control(form, qPrintable(QStringLiteral("Command7(%1)").arg(element))).click();
             m_judge.look(control<QWidget>(form, "ReyFrame1"));
@@ -159,7 +169,7 @@ void LooksTest::everySideWindow()
 {
     setLooks();
     const ProgramFolder folder;
-    run(folder, [this, &folder](Form1 &form) {
+    walk(folder, [this, &folder](Form1 &form) {
         openAndLook(form, [&] { form.executeCommand(1122); });
         openAndLook(form, [&] { form.executeCommand(1058); });
         openAndLook(form, [&] {
@@ -194,7 +204,7 @@ void LooksTest::tipAndSplash()
     setLooks();
     const ProgramFolder folder;
     folder.setOption(56, "1");
-    run(folder, [&](Form1 &form) {
+    walk(folder, [&](Form1 &form) {
         SideWindow *tip = Walk::sideWindow(form);
         QVERIFY(tip);
         const auto tips = Tips::read(folder.path(QStringLiteral("TIPOFDAY_UK.TXT")));
@@ -214,7 +224,7 @@ void LooksTest::everyStyleOfTheToolBar()
 {
     setLooks();
     const ProgramFolder folder;
-    run(folder, [this](Form1 &form) {
+    walk(folder, [this](Form1 &form) {
         for (int style = 0; style < 6; ++style) {
             form.executeCommand(1058);
             SideWindow &options = *Walk::sideWindow(form);
@@ -230,7 +240,7 @@ void LooksTest::focusIsSeen()
 {
     setLooks();
     const ProgramFolder folder;
-    run(folder, [this](Form1 &form) {
+    walk(folder, [this](Form1 &form) {
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         const auto throughChain = [this](QWidget &window) {

@@ -108,6 +108,7 @@ void take(QWidget &window, const QString &path)
 
 void walk(Form1 &form, const QDir &pictures)
 {
+    form.resize(form.sizeHint()); // whatever the display, of which nothing is seen here
     for (const Shot &shot : Shots) {
         form.executeCommand(shot.command);
         const auto shown = [&form]() -> QWidget & {
