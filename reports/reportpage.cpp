@@ -124,14 +124,16 @@ void ReportPage::headerRow(const QStringList &head)
         line(title);
 }
 
+// Most of a page are rows and cells: straight to bytes.
 void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;
     rowClass = rowClass == QLatin1StringView("teven") ? "tnoteven" : "teven";
-    m_bytes += "</tr>\r\n<tr class=" + CodePage::encode(rowClass) + ">\r\n";
+    m_bytes += "</tr>\r\n<tr class=";
+    m_bytes += CodePage::encode(rowClass);
+    m_bytes += ">\r\n";
 }
 
-// Most of a page are cells: straight to bytes.
 void ReportPage::cell(const QString &text)
 {
     m_bytes += "<td>";
@@ -141,7 +143,7 @@ void ReportPage::cell(const QString &text)
 
 void ReportPage::endRow()
 {
-    line("</tr>");
+    m_bytes += "</tr>\r\n";
 }
 
 void ReportPage::closeTable()
