@@ -21,7 +21,7 @@ constexpr int PauseMilliseconds = 50;
 
 int progressPercent(int value, int maximum)
 {
-    const float top = float(maximum);
+    const auto top = float(maximum);
     return int(std::nearbyint((1.0F - (top - float(value)) / top) * 100.0F));
 }
 

@@ -56,6 +56,7 @@ void BiochemistryPane::buildContents()
 }
 
 // What is made later lies above: the other tabs cover the amino acids, and the buttons of the bases theirs.
+// NOLINTNEXTLINE(readability-function-size): a table of columns
 void BiochemistryPane::buildBiomolecules()
 {
     const Section section{BiomoleculesPlace, TitleFrame::Height};

@@ -58,7 +58,7 @@ void GeneticCodeChart::paintLetters(QPainter &painter) const
     bold.setBold(true);
     painter.setPen(palette().color(QPalette::WindowText));
     for (int letter = 0; letter < Letters; ++letter) {
-        const QString text(QLatin1Char(Order[letter]));
+        const QString text{QLatin1Char(Order[letter])};
         painter.setFont(bold);
         QRectF above = cell(0, letter, 1);
         above.moveBottom(Side);

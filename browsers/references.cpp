@@ -14,6 +14,7 @@ QString onWebSite(const char *path)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-function-size): a table
 const QList<References::Entry> &References::page()
 {
     static const QList<Entry> entries{

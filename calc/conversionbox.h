@@ -28,12 +28,12 @@ protected:
 
 private:
     void buildLists(const UnitLists &units);
-    QListWidget &buildList(int list, const QStringList &names, int start);
+    QListWidget &buildList(int number, const QStringList &names, int start);
     void clickTab(int tab);
     void showLists(int tab);
     void scrollToUnits();
     void convert();
-    void clickList(int list);
+    void clickList(int number);
     QListWidget &list(int number) const { return *m_lists[size_t(number - 1)]; }
 
     const Module1 &m_module;

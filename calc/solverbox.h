@@ -36,7 +36,7 @@ private:
     void buildButtons(QBoxLayout &line);
 
     void clickTab(int tab);
-    void showTab(int tab);
+    void showTab(int number);
     void calculate();
     void watch(Field changed);
     void write(const Change &change);

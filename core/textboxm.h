@@ -13,6 +13,8 @@
 class TextBoxM final : public QLineEdit
 {
     Q_OBJECT
+    // Set before the field is used; nobody waits for a change.
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int tipodedato READ tipodedato WRITE setTipodedato)
     Q_PROPERTY(int decimales READ decimales WRITE setDecimales)
     Q_PROPERTY(int maxlength READ maxlength WRITE setMaxlength)

@@ -86,8 +86,8 @@ void ElementPanel::fillIsotopes(int row)
     // Five isotopes end at a column that is never filled.
     int i = 0;
     for (; !column(i).isEmpty(); i += 3) {
-        for (int part = 0; part < 3; ++part)
-            Label11[size_t(i + part)] = column(i + part);
+        for (int each = i; each < i + 3; ++each)
+            Label11[size_t(each)] = column(each);
     }
     // One isotope fits into 915; without any the height is told all the same, to a panel out of sight.
     ReyFrame2Height = (i / 3.0 - 1) * 360 + 915;

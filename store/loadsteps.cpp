@@ -106,6 +106,7 @@ void countIndicator(DataStore &data, int row)
     ++(fluorescent ? data.tallies.fluorescentIndicators : data.tallies.acidBaseIndicators);
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 const std::map<int, Step> &steps()
 {
     static const std::map<int, Step> table{

@@ -33,9 +33,9 @@ void remove(const QString &path)
 
 } // namespace
 
-MiseAjour::MiseAjour(Desktop &desktop, UpdateNetwork &network, QString appFolder, QObject *parent)
+MiseAjour::MiseAjour(Desktop &desktop, UpdateNetwork &network, const QString &appFolder, QObject *parent)
     : QObject(parent), m_desktop(desktop), m_network(network),
-      m_localCopy(std::move(appFolder) + QStringLiteral("/Tempo.net"))
+      m_localCopy(appFolder + QStringLiteral("/Tempo.net"))
 {}
 
 void MiseAjour::set(QString &property, const QString &text, const char *name)

@@ -19,7 +19,7 @@ class MiseAjour final : public QObject
 
 public:
     /// @p appFolder receives the local copy of the version file for as long as it is read.
-    MiseAjour(Desktop &desktop, UpdateNetwork &network, QString appFolder, QObject *parent = nullptr);
+    MiseAjour(Desktop &desktop, UpdateNetwork &network, const QString &appFolder, QObject *parent = nullptr);
 
     const QString &Adresse() const { return m_adresse; }
     const QString &Logiciel() const { return m_logiciel; }

@@ -11,10 +11,10 @@ public:
     struct Limits
     {
         std::chrono::milliseconds time{20000}; ///< for the whole download, however it trickles
-        qint64 bytes = 64 * 1024;              ///< a version file has a few hundred
+        qint64 bytes = 65'536;                 ///< a version file has a few hundred
     };
 
-    QtUpdateNetwork() = default;
+    QtUpdateNetwork() : QtUpdateNetwork(Limits()) {}
     explicit QtUpdateNetwork(const Limits &limits) : m_limits(limits) {}
 
     bool isConnected() const override;

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 MaxFileSize = 512 * 1024 * 1024;
+constexpr qint64 MaxFileSize = qint64(512) * 1024 * 1024;
 
 QByteArray readWhole(const QString &path)
 {
