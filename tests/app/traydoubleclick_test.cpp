@@ -42,7 +42,7 @@ void TrayDoubleClickTest::eachDoubleClickCountsOnce()
         else if (c == 'd')
             count += clicks.doubleClick(now) ? 1 : 0;
         else
-            now += 100 * (c - '0');
+            now += qint64(100) * (c - '0');
     }
     QCOMPARE(count, counted);
 }

@@ -243,7 +243,7 @@ void HelpTest::conversionsAreWhatTheProgramShows()
         const QRegularExpressionMatch equation = Equation.match(cells[1]);
         QVERIFY2(equation.hasMatch(), qPrintable(cells[1]));
         const auto position = [&](int list, const QString &unit) {
-            const QStringList names = lists.names(list);
+            const QStringList &names = lists.names(list);
             return int(std::find_if(names.begin(), names.end(),
                                     [&](const QString &name) {
                                         return name.startsWith(unit + QStringLiteral(" ("));

@@ -258,7 +258,7 @@ void RunTest::sideWindowsOpenFromCommandsAndPanes()
     const ProgramFolder folder;
     run(folder, [&](Form1 &form) {
         const auto opened = [&](const char *name) {
-            QWidget *window = form.findChild<QWidget *>(QLatin1StringView(name));
+            auto *window = form.findChild<QWidget *>(QLatin1StringView(name));
             const bool alone = window && window->isVisible() && !form.isEnabled();
             return alone && window->close() && form.isEnabled();
         };

@@ -25,7 +25,7 @@ private Q_SLOTS:
 
 private:
     void load() const;
-    void choose(int list, const QString &text) const;
+    void choose(int index, const QString &text) const;
     template<class W>
     W &get(const QString &name) const
     {

@@ -222,7 +222,7 @@ void OptionsTest::killedBehindOk()
         QRandomGenerator random(11);
         for (int round = 0; round < 200; ++round) {
             const pid_t child = fork();
-            while (child == 0)
+            while (child == 0) // NOLINT(bugprone-infinite-loop): until the kill
                 pressOk(form);
             usleep(useconds_t(1000 + random.bounded(20000)));
             kill(child, SIGKILL);

@@ -114,7 +114,7 @@ void StatisticsTest::sizesAreWrittenInFull()
     QCOMPARE(FileFigures::kilobytes(1536), QStringLiteral("1.5 Ko"));
     QCOMPARE(FileFigures::kilobytes(1), QStringLiteral("0.0009765625 Ko"));
     QCOMPARE(FileFigures::kilobytes(1234567890123), QStringLiteral("1205632705.19824 Ko"));
-    QCOMPARE(FileFigures::megabytes(3 * 1048576), QStringLiteral("3 Mo"));
+    QCOMPARE(FileFigures::megabytes(3145728), QStringLiteral("3 Mo"));
     QCOMPARE(FileFigures::megabytes(1048576 + 131072), QStringLiteral("1.12 Mo")); // 1.125, half to even
     QCOMPARE(FileFigures::megabytes(1048576 + 393216), QStringLiteral("1.38 Mo")); // 1.375
     QCOMPARE(FileFigures::megabytes(1), QStringLiteral("0 Mo"));

@@ -226,9 +226,9 @@ void LauncherTest::anInterruptedRenewalIsDoneAgain()
 void LauncherTest::startsAtOnceDoNotDisturbEachOther()
 {
     const Installation installation;
-    std::vector<std::unique_ptr<QProcess>> processes;
-    for (int i = 0; i < 4; ++i)
-        processes.push_back(installation.begin({}));
+    std::vector<std::unique_ptr<QProcess>> processes(4);
+    for (std::unique_ptr<QProcess> &process : processes)
+        process = installation.begin({});
 
     for (const std::unique_ptr<QProcess> &process : processes) {
         const Installation::Run run = Installation::finish(*process);

@@ -22,7 +22,7 @@ QByteArray headerPage(const QString &password)
     QByteArray passwordField = Rows::plainText(password);
     Q_ASSERT(passwordField.size() <= Jet::PasswordSize);
     passwordField.append(Jet::PasswordSize - passwordField.size(), '\0');
-    const double created = qFromLittleEndian<double>(SystemTables::CreationDate);
+    const auto created = qFromLittleEndian<double>(SystemTables::CreationDate);
     Jet::maskPassword(passwordField, created);
 
     ByteWriter page;

@@ -226,8 +226,10 @@ QImage drawLargeCard(const Element &element)
              withUnit(element["rayon"], QStringLiteral("Å"))},
     };
     y = 345;
-    for (int i = 0; i < int(below.size()); ++i)
-        paintFact(painter, below[i], i % 2 ? 208 : 18, y + (i / 2) * 36);
+    for (int i = 0; i < int(below.size()); ++i) {
+        const int row = i / 2;
+        paintFact(painter, below[i], i % 2 ? 208 : 18, y + row * 36);
+    }
     return picture;
 }
 

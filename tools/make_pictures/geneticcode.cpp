@@ -59,7 +59,7 @@ struct Layout
     {}
 
     int pixels;
-    double line;
+    int line;
     QSizeF box; ///< of the four codons that differ in the third base only
     double margin;
     double top;
@@ -93,7 +93,7 @@ void paintBases(QPainter &painter, const Layout &layout)
     painter.setPen(Ink);
     const double right = layout.margin + 4 * layout.box.width();
     for (int i = 0; i < 4; ++i) {
-        const QString base(QLatin1Char(Bases[i]));
+        const QString base{QLatin1Char(Bases[i])};
         painter.setFont(textFont(layout.pixels * 5 / 4, true));
         const double y = layout.top + i * layout.box.height();
         painter.drawText(QRectF(0, y, layout.margin, layout.box.height()), Qt::AlignCenter, base);

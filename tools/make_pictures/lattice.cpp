@@ -43,8 +43,8 @@ void addCorners(Lattice &cell, Site site)
 void addEdges(Lattice &cell)
 {
     for (int i = 0; i < 4; ++i) {
-        const float s = float(i & 1);
-        const float t = float(i >> 1);
+        const auto s = float(i & 1);
+        const auto t = float(i >> 1);
         cell.lines << Lattice::Line{at(cell, 0, s, t), at(cell, 1, s, t), true}
                    << Lattice::Line{at(cell, s, 0, t), at(cell, s, 1, t), true}
                    << Lattice::Line{at(cell, s, t, 0), at(cell, s, t, 1), true};

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -310,7 +311,7 @@ private:
         double orders = 0;
         for (const Bond *bond : m_molecule.atomBonds(m_molecule.getAtomWithIdx(unsigned(i))))
             orders += bond->getBondTypeAsDouble();
-        return int(orders + 0.5);
+        return int(std::lround(orders));
     }
 
     const RDKit::ROMol &m_pattern;

@@ -6,6 +6,8 @@
 #include <QFontMetricsF>
 #include <QRegularExpression>
 
+#include <cmath>
+
 namespace {
 
 constexpr char Typeface[] = "DejaVu Sans";
@@ -36,7 +38,7 @@ QImage blankPicture(int width, int height)
 
 QColor tint(const QColor &colour, double share)
 {
-    const auto mix = [share](int channel) { return int(255 - share * (255 - channel) + 0.5); };
+    const auto mix = [share](int channel) { return int(std::lround(255 - share * (255 - channel))); };
     return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
 }
 

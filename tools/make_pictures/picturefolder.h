@@ -4,12 +4,14 @@
 #include <QImage>
 #include <QString>
 
+#include <utility>
+
 /// The folder "Data" of a program folder. Equal pictures give equal bytes, and a file that already holds them
 /// is left alone, so that its date tells when its picture last changed.
 class PictureFolder
 {
 public:
-    explicit PictureFolder(const QString &root) : m_root(root) {}
+    explicit PictureFolder(QString root) : m_root(std::move(root)) {}
 
     /// Writes @p picture to @p name below the folder, in the format of its suffix: jpg, png, bmp or gif.
     /// Folders are made as needed. Throws PictureError if that fails.

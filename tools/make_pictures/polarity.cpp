@@ -6,6 +6,7 @@
 #include <QLinearGradient>
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -40,7 +41,7 @@ const QColor Polar(0x3b, 0x78, 0xc2);
 /// The colour between the two ends, at @p share of the way to the polar one.
 QColor between(double share)
 {
-    const auto mix = [share](int from, int to) { return int(from + share * (to - from) + 0.5); };
+    const auto mix = [share](int from, int to) { return int(std::lround(from + share * (to - from))); };
     return {mix(NonPolar.red(), Polar.red()), mix(NonPolar.green(), Polar.green()),
             mix(NonPolar.blue(), Polar.blue())};
 }

@@ -29,14 +29,14 @@ struct ClassColour
 
 // The first that fits counts.
 constexpr std::array ClassColours{
-    ClassColour{"C=O|arbonyl|COO\\b", 0xd07820},
-    ClassColour{"halogen|-(F|Cl|Br|I)\\b", 0x1f9a9a},
-    ClassColour{"OH|oxygen|to O\\b|-O\\b|\\(O\\)|acetal", 0xd04040},
-    ClassColour{"NH|nitrogen|to N\\b|-N\\b|[=≡]N\\b|N-CO", 0x4060d0},
-    ClassColour{"SH|sulfur|to S\\b|-S\\b|=S\\b", 0xa8a020},
+    ClassColour{R"(C=O|arbonyl|COO\b)", 0xd07820},
+    ClassColour{R"(halogen|-(F|Cl|Br|I)\b)", 0x1f9a9a},
+    ClassColour{R"(OH|oxygen|to O\b|-O\b|\(O\)|acetal)", 0xd04040},
+    ClassColour{R"(NH|nitrogen|to N\b|-N\b|[=≡]N\b|N-CO)", 0x4060d0},
+    ClassColour{R"(SH|sulfur|to S\b|-S\b|=S\b)", 0xa8a020},
     ClassColour{"Si|metals", 0xb040b0},
     ClassColour{"CO|CHO|ldehyd", 0xd07820},
-    ClassColour{"romatic|aryl|Ar\\b|enzene|aphthal|furan|thiophene|pyr|azole", 0x7b5ea8},
+    ClassColour{R"(romatic|aryl|Ar\b|enzene|aphthal|furan|thiophene|pyr|azole)", 0x7b5ea8},
     ClassColour{"C[=≡]C|lkene|lkyne|=CH", 0x2f8f4e},
 };
 
