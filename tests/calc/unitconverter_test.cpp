@@ -148,6 +148,10 @@ void UnitConverterTest::textsThatAreNoNumber()
     QFETCH(QString, byFormula);
     for (const int tab : {Length, Surface, Volume, Mass, Pressure, Radioactivity})
         QCOMPARE(converted(tab, 0, 1, input), byFactors);
+    for (const int tab : {Energy, Length, Temperature}) { // no unit selected in one of the lists
+        QCOMPARE(converted(tab, -1, 0, QStringLiteral("1")), QString());
+        QCOMPARE(converted(tab, 0, -1, QStringLiteral("1")), QString());
+    }
     for (const int tab : {Energy, Temperature})
         QCOMPARE(converted(tab, 0, 1, input), byFormula);
 }

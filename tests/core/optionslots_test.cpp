@@ -68,7 +68,7 @@ void OptionSlotsTest::readsDelimitedValues_data()
     QTest::newRow("bare words are texts")
         << QByteArray("abc def\r\n") << QList<QString>{"abc def"} << QList<bool>{true};
     QTest::newRow("blanks around values")
-        << QByteArray("  7  \r\n  \"x\"  \r\n") << QList<QString>{"7", "x"} << QList<bool>{false, true};
+        << QByteArray("  7  \r\n\t \"x\" \t\r\n") << QList<QString>{"7", "x"} << QList<bool>{false, true};
     QTest::newRow("other line ends") << QByteArray("1\n2\r3") << QList<QString>{"1", "2", "3"}
                                      << QList<bool>{false, false, false};
     QTest::newRow("an unclosed quote runs to the end")
@@ -164,6 +164,7 @@ void OptionSlotsTest::emptyEqualsZeroAndTextEqualsNoNumber()
     QVERIFY(!Value().equals(1));
     QVERIFY(Value(1).equals(1));
     QVERIFY(!Value(QStringLiteral("1")).equals(1));
+    QCOMPARE(Value().toNumber(), 0.0);
     QCOMPARE(Value(QStringLiteral("10")).toNumber(), 10.0);
     QVERIFY_THROWS_EXCEPTION(RuntimeError, Value(QStringLiteral("ten")).toNumber());
 }

@@ -35,12 +35,14 @@ void TextsTest::codePageGivesEveryByteBack()
 void TextsTest::codePageWritesQuestionMarksForWhatItLacks()
 {
     QCOMPARE(CodePage::encode(QStringLiteral("aα→😀b")), QByteArray("a???b"));
+    // Half of a pair is a character of its own, and takes none of what follows with it.
+    QCOMPARE(CodePage::encode(QChar(0xD83D) + QStringLiteral("a") + QChar(0xD83D)), QByteArray("?a?"));
     QVERIFY(!CodePage::contains(QChar(u'≡')));
 }
 
 void TextsTest::symbolLettersBecomeSigns()
 {
-    QCOMPARE(SymbolText::toUnicode(QStringLiteral("a, b-, b+, e")), QStringLiteral("α, β−, β+, ε"));
+    QCOMPARE(SymbolText::toUnicode(QStringLiteral("a, b-, b+, e, ~é")), QStringLiteral("α, β−, β+, ε, ~é"));
     QCOMPARE(SymbolText::toUnicode(QStringLiteral("DWls")), QStringLiteral("ΔΩλσ"));
 }
 
