@@ -36,11 +36,10 @@ constexpr std::array Samples{
     Sample{"Body-centered cubic", "crystal structure"},
 };
 
-const QString TimeUnits =
-    QStringLiteral("= second     = minute       = hour          = day             = year");
-const QString DecayModes =
-    QStringLiteral("= alpha particle               = negative electron           = positron                  "
-                   "     = electron capture          = isomeric transition       = spontaneous fission");
+constexpr QLatin1StringView TimeUnits("= second     = minute       = hour          = day             = year");
+constexpr QLatin1StringView
+    DecayModes("= alpha particle               = negative electron           = positron                  "
+               "     = electron capture          = isomeric transition       = spontaneous fission");
 
 QFrame *sheet(QWidget *parent)
 {
@@ -122,9 +121,9 @@ QWidget *Formhelp::buildIsotopes()
     example->setFixedHeight(LegendColumn::LineHeight);
     grid->addWidget(example, 1, 0, 1, 2);
     addSigns(*grid, QStringLiteral("Isotope number"), {}, QStringLiteral("* = natural existence"));
-    addSigns(*grid, QStringLiteral("Half-life"), QStringLiteral("s  m  h  d  y"), TimeUnits);
+    addSigns(*grid, QStringLiteral("Half-life"), QStringLiteral("s  m  h  d  y"), QString(TimeUnits));
     addSigns(*grid, QStringLiteral("Decay"), SymbolText::toUnicode(QStringLiteral("a  b-  b+  e  IT  SF")),
-             DecayModes);
+             QString(DecayModes));
     grid->setRowStretch(grid->rowCount(), 1);
     return panel;
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QSize TipSize{430, 132};
 
-const QString TipFile = QStringLiteral("TIPOFDAY_UK.TXT");
+constexpr QLatin1StringView TipFile("TIPOFDAY_UK.TXT");
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -15,7 +16,7 @@ std::int16_t joinedDigits(QString version)
     if (version.isEmpty() || !std::all_of(version.cbegin(), version.cend(), isDigit))
         throw RuntimeError(ErrorNumber::TypeMismatch, version);
     int number = 0;
-    for (const QChar digit : version) {
+    for (const QChar digit : std::as_const(version)) {
         number = 10 * number + digit.digitValue();
         if (number > std::numeric_limits<std::int16_t>::max())
             throw RuntimeError(ErrorNumber::Overflow, version);

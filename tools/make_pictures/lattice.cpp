@@ -12,17 +12,17 @@ constexpr float radians(float degrees)
     return degrees * float(std::numbers::pi) / 180;
 }
 
-const QString AllEqual = QStringLiteral("a = b = c");
-const QString TwoEqual = QStringLiteral("a = b ≠ c");
-const QString NoneEqual = QStringLiteral("a ≠ b ≠ c");
-const QString Right = QStringLiteral("α = β = γ = 90°");
-const QString Hexagon = QStringLiteral("α = β = 90°, γ = 120°");
+constexpr QStringView AllEqual = u"a = b = c";
+constexpr QStringView TwoEqual = u"a = b ≠ c";
+constexpr QStringView NoneEqual = u"a ≠ b ≠ c";
+constexpr QStringView Right = u"α = β = γ = 90°";
+constexpr QStringView Hexagon = u"α = β = 90°, γ = 120°";
 
 /// The cell with the axes given by edge lengths and, in degrees, beta (between a and c).
-Lattice emptyCell(const char *name, const QString &edges, const QString &angles, const QString &note,
+Lattice emptyCell(const char *name, QStringView edges, QStringView angles, const QString &note,
                   QVector3D lengths, float beta = 90)
 {
-    Lattice cell{QString::fromLatin1(name), edges, angles, note, {}, {}, {}, {}, {}};
+    Lattice cell{QString::fromLatin1(name), edges.toString(), angles.toString(), note, {}, {}, {}, {}, {}};
     cell.a = {lengths.x(), 0, 0};
     cell.b = {0, lengths.y(), 0};
     cell.c = QVector3D(std::cos(radians(beta)), 0, std::sin(radians(beta))) * lengths.z();
