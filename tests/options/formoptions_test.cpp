@@ -165,7 +165,7 @@ void FormoptionsTest::everyBoxShowsAndStoresItsSlotAlone()
         bench.press("XPButton1");
         for (int slot = 0; slot < 90; ++slot)
             QVERIFY2(bench.module.OptionSlots(slot) == Value(slot == box.slot ? 1 : 0), box.control);
-        QCOMPARE(bench.writtenOptions()[box.slot], QByteArray("1\r"));
+        QCOMPARE(bench.writtenOptions().at(box.slot), QByteArray("1\r"));
     }
 }
 
@@ -286,7 +286,7 @@ void FormoptionsTest::okAppliesAndWritesInOrder()
                           QStringLiteral("graduation"), QStringLiteral("pointer"), QStringLiteral("picture"),
                           QStringLiteral("empty")}));
     QVERIFY(bench.store.lists.ListView9.gridLines());
-    QCOMPARE(bench.writtenOptions()[53], QByteArray("1\r"));
+    QCOMPARE(bench.writtenOptions().at(53), QByteArray("1\r"));
     QVERIFY(bench.isUnloaded());
 }
 
