@@ -140,7 +140,7 @@ void InstallTest::theLauncherStartsTheProgramOfTheSystemTree()
     QSet<QString> assembled = files(QStringLiteral(ALEMBRA_FOLDER));
     assembled.remove(u"Tempo.net"_s);
     const QSet<QString> missing = assembled - files(mine);
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.values().join(u'\n')));
+    QVERIFY2(missing.isEmpty(), qPrintable(QStringList(missing.cbegin(), missing.cend()).join(u'\n')));
 }
 
 // Menu entry, icons and manual page name one another and the launcher.
