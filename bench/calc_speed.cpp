@@ -13,7 +13,8 @@ namespace {
 constexpr double ConversionTarget = 1.5;
 constexpr double SolverTarget = 2;
 
-const QString Input = QStringLiteral("123.456");
+// Made before anything is measured.
+const QString Input = QStringLiteral("123.456"); // clazy:exclude=non-pod-global-static
 constexpr double Result = 123.456 / 7;
 
 void bareNumbers(int read, int written)

@@ -169,7 +169,7 @@ void LooksTest::everySideWindow()
 {
     setLooks();
     const ProgramFolder folder;
-    walk(folder, [this, &folder](Form1 &form) {
+    walk(folder, [this](Form1 &form) {
         openAndLook(form, [&] { form.executeCommand(1122); });
         openAndLook(form, [&] { form.executeCommand(1058); });
         openAndLook(form, [&] {
@@ -193,7 +193,7 @@ void LooksTest::everySideWindow()
         for (const auto &[command, opener] :
              {std::pair(1142, "Command1"), {1144, "Command1"}, {1141, "Command2"}}) {
             form.executeCommand(command);
-            openAndLook(form, [&] { control(form, opener).click(); });
+            openAndLook(form, [&form, name = opener] { control(form, name).click(); });
         }
     });
     verifyNothingFound();
