@@ -175,13 +175,14 @@ void ReportsTest::biochemistryInColours()
         add(lists[staining], QString("Fix %1").arg(staining));
         add(lists[staining], "Ethanol||50 mL");
     }
+    add(lists[20], "Acid|1 %|");
     turnOn(Slot::ReportColours);
     turnOn(Slot::ReportSdsPage);
     turnOn(Slot::ReportGeneticCode);
     const QString bases = "15 Name|10 Formula |13 Molar mass (g/mol) |6 pK1|6 pK2|6 pK3|13 Solubility (g/kg)";
     const QString staining = "40 Composition|30 Final concentration|30 Quantity";
-    const auto indented = [](const QString &cells) {
-        return row("tnoteven", "@" + cells)
+    const auto indented = [](const QString &cells, const QString &rowClass = "tnoteven") {
+        return row(rowClass, "@" + cells)
             .replace(QRegularExpression("@([^<]*)"), "<span style=margin-left:30px;>\\1</span>");
     };
 
@@ -217,7 +218,7 @@ void ReportsTest::biochemistryInColours()
     page += section("SDS-PAGE - Staining (Coomassie blue)", staining,
                     row("teven", "Fix 19||") + indented("Ethanol||50 mL"));
     page += section("SDS-PAGE - Staining (Silver)", staining,
-                    row("teven", "Fix 20||") + indented("Ethanol||50 mL"));
+                    row("teven", "Fix 20||") + indented("Ethanol||50 mL") + indented("Acid|1 %|", "teven"));
     page +=
         R"(<br><div align="center"><img src=file:////opt/my%20lab/Alembra%20uk\Data\img\gene_c.jpg><br><br>
 <hr width="100%" noshade size="1"></div>
