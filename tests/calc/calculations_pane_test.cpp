@@ -1,116 +1,14 @@
-#include "calc/calculationspane.h"
+#include "calcwindow.h"
 
 #include "calc/calctabs.h"
-#include "calc/unitlists.h"
-#include "core/controls.h"
-#include "core/module1.h"
-#include "core/tabstrip.h"
 #include "core/textboxm.h"
-#include "store/rowlists.h"
-#include "store/rowlistview.h"
-#include "tests/support/scripteddesktop.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
-#include <QScrollBar>
-#include <QTest>
-
-#include <map>
 
 using namespace CalcFields;
 
-/// A window with the pane in it and units of the delivered names.
-class Window final : public QWidget
-{
-public:
-    Window()
-    {
-        module.OptionSlots.read(QStringLiteral(ALEMBRA_SOURCE "/data/program/options_uk.ini"));
-        units.fill(module.OptionSlots, module.UnitItemCount);
-        pane.show();
-        show();
-    }
-
-    template<class W>
-    W &get(const QString &name) const
-    {
-        auto *control = findChild<W *>(name);
-        Q_ASSERT_X(control, "Window", qPrintable(name));
-        return *control;
-    }
-    QLineEdit &field(const QString &name) const { return get<QLineEdit>(name); }
-    QString text(const QString &name) const { return field(name).text(); }
-    bool isShown(const QString &name) const { return Controls::isShown(get<QWidget>(name)); }
-
-    /// The labels `lbl2` on show as they are read, line by line: index, caption and the field that stands
-    /// under it.
-    QString places() const
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        std::map<std::pair<int, int>, QString> places; // by top and left
-        for (int index = 0; index < 18; ++index) {
-            const auto &label = get<QLabel>(QStringLiteral("lbl2(%1)").arg(index));
-            if (!Controls::isShown(label))
-                continue;
-            const QWidget &field = *label.buddy();
-            const bool isOver = label.x() == field.x() && label.geometry().bottom() < field.y();
-            places[{label.y(), label.x()}] +=
-                QStringLiteral("%1 %2 %3")
-                    .arg(index)
-                    .arg(label.text(), isOver ? field.objectName() : QStringLiteral("astray"));
-        }
-        QString text;
-        for (auto place = places.begin(); place != places.end(); ++place) {
-            const bool isNewLine =
-                place != places.begin() && std::prev(place)->first.first != place->first.first;
-            text += QLatin1String(text.isEmpty() ? "" : isNewLine ? " / " : ", ") + place->second;
-        }
-        return text;
-    }
-
-    void type(const QString &name, const QString &keys) const
-    {
-        field(name).setFocus();
-        QTest::keyClicks(&field(name), keys);
-    }
-    void clickTab(const QString &strip, int tab) const
-    {
-        auto &tabs = get<TabStrip>(strip);
-        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
-    }
-    void clickUnit(const QString &list, int row) const
-    {
-        auto &names = get<QListWidget>(list);
-        names.scrollToItem(names.item(row));
-        QTest::mouseClick(names.viewport(), Qt::LeftButton, {},
-                          names.visualItemRect(names.item(row)).center());
-    }
-    void press(const QString &button) const { QTest::mouseClick(&get<QPushButton>(button), Qt::LeftButton); }
-
-    /// What the pane said since the last time it was asked.
-    QStringList messages()
-    {
-        QStringList texts;
-        for (const auto &[text, style] : std::exchange(desktop.boxes, {})) {
-            texts << text;
-            if (style != Desktop::Warning)
-                texts << QStringLiteral("style %1").arg(style);
-        }
-        return texts;
-    }
-
-    Module1 module;
-    ScriptedDesktop desktop;
-    RowLists lists;
-    UnitLists units;
-    CalculationsPane pane{module, desktop, lists, units, this};
-};
-
+/// The calculators of the pane.
 class CalculationsPaneTest final : public QObject
 {
     Q_OBJECT
@@ -127,17 +25,12 @@ private Q_SLOTS:
     void aLiquidEmptiesItsTabAndChangesTheResult();
     void theDeltaStandsInTheGapOfItsFormula();
     void everyFieldHasItsLabel();
-    void conversionsFollowTheKeysAndTheLists();
-    void aPastedNumberConvertsAtOnce();
-    void theResultOfAConversionTakesNoKeys();
-    void aUnitWithoutItsSymbolEndsInTheReport();
-    void constantsAndUnitsShowOneListATab();
     void anOkOfTheOptionsEmptiesTheEntries();
 };
 
 void CalculationsPaneTest::enterCalculatesAndASecondTimeComplains()
 {
-    Window window;
+    CalcWindow window;
     window.type(QStringLiteral("TextBoxM4"), QStringLiteral("18"));
     window.type(QStringLiteral("TextBoxM5"), QStringLiteral("18.015"));
     QTest::keyClick(&window.field(QStringLiteral("TextBoxM5")), Qt::Key_Return);
@@ -177,7 +70,7 @@ void CalculationsPaneTest::aTabShowsItsOwnControlsAloneEachInItsPlace()
 {
     QFETCH(int, tab);
     QFETCH(QString, places);
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), tab == 3 ? 1 : 3);
     window.clickTab(QStringLiteral("TabStrip4"), tab);
 
@@ -197,7 +90,7 @@ void CalculationsPaneTest::aTabShowsItsOwnControlsAloneEachInItsPlace()
 
 void CalculationsPaneTest::aTabClickEmptiesItsFieldsAndKeepsThoseOfDilutionAndPressure()
 {
-    Window window;
+    CalcWindow window;
     const QString strip = QStringLiteral("TabStrip4");
     window.clickTab(strip, 4);
     window.type(QStringLiteral("TextBoxM7(8)"), QStringLiteral("0.5"));
@@ -215,7 +108,7 @@ void CalculationsPaneTest::aTabClickEmptiesItsFieldsAndKeepsThoseOfDilutionAndPr
 
 void CalculationsPaneTest::clearEmptiesTheFieldsOfAllTabs()
 {
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 6);
     window.get<QRadioButton>(QStringLiteral("Option10(1)")).click();
     for (const Field field : CalcTabs::clearingOrder())
@@ -231,7 +124,7 @@ void CalculationsPaneTest::clearEmptiesTheFieldsOfAllTabs()
 
 void CalculationsPaneTest::fractionsFollowTheKeys()
 {
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 5);
     window.type(QStringLiteral("TextBoxM7(0)"), QStringLiteral(".3"));
     QCOMPARE(window.text(QStringLiteral("TextBoxM7(0)")), QStringLiteral("0.3"));
@@ -251,7 +144,7 @@ void CalculationsPaneTest::fractionsFollowTheKeys()
 
 void CalculationsPaneTest::aRatioThatTheCalculationWritesIsWatchedToo()
 {
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 4);
     window.type(QStringLiteral("TextBoxM7(6)"), QStringLiteral("9"));
     window.type(QStringLiteral("TextBoxM7(8)"), QStringLiteral("10"));
@@ -264,7 +157,7 @@ void CalculationsPaneTest::aRatioThatTheCalculationWritesIsWatchedToo()
 
 void CalculationsPaneTest::theFirstChangeBringsTheDecimalsOfTheOptions()
 {
-    Window window;
+    CalcWindow window;
     window.module.OptionSlots(Slot::Decimals) = 2;
     window.clickTab(QStringLiteral("TabStrip4"), 4);
     window.type(QStringLiteral("TextBoxM7(6)"), QStringLiteral("1.2345"));
@@ -275,7 +168,7 @@ void CalculationsPaneTest::theFirstChangeBringsTheDecimalsOfTheOptions()
 
 void CalculationsPaneTest::aLiquidEmptiesItsTabAndChangesTheResult()
 {
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 6);
     QVERIFY(window.get<QRadioButton>(QStringLiteral("Option10(3)")).isChecked());
     QStringList pressures;
@@ -294,7 +187,7 @@ void CalculationsPaneTest::aLiquidEmptiesItsTabAndChangesTheResult()
 
 void CalculationsPaneTest::theDeltaStandsInTheGapOfItsFormula()
 {
-    Window window;
+    CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 6);
     const auto &delta = window.get<QLabel>(QStringLiteral("lbln(0)"));
     const auto &formula = window.get<QLabel>(QStringLiteral("lbln(3)"));
@@ -311,7 +204,7 @@ void CalculationsPaneTest::theDeltaStandsInTheGapOfItsFormula()
 
 void CalculationsPaneTest::everyFieldHasItsLabel()
 {
-    Window window;
+    CalcWindow window;
     QStringList labelled;
     for (const QLabel *label : window.findChildren<QLabel *>()) {
         if (label->buddy())
@@ -321,92 +214,9 @@ void CalculationsPaneTest::everyFieldHasItsLabel()
         QVERIFY2(labelled.contains(field->objectName()), qPrintable(field->objectName()));
 }
 
-void CalculationsPaneTest::conversionsFollowTheKeysAndTheLists()
-{
-    Window window;
-    const QString input = QStringLiteral("TextBoxM1");
-    const QString result = QStringLiteral("TextBoxM2");
-    QCOMPARE(window.text(result), QStringLiteral("0"));
-    window.clickUnit(QStringLiteral("List1"), 12);
-    QCOMPARE(window.text(result), QStringLiteral("0"));
-    window.type(input, QStringLiteral("1"));
-    QCOMPARE(window.text(result), QStringLiteral("1609.344"));
-    window.clickUnit(QStringLiteral("List2"), 0);
-    QCOMPARE(window.text(result), QStringLiteral("1.609344"));
-    QTest::keyClick(&window.get<QListWidget>(QStringLiteral("List2")), Qt::Key_Down);
-    QCOMPARE(window.text(result), QStringLiteral("16.09344"));
-
-    window.clickTab(QStringLiteral("TabStrip3"), 5);
-    QCOMPARE(window.focusWidget()->objectName(), input);
-    QCOMPARE(window.text(input), QString());
-    QCOMPARE(window.text(result), QStringLiteral("0"));
-    for (int list = 1; list <= UnitLists::Count; ++list)
-        QCOMPARE(window.isShown(QStringLiteral("List%1").arg(list)), list == 7 || list == 8);
-    window.type(input, QStringLiteral("-"));
-    QCOMPARE(window.text(result), QString());
-    window.type(input, QStringLiteral("40"));
-    QCOMPARE(window.text(result), QStringLiteral("-40"));
-    window.field(input).selectAll();
-    QTest::keyClick(&window.field(input), Qt::Key_Delete);
-    QCOMPARE(window.text(result), QStringLiteral("0"));
-
-    window.clickTab(QStringLiteral("TabStrip3"), 1);
-    QCOMPARE(window.get<QListWidget>(QStringLiteral("List1")).currentRow(), 12);
-}
-
-void CalculationsPaneTest::aPastedNumberConvertsAtOnce()
-{
-    Window window;
-    QGuiApplication::clipboard()->setText(QStringLiteral(" 2.5\n"));
-    window.field(QStringLiteral("TextBoxM1")).paste();
-    QCOMPARE(window.text(QStringLiteral("TextBoxM1")), QStringLiteral("2.5"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM2")), QStringLiteral("2500"));
-}
-
-void CalculationsPaneTest::theResultOfAConversionTakesNoKeys()
-{
-    Window window;
-    window.type(QStringLiteral("TextBoxM2"), QStringLiteral("-.5"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM2")), QStringLiteral("0"));
-}
-
-void CalculationsPaneTest::aUnitWithoutItsSymbolEndsInTheReport()
-{
-    Window window;
-    window.clickTab(QStringLiteral("TabStrip3"), 2);
-    window.type(QStringLiteral("TextBoxM1"), QStringLiteral("1"));
-    window.get<QListWidget>(QStringLiteral("List1")).currentItem()->setText(QStringLiteral("kilometer"));
-    QVERIFY_THROWS_EXCEPTION(ProcessEnded, window.get<TabStrip>(QStringLiteral("TabStrip3")).selectTab(1));
-    QVERIFY(window.desktop.boxes.constFirst().first.startsWith(QLatin1String("Run-time error '9'")));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM1")), QStringLiteral("1"));
-}
-
-void CalculationsPaneTest::constantsAndUnitsShowOneListATab()
-{
-    Window window;
-    const auto shown = [&](const QString &array, int count) {
-        QList<int> indices;
-        for (int index = 0; index < count; ++index) {
-            if (window.isShown(QStringLiteral("%1(%2)").arg(array).arg(index)))
-                indices << index;
-        }
-        return indices;
-    };
-    for (int tab = 5; tab >= 1; --tab) {
-        window.clickTab(QStringLiteral("TabStrip6"), tab);
-        QCOMPARE(shown(QStringLiteral("ListView2"), 5), QList<int>{tab - 1});
-    }
-    for (int tab = 7; tab >= 1; --tab) {
-        window.clickTab(QStringLiteral("TabStrip5"), tab);
-        QCOMPARE(shown(QStringLiteral("ListView7"), 7), QList<int>{tab - 1});
-        QCOMPARE(window.isShown(QStringLiteral("Label2(29)")), tab != 1);
-        QCOMPARE(window.isShown(QStringLiteral("Label2(38)")), tab != 1 && tab != 6);
-    }
-}
-
 void CalculationsPaneTest::anOkOfTheOptionsEmptiesTheEntries()
 {
-    Window window;
+    CalcWindow window;
     for (const Field field : CalcTabs::clearingOrder())
         window.field(CalcTabs::name(field)).setText(QStringLiteral("0.5"));
     window.type(QStringLiteral("TextBoxM1"), QStringLiteral("1"));
