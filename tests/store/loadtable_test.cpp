@@ -2,6 +2,8 @@
 #include "store/datastore.h"
 #include "store/gridlines.h"
 #include "store/loadtable.h"
+#include "store/tablecatalog.h"
+#include "tests/support/tsvsource.h"
 
 #include <QTest>
 
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void onlyAMissingTableIsTold_data();
     void onlyAMissingTableIsTold();
     void indicatorTallySplitsByList();
+    void everyGroupGoesToItsList();
     void gridLinesAreSwitchedAsymmetrically();
 
 private:
@@ -258,6 +261,27 @@ void LoadTableTest::indicatorTallySplitsByList()
     QCOMPARE(store.tallies.acidBaseIndicators,
              store.lists.ListView3[0].rowCount() + store.lists.ListView3[1].rowCount());
     QCOMPARE(store.tallies.fluorescentIndicators, store.lists.ListView3[6].rowCount());
+}
+
+void LoadTableTest::everyGroupGoesToItsList()
+{
+    DataStore store;
+    for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step)
+        TsvSource::load(step, TableCatalog::table(step), store);
+    const auto sizes = [](const auto &lists, int count) {
+        QStringList rows;
+        for (int index = 0; index < count; ++index)
+            rows << QString::number(lists[index].rowCount());
+        return rows.join(QLatin1Char(' '));
+    };
+    QCOMPARE(sizes(store.lists.ListView2, 5), QStringLiteral("10 6 14 11 4"));
+    QCOMPARE(sizes(store.lists.ListView7, 7), QStringLiteral("7 13 13 8 24 4 6"));
+    // Redox couples and infrared bands are of any number.
+    const auto &rows = store.tallies.rows;
+    const QString expected =
+        QStringLiteral("60 63 51 92 %1 66 56 242 318 20 53 6 33 7 73 250 418 5 25 21 30 47 47 31 "
+                       "159 89 200 %2 192 96 0 59");
+    QCOMPARE(sizes(store.lists.ListView3, 32), expected.arg(rows[12]).arg(rows[31]));
 }
 
 void LoadTableTest::gridLinesAreSwitchedAsymmetrically()
