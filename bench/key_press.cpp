@@ -10,7 +10,7 @@
 namespace {
 
 constexpr double SearchTarget = 1.5;
-constexpr double ConversionTarget = 1.5;
+constexpr double ConversionTarget = 2;
 constexpr int ShowSolvents = 1119;
 constexpr int ShowCalculations = 1120;
 constexpr int Find = 1121;
