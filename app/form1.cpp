@@ -197,6 +197,7 @@ void Form1::connectTray()
 
 void Form1::load(frmload &splash, TableLoader &loader)
 {
+    splash.showAndPause(m_desktop);
     splash.ProgressTick();
     m_tray.load();
     m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);

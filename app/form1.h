@@ -33,8 +33,7 @@ public:
     Form1(Module1 &module, DataStore &store, Desktop &desktop);
     ~Form1() override;
 
-    /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash, which
-    /// is on show.
+    /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
     void load(frmload &splash, TableLoader &loader);
 
     /// `Formoptions`, made on demand.

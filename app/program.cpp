@@ -33,7 +33,6 @@ int Main(Desktop &desktop, const QString &appFolder)
         store, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },
         [&] { recovery.offerAfterMissingTable(); });
     frmload splash;
-    splash.showAndPause(desktop); // first of all: painting it looks for the fonts, in the time of the pause
     Form1 form(module, store, desktop);
     QObject::connect(&instance, &SingleInstance::activated, &form, &Form1::restoreAndRaise);
     form.load(splash, loader);
