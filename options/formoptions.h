@@ -55,6 +55,6 @@ private:
     OptionsTarget &m_target;
 
     TabStrip *TabStrip1 = nullptr; ///< null until the controls are built
-    DatabaseTab *frmbdd;
-    StatisticsTab *frmstat;
+    DatabaseTab *frmbdd = nullptr;
+    StatisticsTab *frmstat = nullptr;
 };
