@@ -45,7 +45,7 @@ struct ValueRow
 {
     int index; ///< of `lblatome`
     const char *caption;
-    const char *note; ///< in a line of its own, small, below the value
+    const char *note; ///< in a line of its own below the value, told from it by its weight
 };
 
 constexpr std::array<ValueRow, 13> ValueRows{{
@@ -123,7 +123,7 @@ void DataPanel::buildRows()
         value->setAccessibleDescription(QString::fromUtf8(row.caption));
         addValue(row.index, value);
         if (row.note) {
-            QLabel *note = text(QLatin1StringView(row.note), sized(font(), 0.8), line);
+            QLabel *note = text(QLatin1StringView(row.note), font(), line);
             note->setGeometry(ValueLeft - Edge, LineHeight - 4, Width - ValueLeft - 4, 16);
         }
         top += height;

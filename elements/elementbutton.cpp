@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTransform>
 
 namespace {
 
@@ -15,11 +16,11 @@ bool isArrow(int key)
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
-// A desktop without the typeface draws in its own. To look for a like one takes it as long as the whole
-// table.
+// A desktop without the typeface draws in its own. To look for a like one, or only to ask whether there is
+// one, takes it as long as the whole table.
 QFont drawnFont(QFont font)
 {
-    static const bool installed = QFontDatabase::hasFamily(font.family());
+    static const bool installed = QFontDatabase::families().contains(font.family());
     if (!installed)
         font.setFamilies(QApplication::font().families());
     return font;
@@ -53,11 +54,12 @@ void ElementButton::paintEvent(QPaintEvent *)
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
-    QFont drawn = drawnFont(font());
-    if (text().size() > 2)
-        drawn.setPixelSize(drawn.pixelSize() * 4 / 5);
-    painter.setFont(drawn);
-    painter.drawText(rect(), Qt::AlignCenter, text());
+    painter.setFont(drawnFont(font()));
+    QTransform size;
+    if (text().size() > 2) // the drawing is smaller, not the type: one more size of it would slow the start
+        size.scale(0.8, 0.8);
+    painter.setTransform(size, true);
+    painter.drawText(size.inverted().mapRect(rect()), Qt::AlignCenter, text());
 }
 
 void ElementButton::keyPressEvent(QKeyEvent *event)
