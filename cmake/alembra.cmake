@@ -67,6 +67,27 @@ function(alembra_library name)
     alembra_precompile(${name})
 endfunction()
 
+# alembra_draw_icons(<variable> <format> <sizes> <svg>...): the icons drawn into the build folder; <variable> gets their
+# files, by drawing and by size. See tools/draw_icons.
+function(alembra_draw_icons variable format sizes)
+    set(files)
+    foreach(icon IN LISTS ARGN)
+        cmake_path(GET icon STEM LAST_ONLY name)
+        foreach(size IN LISTS sizes)
+            list(APPEND files "${CMAKE_CURRENT_BINARY_DIR}/${name}-${size}.${format}")
+        endforeach()
+    endforeach()
+    list(JOIN sizes "," sizes)
+    add_custom_command(
+        OUTPUT ${files}
+        COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0
+                $<TARGET_FILE:draw_icons> "${CMAKE_CURRENT_BINARY_DIR}" ${format} ${sizes} ${ARGN}
+        DEPENDS draw_icons ${ARGN}
+        COMMENT "Drawing icons"
+        VERBATIM)
+    set(${variable} ${files} PARENT_SCOPE)
+endfunction()
+
 # alembra_test(<name> SOURCES <files> LINK <targets>): one Qt test program, run offscreen in the C locale.
 function(alembra_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})

@@ -6,20 +6,36 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QResource>
 #include <QSvgRenderer>
 
 // Resources of a static library are registered by hand, outside any namespace.
 static void registerIcons()
 {
     Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(drawnicons);
 }
 
 namespace {
 
+const auto Svg = QLatin1StringView(".svg");
+
 QString pathOf(const QString &name)
 {
     registerIcons();
-    return QStringLiteral(":/icons/%1.svg").arg(name);
+    return QStringLiteral(":/icons/") + name;
+}
+
+/// The picture of this size that the build has drawn; none for sizes that are seldom asked for.
+QImage drawnAtBuild(const QString &path, QSize size)
+{
+    constexpr int BytesPerPixel = 4;
+    const QResource pixels(QStringLiteral("%1-%2.argb").arg(path).arg(size.width()));
+    if (size.height() != size.width() ||
+        pixels.size() != qint64(size.width()) * size.height() * BytesPerPixel)
+        return {};
+    const QImage inProgram(pixels.data(), size.width(), size.height(), QImage::Format_ARGB32_Premultiplied);
+    return inProgram.copy(); // nothing says that its pixels begin there at a multiple of four
 }
 
 /// Draws a drawing at the size that is asked for, once.
@@ -56,15 +72,17 @@ protected:
 
     virtual QPixmap draw(const QSize &size, QIcon::Mode) const
     {
+        if (const QImage drawn = drawnAtBuild(m_path, size); !drawn.isNull())
+            return QPixmap::fromImage(drawn);
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
-        QSvgRenderer(m_path).render(&painter);
+        QSvgRenderer(m_path + Svg).render(&painter);
         return picture;
     }
 
 private:
-    const QString m_path;
+    const QString m_path; ///< without its ending
 };
 
 /// Draws an icon's lines in the palette's colour of the moment.
@@ -112,7 +130,7 @@ public:
 QIcon Icons::named(const QString &name)
 {
     const QString path = pathOf(name);
-    return QFile::exists(path) ? QIcon(new TintedIconEngine(path)) : QIcon();
+    return QFile::exists(path + Svg) ? QIcon(new TintedIconEngine(path)) : QIcon();
 }
 
 QIcon Icons::program()
