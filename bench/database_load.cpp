@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr double LoadTarget = 2; // a page, its rows and their cells are each looked at once on the way
+constexpr double LoadTarget = 1.5; // a page, its rows and their cells are each looked at once on the way
 constexpr double GrowthTarget = 1.1;
 constexpr int ImpurityShifts = 2; // the step of `RMN1H`: ten columns, every row goes to one list
 
@@ -36,7 +36,7 @@ QList<QList<QByteArray>> cells()
     return rows;
 }
 
-/// What no load can do without: the bytes of the file, and a text for each cell.
+/// What a plain program would do: read the bytes of the file, and make a text for each cell.
 qsizetype bareDecode(const QList<QList<QByteArray>> &cells)
 {
     QFile file(ProgramData::database());

@@ -22,7 +22,7 @@ int byteOf(char16_t c)
 
 } // namespace
 
-QByteArray CodePage::encode(const QString &text)
+QByteArray CodePage::encode(QStringView text)
 {
     QByteArray bytes(text.size(), Qt::Uninitialized);
     char *out = bytes.data();

@@ -7,7 +7,7 @@
 namespace CodePage {
 
 /// A character that the code page lacks goes out as "?".
-QByteArray encode(const QString &text);
+QByteArray encode(QStringView text);
 
 /// The five bytes without a character of their own become the control characters of the same number, so that
 /// every byte survives the way in and out again.

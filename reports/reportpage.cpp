@@ -12,8 +12,8 @@ struct StyleRule
     const char *grayscale; ///< null: the same
 };
 
-// The body of Grayscale is white on white; font tags and row classes make it readable. No report uses the rules
-// for links and digits; they stay.
+// The body of Grayscale is white on white; font tags and row classes make it readable. No report uses the
+// rules for links and digits; they stay.
 constexpr std::array StyleRules{
     StyleRule{"body { background: #4F687D; font-family : Verdana, Arial, Helvetica; color: #FFFFFF }",
               "body { background: #FFFFFF; font-family : Verdana, Arial, Helvetica; color: #FFFFFF }"},
@@ -134,7 +134,7 @@ void ReportPage::startRow()
     m_bytes += ">\r\n";
 }
 
-void ReportPage::cell(const QString &text)
+void ReportPage::cell(QStringView text)
 {
     m_bytes += "<td>";
     m_bytes += CodePage::encode(text);

@@ -44,7 +44,7 @@ public:
     void openTable(const QStringList &head);
     void headerRow(const QStringList &head);
     void startRow();
-    void cell(const QString &text);
+    void cell(QStringView text);
     void endRow();
     void closeTable();
 

@@ -18,7 +18,7 @@ QStringList titleCells(const QList<ReportColumn> &columns)
 
 bool lacksText(const RowList &list, int row)
 {
-    return list.text(row).isEmpty();
+    return list.cell(row, 0).isEmpty();
 }
 
 void writeTable(ReportPage &page, const RowList &list, const ReportTable &table)
@@ -29,11 +29,11 @@ void writeTable(ReportPage &page, const RowList &list, const ReportTable &table)
             continue;
         page.startRow();
         if (!table.isPlain || table.isPlain(list, row))
-            page.cell(list.text(row));
+            page.cell(list.cell(row, 0));
         else
             page.cell("<span style=margin-left:30px;>" + list.text(row) + "</span>");
         for (int number = 1; number <= table.subItems; ++number)
-            page.cell(list.subItem(row, number));
+            page.cell(list.cell(row, number));
         page.endRow();
     }
     page.closeTable();

@@ -30,7 +30,7 @@ bool lacksText(const RowList &list, int row);
 template<int... Numbers>
 bool lacks(const RowList &list, int row)
 {
-    return (list.subItem(row, Numbers).isEmpty() && ...);
+    return (list.cell(row, Numbers).isEmpty() && ...);
 }
 
 /// How a list becomes a data table. Sub-items beyond those named are not written.

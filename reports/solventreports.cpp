@@ -59,11 +59,11 @@ void Reports::Properties(ReportPage &page, const DataStore &data)
     page.openTable(head);
     for (int row = 0; row < list.rowCount(); ++row) {
         page.startRow();
-        page.cell(list.text(row));
-        page.cell(list.subItem(row, 1));
+        page.cell(list.cell(row, 0));
+        page.cell(list.cell(row, 1));
         page.line("<td nowrap>" + list.subItem(row, 2) + "</td>");
         for (int number = 3; number <= 6; ++number)
-            page.cell(list.subItem(row, number));
+            page.cell(list.cell(row, number));
         if (structures)
             page.line(structureCell(page, list.text(row)));
         page.endRow();

@@ -12,7 +12,7 @@ void Find::gather(const RowList &searched, int limit, const QString &text,
     hits.clear();
     const auto tellViews = qScopeGuard([&hits] { hits.filled(); });
     for (int SearchCursor = 1; SearchCursor <= limit; ++SearchCursor) {
-        const QString &row = searched.text(SearchCursor - 1);
+        const QStringView row = searched.cell(SearchCursor - 1, 0);
         if (row.contains(text, caseSensitivity))
             hits.append(row);
     }
@@ -30,8 +30,8 @@ std::optional<Find::Position> Find::walk(const RowList &searched, const RowList 
         throw RuntimeError(ErrorNumber::Overflow);
     if (next)
         found.row = found.hit;
-    const QString &wanted = hits.text(found.hit - 1);
-    while (searched.text(found.row - 1) != wanted)
+    const QStringView wanted = hits.cell(found.hit - 1, 0);
+    while (searched.cell(found.row - 1, 0) != wanted)
         found.row += step;
     return found;
 }

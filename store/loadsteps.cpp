@@ -66,7 +66,7 @@ template<int Rows, int Columns>
 void storeRow(TextTable<Rows, Columns> &table, int row, const RowSource &rows, int fieldCount)
 {
     for (int field = 0; field < fieldCount; ++field)
-        table(row, field) = rows.field(field);
+        table(row, field) = rows.field(field).toString();
 }
 
 void storeElement(const RowSource &rows, DataStore &data, int row)
@@ -88,7 +88,7 @@ void storeCodons(const RowSource &rows, DataStore &data, int row)
 void storeRingColour(const RowSource &rows, DataStore &data, int row)
 {
     storeRow(data.tables.ResistorColourData, row, rows, 8);
-    const QString colour = rows.field(0);
+    const QStringView colour = rows.field(0);
     const auto add = [&](int list, bool wanted) {
         if (wanted)
             data.lists.Combo2[list].append(colour);
@@ -255,9 +255,8 @@ private:
     {
         if (target && target->list) {
             RowList &list = target->list(m_data.lists);
-            const auto cells = target->fields.size();
-            list.append(m_rows.field(target->fields.constFirst()), cells);
-            for (qsizetype cell = 1; cell < cells; ++cell)
+            list.append(m_rows.field(target->fields.constFirst()));
+            for (qsizetype cell = 1; cell < target->fields.size(); ++cell)
                 list.appendSubItem(m_rows.field(target->fields[cell]));
         }
         if (m_step.handler)

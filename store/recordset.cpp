@@ -26,19 +26,23 @@ void Recordset::fetch()
     m_atEnd = true;
     if (!m_cursor->next())
         return;
-    for (qsizetype index = 0; index < m_columns.size(); ++index)
-        m_fields[index] = m_cursor->text(m_columns.at(index));
+    m_texts.truncate(0); // and keeps its room
+    for (qsizetype index = 0; index < m_columns.size(); ++index) {
+        const bool isNull = !m_cursor->appendText(m_columns.at(index), m_texts);
+        m_fields[index] = {m_texts.size(), isNull};
+    }
     m_atEnd = false;
 }
 
-QString Recordset::field(int index) const
+QStringView Recordset::field(int index) const
 {
     if (m_atEnd)
         throw RuntimeError(ErrorNumber::PastEnd);
     Q_ASSERT(index >= 0 && index < m_fields.size());
-    if (!m_fields[index])
+    if (m_fields[index].isNull)
         throw RuntimeError(ErrorNumber::InvalidNull, m_columns[index].name);
-    return *m_fields[index];
+    const qsizetype begin = index == 0 ? 0 : m_fields[index - 1].end;
+    return QStringView(m_texts).sliced(begin, m_fields[index].end - begin);
 }
 
 void Recordset::moveNext()

@@ -19,16 +19,24 @@ public:
     Recordset(const QString &statement, const DatabaseConnection &connection);
 
     bool atEnd() const override { return m_atEnd; }
-    QString field(int index) const override;
+    QStringView field(int index) const override;
 
     /// Damage to the next row is RuntimeError DatabaseFailure; the recordset is then at its end.
     void moveNext() override;
 
 private:
+    /// Where a field's text ends; it begins where the one before ends.
+    struct Field
+    {
+        qsizetype end = 0;
+        bool isNull = false;
+    };
+
     void fetch();
 
     QList<JetColumn> m_columns;
     std::optional<JetCursor> m_cursor;
-    QList<std::optional<QString>> m_fields;
+    QString m_texts; ///< of all fields of the row, one behind the other
+    QList<Field> m_fields;
     bool m_atEnd = false;
 };

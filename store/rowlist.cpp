@@ -2,26 +2,35 @@
 
 #include "core/runtimeerror.h"
 
-const QStringList &RowList::row(int row) const
+QStringView RowList::cell(int row, int number) const
 {
     if (row < 0 || row >= rowCount())
         throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("row %1").arg(row + 1));
-    return m_rows[row];
+    const qsizetype cell = m_firstCells[row] + number;
+    const qsizetype nextRow = row + 1 < rowCount() ? m_firstCells[row + 1] : m_ends.size();
+    if (number < 0 || cell >= nextRow)
+        return {};
+    const qsizetype begin = cell == 0 ? 0 : m_ends[cell - 1];
+    return QStringView(m_texts).sliced(begin, m_ends[cell] - begin);
 }
 
-const QString &RowList::text(int row) const
+void RowList::append(QStringView text)
 {
-    return this->row(row).constFirst();
+    m_firstCells.append(m_ends.size());
+    appendSubItem(text);
 }
 
-QString RowList::subItem(int row, int number) const
+void RowList::appendSubItem(QStringView text)
 {
-    return this->row(row).value(number);
+    m_texts.append(text);
+    m_ends.append(m_texts.size());
 }
 
 void RowList::clear()
 {
-    m_rows.clear();
+    m_texts.clear();
+    m_ends.clear();
+    m_firstCells.clear();
     filled();
 }
 

@@ -64,10 +64,10 @@ RowListDelegate::RowListDelegate(const RowList &list, const QList<ListColumn> &c
 
 bool RowListDelegate::isHeading(int row) const
 {
-    if (!m_recipes || m_list.text(row).isEmpty())
+    if (!m_recipes || m_list.cell(row, 0).isEmpty())
         return false;
     for (int number = 1; number < m_columns.size(); ++number) {
-        if (!m_list.subItem(row, number).isEmpty())
+        if (!m_list.cell(row, number).isEmpty())
             return false;
     }
     return true;

@@ -25,7 +25,7 @@ QVariant RowListModel::data(const QModelIndex &index, int role) const
 {
     if (role != Qt::DisplayRole || !index.isValid() || index.row() >= m_list.rowCount())
         return {};
-    return index.column() == 0 ? m_list.text(index.row()) : m_list.subItem(index.row(), index.column());
+    return m_list.cell(index.row(), index.column()).toString();
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringView>
 
 /// Rows that come one after another, as a recordset gives them.
 class RowSource
@@ -10,9 +10,9 @@ public:
 
     virtual bool atEnd() const = 0;
 
-    /// Field @p index of the current row, from 0, as text. RuntimeError 3021 past the last row, 94 for a
-    /// field without a value.
-    virtual QString field(int index) const = 0;
+    /// Field @p index of the current row, from 0, as text, until moveNext(). RuntimeError 3021 past the last
+    /// row, 94 for a field without a value.
+    virtual QStringView field(int index) const = 0;
 
     /// RuntimeError 3021 past the last row.
     virtual void moveNext() = 0;

@@ -40,10 +40,18 @@ JetBytes JetCursor::movedRow(JetRowPointer pointer)
 
 std::optional<QString> JetCursor::text(const JetColumn &column)
 {
-    if (column.type == Jet::Type::Boolean)
-        return JetTexts::fromBoolean(m_row->bit(column));
+    QString text;
+    return appendText(column, text) ? std::optional(text) : std::nullopt;
+}
+
+bool JetCursor::appendText(const JetColumn &column, QString &text)
+{
+    if (column.type == Jet::Type::Boolean) {
+        text += JetTexts::fromBoolean(m_row->bit(column));
+        return true;
+    }
     const std::optional<JetBytes> cell = m_row->cell(column);
-    if (!cell)
-        return std::nullopt;
-    return m_texts.text(column, *cell);
+    if (cell)
+        m_texts.append(column, *cell, text);
+    return cell.has_value();
 }

@@ -26,6 +26,9 @@ public:
     /// A cell of that row as text, nothing if it is Null. Errors as in JetTexts.
     std::optional<QString> text(const JetColumn &column);
 
+    /// The same behind what @p text holds already; false and nothing if it is Null.
+    bool appendText(const JetColumn &column, QString &text);
+
 private:
     JetBytes movedRow(JetRowPointer pointer);
 

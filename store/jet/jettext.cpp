@@ -14,14 +14,12 @@ using namespace Jet;
 
 namespace {
 
-QString plainText(JetBytes bytes)
+void appendPlain(JetBytes bytes, QString &text)
 {
     if (bytes.size() % 2 != 0)
         jetDamage("a text has half a character");
-    QString text(bytes.size() / 2, Qt::Uninitialized);
-    for (qsizetype i = 0; i < text.size(); ++i)
-        text[i] = QChar(bytes.u16(2 * i));
-    return text;
+    for (qsizetype at = 0; at < bytes.size(); at += 2)
+        text += QChar(bytes.u16(at));
 }
 
 // The characters of one byte from @p at on, to the next zero byte or the end.
@@ -34,13 +32,11 @@ QByteArrayView narrowRun(JetBytes bytes, qsizetype at)
 
 // Behind the mark FF FE, one byte is one character; a zero byte switches to two bytes for each character and
 // the next one back. Nearly all texts are a single run of narrow ones.
-QString packedText(JetBytes bytes)
+void appendPacked(JetBytes bytes, QString &text)
 {
     constexpr qsizetype MarkSize = 2;
-    const QByteArrayView first = narrowRun(bytes, MarkSize);
-    QString text = QString::fromLatin1(first);
     bool wide = false;
-    for (qsizetype at = MarkSize + first.size(); at < bytes.size();) {
+    for (qsizetype at = MarkSize; at < bytes.size();) {
         if (bytes.u8(at) == 0) {
             wide = !wide;
             ++at;
@@ -53,14 +49,14 @@ QString packedText(JetBytes bytes)
             at += run.size();
         }
     }
-    return text;
 }
 
-QString anyText(const JetColumn &column, JetBytes bytes)
+void appendAny(const JetColumn &column, JetBytes bytes, QString &text)
 {
     if (column.mayBePacked && bytes.view().startsWith("\xFF\xFE"))
-        return packedText(bytes);
-    return plainText(bytes);
+        appendPacked(bytes, text);
+    else
+        appendPlain(bytes, text);
 }
 
 QString withPoint(QString digits, int scale, bool negative)
@@ -138,17 +134,8 @@ QString dateText(double days)
     return seconds % 86400 == 0 ? date : date + QLatin1Char(' ') + time;
 }
 
-} // namespace
-
-JetTexts::JetTexts(const JetPages &pages) : m_pages(pages), m_longBytesLeft(pages.size())
-{}
-
-QString JetTexts::fromBoolean(bool value)
-{
-    return value ? QStringLiteral("True") : QStringLiteral("False");
-}
-
-QString JetTexts::text(const JetColumn &column, JetBytes cell)
+// What was not stored as text.
+QString otherText(const JetColumn &column, JetBytes cell)
 {
     switch (column.type) {
     case Type::Byte:
@@ -165,10 +152,6 @@ QString JetTexts::text(const JetColumn &column, JetBytes cell)
         return numberText(cell.number<double>(0));
     case Type::Date:
         return dateText(cell.number<double>(0));
-    case Type::Text:
-        return anyText(column, cell);
-    case Type::Memo:
-        return anyText(column, JetBytes(longValue(cell)));
     case Type::Guid:
         return QUuid(cell.u32(0), cell.u16(4), cell.u16(6), cell.u8(8), cell.u8(9), cell.u8(10), cell.u8(11),
                      cell.u8(12), cell.u8(13), cell.u8(14), cell.u8(15))
@@ -178,6 +161,28 @@ QString JetTexts::text(const JetColumn &column, JetBytes cell)
         return decimalText(cell, column.scale);
     default:
         throw RuntimeError(ErrorNumber::TypeMismatch, column.name);
+    }
+}
+
+} // namespace
+
+JetTexts::JetTexts(const JetPages &pages) : m_pages(pages), m_longBytesLeft(pages.size())
+{}
+
+QString JetTexts::fromBoolean(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+void JetTexts::append(const JetColumn &column, JetBytes cell, QString &text)
+{
+    switch (column.type) {
+    case Type::Text:
+        return appendAny(column, cell, text);
+    case Type::Memo:
+        return appendAny(column, JetBytes(longValue(cell)), text);
+    default:
+        text += otherText(column, cell);
     }
 }
 

@@ -15,8 +15,8 @@ class JetTexts final
 public:
     explicit JetTexts(const JetPages &pages);
 
-    /// @p cell is not Null. Not for Boolean, which has no bytes.
-    QString text(const JetColumn &column, JetBytes cell);
+    /// Appends @p cell, which is not Null. Not for Boolean, which has no bytes.
+    void append(const JetColumn &column, JetBytes cell, QString &text);
 
     static QString fromBoolean(bool value);
 

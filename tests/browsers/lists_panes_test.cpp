@@ -260,7 +260,7 @@ void ListsPanesTest::onlyNaturalAminoAcidsHaveStructures()
     module.OptionSlots(Slot::Structures) = 1;
     DataStore store;
     for (const int list : {9, 10})
-        store.lists.ListView3[list].append("Alanine");
+        store.lists.ListView3[list].append(u"Alanine");
     ScriptedDesktop desktop;
     QWidget form1;
     BiochemistryPane pane(module, store, desktop, &form1);
@@ -281,7 +281,7 @@ void ListsPanesTest::theCodeIsSearchedInOneDirectionAtATime()
     ScriptedDesktop desktop;
     store.tables.GeneticCodeData(0, 0) = "Methionine";
     store.tables.GeneticCodeData(0, 1) = "AUG";
-    store.lists.Comb2.append("Methionine");
+    store.lists.Comb2.append(u"Methionine");
     BiochemistryPane pane(module, store, desktop, nullptr);
     pane.show();
     Worked<BiochemistryPane> worked{pane};

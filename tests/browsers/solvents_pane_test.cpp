@@ -173,7 +173,7 @@ void SolventsPaneTest::tabsThatCannotBeSearchedCloseTheFindBar()
     window.pane.show();
     window.findBar.TextBoxM6->show();
     window.findBar.TextBoxM6->setText("ace");
-    window.store.lists.ListView2[6].append("Acetone");
+    window.store.lists.ListView2[6].append(u"Acetone");
 
     window.pane.selectTab(4);
     QVERIFY(Controls::isShown(*window.findBar.TextBoxM6));

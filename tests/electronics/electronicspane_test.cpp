@@ -218,9 +218,9 @@ void ElectronicsPaneTest::aMarkingIsDecodedOnceBothPartsAreChosen()
 
 void ElectronicsPaneTest::aValueThatIsNoNumberEndsTheProgram()
 {
-    m_store->lists.Combo4.append("01");
+    m_store->lists.Combo4.append(u"01");
     m_store->lists.Combo4.filled();
-    m_store->lists.ListView3[29].append("01");
+    m_store->lists.ListView3[29].append(u"01");
     choose(10, "A");
     QVERIFY_THROWS_EXCEPTION(ProcessEnded, get<DropDown>("Combo4").setCurrentIndex(0));
     QVERIFY(m_desktop.boxes.constFirst().first.startsWith("Run-time error '13':"));

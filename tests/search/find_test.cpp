@@ -64,7 +64,7 @@ void FindTest::gathersEverySubstringMatch()
     RowList list;
     fill(list, {"Acetic acid", "Acetone", "Butyl acetate", "Water"});
     RowList hits;
-    hits.append("left over");
+    hits.append(u"left over");
 
     Find::gather(list, limit, text, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
 
@@ -131,7 +131,7 @@ void FindTest::ordinalsAre16BitNumbers()
 {
     RowList list;
     for (int row = 0; row < 32768; ++row)
-        list.append("a");
+        list.append(u"a");
     QCOMPARE(Find::walk(list, list, {32766, 32766}, Direction::Next)->hit, 32767);
     QVERIFY_THROWS_EXCEPTION(RuntimeError, Find::walk(list, list, {32767, 32767}, Direction::Next));
 }

@@ -16,10 +16,11 @@ public:
     explicit MadeRows(QList<QStringList> rows) : m_rows(std::move(rows)) {}
 
     bool atEnd() const override { return m_row >= m_rows.size(); }
-    QString field(int index) const override
+    QStringView field(int index) const override
     {
         requireRow();
-        const QString text = m_rows[m_row].value(index);
+        const QStringList &cells = m_rows[m_row];
+        const QStringView text = index < cells.size() ? QStringView(cells[index]) : QStringView();
         if (text == QStringLiteral("<null>"))
             throw RuntimeError(ErrorNumber::InvalidNull);
         return text;

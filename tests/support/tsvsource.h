@@ -22,7 +22,7 @@ public:
     }
 
     bool atEnd() const override { return m_row >= m_rows.size(); }
-    QString field(int index) const override
+    QStringView field(int index) const override
     {
         if (atEnd())
             throw RuntimeError(ErrorNumber::PastEnd);
