@@ -22,39 +22,35 @@ void appendPlain(JetBytes bytes, QString &text)
         text += QChar(bytes.u16(at));
 }
 
-// The characters of one byte from @p at on, to the next zero byte or the end.
-QByteArrayView narrowRun(JetBytes bytes, qsizetype at)
-{
-    const QByteArrayView rest = bytes.from(at).view();
-    const qsizetype end = rest.indexOf('\0');
-    return end < 0 ? rest : rest.first(end);
-}
-
-// Behind the mark FF FE, one byte is one character; a zero byte switches to two bytes for each character and
-// the next one back. Nearly all texts are a single run of narrow ones.
+// Behind the mark, one byte is one character; a zero byte switches to two bytes for each character and the
+// next one back. So there are never more characters than bytes.
 void appendPacked(JetBytes bytes, QString &text)
 {
-    constexpr qsizetype MarkSize = 2;
+    const qsizetype before = text.size();
+    text.resize(before + bytes.size());
+    QChar *end = text.data() + before;
     bool wide = false;
-    for (qsizetype at = MarkSize; at < bytes.size();) {
-        if (bytes.u8(at) == 0) {
+    for (qsizetype at = 0; at < bytes.size();) {
+        if (const char byte = bytes.view()[at]; byte == 0) {
             wide = !wide;
             ++at;
         } else if (wide) {
-            text += QChar(bytes.u16(at));
+            *end++ = QChar(bytes.u16(at));
             at += 2;
         } else {
-            const QByteArrayView run = narrowRun(bytes, at);
-            text += QLatin1StringView(run.data(), run.size());
-            at += run.size();
+            *end++ = QLatin1Char(byte);
+            ++at;
         }
     }
+    text.truncate(end - text.constData());
 }
 
 void appendAny(const JetColumn &column, JetBytes bytes, QString &text)
 {
-    if (column.mayBePacked && bytes.view().startsWith("\xFF\xFE"))
-        appendPacked(bytes, text);
+    constexpr quint16 PackedMark = 0xFEFF;
+    constexpr qsizetype MarkSize = sizeof PackedMark;
+    if (column.mayBePacked && bytes.size() >= MarkSize && bytes.u16(0) == PackedMark)
+        appendPacked(bytes.from(MarkSize), text);
     else
         appendPlain(bytes, text);
 }
