@@ -63,8 +63,8 @@ void TrayIcon::load()
     m_icon.setToolTip(QStringLiteral("Alembra"));
     trayminimax->setText(MinimizeCaption);
     // On X11 a notification area that comes up later takes the icon in; elsewhere nothing would.
-    if (QSystemTrayIcon::isSystemTrayAvailable() ||
-        QGuiApplication::platformName() == QLatin1StringView("xcb"))
+    if (QGuiApplication::platformName() == QLatin1StringView("xcb") ||
+        QSystemTrayIcon::isSystemTrayAvailable())
         m_icon.show();
 }
 
