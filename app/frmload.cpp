@@ -36,9 +36,9 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
     picture->setGeometry(20, 24, 88, 88);
 
-    QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 16, 34);
+    QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 22, 26);
     QFont large = title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.9);
+    large.setPixelSize(Controls::LargeType);
     large.setBold(true);
     title->setFont(large);
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);

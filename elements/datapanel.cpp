@@ -4,6 +4,7 @@
 #include "core/windowunits.h"
 #include "elements/elementpanel.h"
 
+#include <QPainter>
 #include <array>
 
 namespace {
@@ -64,6 +65,12 @@ constexpr std::array<ValueRow, 13> ValueRows{{
     {13, "Crystal structure", nullptr},
 }};
 
+constexpr int heightOf(const ValueRow &row)
+{
+    constexpr int NoteHeight = 14;
+    return row.note ? LineHeight + NoteHeight : LineHeight;
+}
+
 void stylePanel(QFrame &panel)
 {
     panel.setFrameShape(QFrame::StyledPanel);
@@ -109,27 +116,38 @@ void DataPanel::buildHeading()
 void DataPanel::buildRows()
 {
     int top = HeadingHeight;
-    bool striped = true;
     for (const ValueRow &row : ValueRows) {
-        auto *line = new QWidget(this);
-        const int height = row.note ? LineHeight + 14 : LineHeight;
-        line->setGeometry(Edge, top, Width - 2 * Edge, height);
-        line->setAutoFillBackground(true);
-        line->setBackgroundRole(striped ? QPalette::AlternateBase : QPalette::Base);
-        QLabel *caption = text(QString::fromUtf8(row.caption), font(), line);
-        caption->setGeometry(Padding - Edge, 0, ValueLeft - Padding, LineHeight);
-        auto *value = new QLabel(line);
-        value->setGeometry(ValueLeft - Edge, 0, Width - ValueLeft - 4, LineHeight);
+        QLabel *caption = text(QString::fromUtf8(row.caption), font(), this);
+        caption->setGeometry(Padding, top, ValueLeft - Padding, LineHeight);
+        auto *value = new QLabel(this);
+        value->setGeometry(ValueLeft, top, Width - ValueLeft - 4 - Edge, LineHeight);
         value->setAccessibleDescription(QString::fromUtf8(row.caption));
         addValue(row.index, value);
         if (row.note) {
-            QLabel *note = text(QLatin1StringView(row.note), font(), line);
-            note->setGeometry(ValueLeft - Edge, LineHeight - 4, Width - ValueLeft - 4, 16);
+            QLabel *note = text(QLatin1StringView(row.note), font(), this);
+            note->setGeometry(ValueLeft, top + LineHeight - 4, Width - ValueLeft - 4 - Edge, 16);
+            note->hide();
+            m_notes << note;
         }
-        top += height;
-        striped = !striped;
+        top += heightOf(row);
     }
     resize(Width, top + Edge);
+}
+
+// Every other row is shaded. Painted here, for a widget behind each would take the start longer than its
+// texts.
+void DataPanel::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    int top = HeadingHeight;
+    bool shaded = true;
+    for (const ValueRow &row : ValueRows) {
+        if (shaded)
+            painter.fillRect(Edge, top, Width - 2 * Edge, heightOf(row), palette().alternateBase());
+        top += heightOf(row);
+        shaded = !shaded;
+    }
 }
 
 void DataPanel::addValue(int index, QLabel *value)
@@ -142,6 +160,8 @@ void DataPanel::addValue(int index, QLabel *value)
 
 void DataPanel::showValues(const ElementPanel &panel)
 {
+    for (QLabel *note : std::as_const(m_notes))
+        note->show();
     for (const auto &[index, label] : lblatome) {
         label->setText(panel.lblatome[size_t(index)]);
         fit(*label, index < int(HeadingSizes.size()) ? HeadingSizes[size_t(index)] : 1);
@@ -161,6 +181,10 @@ IsotopePanel::IsotopePanel(QWidget *parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("ReyFrame2"));
     stylePanel(*this);
+}
+
+void IsotopePanel::build()
+{
     setFont(QFont(QStringLiteral("Arial"), font().pointSize()));
     buildTitles();
     for (int row = 0; row < ElementPanel::IsotopeTextCount / 3; ++row)
@@ -194,6 +218,8 @@ void IsotopePanel::buildRow(int row)
 
 void IsotopePanel::showValues(const ElementPanel &panel)
 {
+    if (!Label11.contains(0))
+        build();
     for (const auto &[index, label] : Label11) {
         const QString &stored = panel.Label11[size_t(index)];
         label->setText(index % 3 == 2 ? SymbolText::toUnicode(stored) : stored);

@@ -19,14 +19,20 @@ public:
 
     ControlArray<QLabel> lblatome{"lblatome"};
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void buildHeading();
     void buildRows();
     void addValue(int index, QLabel *value);
     void fit(QLabel &label, double size) const;
+
+    QList<QLabel *> m_notes; ///< come with the values
 };
 
-/// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number.
+/// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number. It is empty
+/// until it has something to show.
 class IsotopePanel final : public QFrame
 {
     Q_OBJECT
@@ -39,6 +45,7 @@ public:
     ControlArray<QLabel> Label11{"Label11"};
 
 private:
+    void build();
     void buildTitles();
     void buildRow(int row);
 };

@@ -4,7 +4,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QTransform>
+#include <numeric>
 
 namespace {
 
@@ -54,12 +54,23 @@ void ElementButton::paintEvent(QPaintEvent *)
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
-    painter.setFont(drawnFont(font()));
-    QTransform size;
-    if (text().size() > 2) // the drawing is smaller, not the type: one more size of it would slow the start
-        size.scale(0.8, 0.8);
-    painter.setTransform(size, true);
-    painter.drawText(size.inverted().mapRect(rect()), Qt::AlignCenter, text());
+    drawSymbol(painter);
+}
+
+// Each begins at a whole pixel: between pixels, a letter would have to be drawn anew for nearly every cell.
+void ElementButton::drawSymbol(QPainter &painter) const
+{
+    static const QFont drawn = drawnFont(font());
+    const QFontMetrics metrics(drawn);
+    const QString symbol = text();
+    const int width = std::accumulate(symbol.begin(), symbol.end(), 0, [&](int sum, QChar letter) {
+        return sum + metrics.horizontalAdvance(letter);
+    });
+    painter.setFont(drawn);
+    painter.translate(rect().center());
+    if (symbol.size() > 2) // the drawing is smaller, not the type: one more size of it would slow the start
+        painter.scale(0.8, 0.8);
+    painter.drawText(-width / 2, metrics.capHeight() / 2, symbol);
 }
 
 void ElementButton::keyPressEvent(QKeyEvent *event)

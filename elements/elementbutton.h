@@ -20,5 +20,7 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void drawSymbol(QPainter &painter) const;
+
     bool m_marked = false;
 };

@@ -1,5 +1,6 @@
 #include "elements/periodictable.h"
 
+#include "core/controls.h"
 #include "core/modulepanel.h"
 #include "core/windowunits.h"
 
@@ -104,11 +105,9 @@ void PeriodicTable::buildButtons()
 {
     auto *buttons = new QWidget(this);
     buttons->resize(size());
-    // Set once around them all. Its size is fixed like the cells', as large as two letters go: the table is
-    // read from the other end of the bench.
-    QFont tahoma(QStringLiteral("Tahoma"));
+    QFont tahoma(QStringLiteral("Tahoma")); // set once around them all
     tahoma.setBold(true);
-    tahoma.setPixelSize(15);
+    tahoma.setPixelSize(Controls::LargeType);
     buttons->setFont(tahoma);
     for (const Run &run : Runs) {
         for (int index = run.first; index <= run.last; ++index) {
