@@ -109,7 +109,7 @@ protected:
     }
 };
 
-/// The program's icon. A window manager is given each of its sizes.
+/// The program's icon. A window manager is given each of its sizes; larger ones belong to the menu entry.
 class ProgramIconEngine final : public DrawnIconEngine
 {
 public:
@@ -119,7 +119,7 @@ public:
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
     {
         QList<QSize> sizes;
-        for (const int side : {16, 24, 32, 48, 64, 128})
+        for (const int side : {16, 24, 32, 48, 64})
             sizes << QSize(side, side);
         return sizes;
     }
