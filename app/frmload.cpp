@@ -37,10 +37,7 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     picture->setGeometry(20, 24, 88, 88);
 
     QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 22, 26);
-    QFont large = title->font();
-    large.setPixelSize(Controls::LargeType);
-    large.setBold(true);
-    title->setFont(large);
+    title->setFont(Controls::largeType(title->font()));
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
     addLine("lblDescription", VersionRecord::comments(), 72, 68);
     addLine("lblcopy", VersionRecord::legalNotice(), 142, 34);

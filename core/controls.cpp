@@ -2,6 +2,17 @@
 
 #include <QLabel>
 
+QFont Controls::largeType(QFont font)
+{
+    font.setPixelSize(15);
+    font.setBold(true);
+    // What would fit each letter to the pixels and to its neighbours takes longer than to draw it.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setKerning(false);
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    return font;
+}
+
 QString Controls::indexedName(const char *array, int index)
 {
     return QStringLiteral("%1(%2)").arg(QLatin1StringView(array)).arg(index);

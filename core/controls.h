@@ -23,10 +23,11 @@ W *named(W *control, const QString &name)
     return control;
 }
 
-/// Size in pixels of the one large type, always bold: the title of the splash and the cells of the periodic
-/// table share it, for another size of a typeface costs a start a millisecond. As large as two letters go in
-/// a cell; the table is read from the other end of the bench.
-inline constexpr int LargeType = 15;
+/// @p font as the one large type: bold, 15 pixels high, letters side by side as they are drawn. The title of
+/// the splash and the cells of the periodic table share it, for another size of a typeface costs a start a
+/// millisecond. It is as large as two letters go in a cell: the table is read from the other end of the
+/// bench.
+QFont largeType(QFont font);
 
 /// "ListView3" and 29 make "ListView3(29)".
 QString indexedName(const char *array, int index);

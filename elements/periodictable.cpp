@@ -105,10 +105,7 @@ void PeriodicTable::buildButtons()
 {
     auto *buttons = new QWidget(this);
     buttons->resize(size());
-    QFont tahoma(QStringLiteral("Tahoma")); // set once around them all
-    tahoma.setBold(true);
-    tahoma.setPixelSize(Controls::LargeType);
-    buttons->setFont(tahoma);
+    buttons->setFont(Controls::largeType(QFont(QStringLiteral("Tahoma")))); // once around them all
     for (const Run &run : Runs) {
         for (int index = run.first; index <= run.last; ++index) {
             auto *button = new ElementButton(QLatin1StringView(Symbols[size_t(index)]), buttons);
