@@ -24,8 +24,16 @@ int byteOf(char16_t c)
 
 QByteArray CodePage::encode(QStringView text)
 {
-    QByteArray bytes(text.size(), Qt::Uninitialized);
-    char *out = bytes.data();
+    QByteArray bytes;
+    append(text, bytes);
+    return bytes;
+}
+
+void CodePage::append(QStringView text, QByteArray &bytes)
+{
+    const qsizetype before = bytes.size();
+    bytes.resize(before + text.size());
+    char *out = bytes.data() + before;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
         // A pair of surrogates is one character and so one question mark.
@@ -35,7 +43,6 @@ QByteArray CodePage::encode(QStringView text)
         *out++ = byte < 0 ? '?' : char(byte);
     }
     bytes.truncate(out - bytes.constData());
-    return bytes;
 }
 
 QString CodePage::decode(const QByteArray &bytes)

@@ -9,6 +9,9 @@ namespace CodePage {
 /// A character that the code page lacks goes out as "?".
 QByteArray encode(QStringView text);
 
+/// The same behind what @p bytes holds already.
+void append(QStringView text, QByteArray &bytes);
+
 /// The five bytes without a character of their own become the control characters of the same number, so that
 /// every byte survives the way in and out again.
 QString decode(const QByteArray &bytes);

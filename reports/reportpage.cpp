@@ -130,14 +130,14 @@ void ReportPage::startRow()
     QString &rowClass = m_module.ReportRowClass;
     rowClass = rowClass == QLatin1StringView("teven") ? "tnoteven" : "teven";
     m_bytes += "</tr>\r\n<tr class=";
-    m_bytes += CodePage::encode(rowClass);
+    CodePage::append(rowClass, m_bytes);
     m_bytes += ">\r\n";
 }
 
 void ReportPage::cell(QStringView text)
 {
     m_bytes += "<td>";
-    m_bytes += CodePage::encode(text);
+    CodePage::append(text, m_bytes);
     m_bytes += "</td>\r\n";
 }
 
@@ -169,6 +169,6 @@ void ReportPage::end()
 
 void ReportPage::line(const QString &text)
 {
-    m_bytes += CodePage::encode(text);
+    CodePage::append(text, m_bytes);
     m_bytes += "\r\n";
 }
