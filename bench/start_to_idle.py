@@ -109,7 +109,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("bare", type=pathlib.Path, help="the bare window's executable")
     parser.add_argument("folder", type=pathlib.Path, help="the assembled program folder")
-    parser.add_argument("--runs", type=int, default=31, help="measured starts of each, at least 7")
+    parser.add_argument("--runs", type=int, default=51, help="measured starts of each, at least 7")
     arguments = parser.parse_args()
     if arguments.runs < 7:
         parser.error("fewer than 7 runs say nothing")
