@@ -27,8 +27,8 @@ constexpr std::array Themes{
     Theme{5, Qt::ToolButtonTextUnderIcon, 24},  Theme{6, Qt::ToolButtonIconOnly, 32},
 };
 
-/// Fusion draws the three lines of a tool bar pixel by pixel, handed out to several threads: a millisecond of
-/// every start. Here they are filled, with the same look.
+/// Fusion draws the three lines of a tool bar pixel by pixel, handed out to several threads: half a
+/// millisecond of every start. Here they are filled, with the same look.
 class CommandBar final : public QToolBar
 {
 public:

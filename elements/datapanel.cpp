@@ -120,12 +120,12 @@ void DataPanel::buildRows()
         QLabel *caption = text(QString::fromUtf8(row.caption), font(), this);
         caption->setGeometry(Padding, top, ValueLeft - Padding, LineHeight);
         auto *value = new QLabel(this);
-        value->setGeometry(ValueLeft, top, Width - ValueLeft - 4 - Edge, LineHeight);
+        value->setGeometry(ValueLeft, top, Width - ValueLeft - 4, LineHeight);
         value->setAccessibleDescription(QString::fromUtf8(row.caption));
         addValue(row.index, value);
         if (row.note) {
             QLabel *note = text(QLatin1StringView(row.note), font(), this);
-            note->setGeometry(ValueLeft, top + LineHeight - 4, Width - ValueLeft - 4 - Edge, 16);
+            note->setGeometry(ValueLeft, top + LineHeight - 4, Width - ValueLeft - 4, 16);
             note->hide();
             m_notes << note;
         }

@@ -60,7 +60,7 @@ void ElementButton::paintEvent(QPaintEvent *)
 // Each begins at a whole pixel: between pixels, a letter would have to be drawn anew for nearly every cell.
 void ElementButton::drawSymbol(QPainter &painter) const
 {
-    static const QFont drawn = drawnFont(font());
+    const QFont drawn = drawnFont(font());
     const QFontMetrics metrics(drawn);
     const QString symbol = text();
     const int width = std::accumulate(symbol.begin(), symbol.end(), 0, [&](int sum, QChar letter) {
