@@ -5,6 +5,7 @@
 #include "core/runtimeerror.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QSet>
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void malformedLayoutIsRefused();
     void missingLayoutIsFileNotFound();
     void unknownIdsArePlacedAndDoNothing();
+    void toolBarLooksAsTheStyleDrawsIt_data();
+    void toolBarLooksAsTheStyleDrawsIt();
     void menuStyleJumpsFromThreeToFive();
     void progressIsRoundedHalfToEvenInSinglePrecision();
 };
@@ -111,12 +114,41 @@ void ShellTest::unknownIdsArePlacedAndDoNothing()
     QMainWindow window;
     CommandBars bars(window);
     MenuLayout layout;
-    layout.menus << MenuLayout::Menu{QStringLiteral("Menu"), {{1107, QStringLiteral("Unknown"), {}, {}, {}}, {}}};
+    layout.menus << MenuLayout::Menu{QStringLiteral("Menu"),
+                                     {{1107, QStringLiteral("Unknown"), {}, {}, {}}, {}}};
     bars.load(layout);
     QCOMPARE(window.menuBar()->actions().constFirst()->text(), QStringLiteral("Menu"));
     QCOMPARE(bars.action(1107).objectName(), QStringLiteral("Id1107"));
     QVERIFY(!findCommand(1107));
     QVERIFY(!findCommand(1146));
+}
+
+void ShellTest::toolBarLooksAsTheStyleDrawsIt_data()
+{
+    QTest::addColumn<QColor>("window");
+    QTest::newRow("light") << QColor(0xef, 0xef, 0xef);
+    QTest::newRow("dark") << QColor(0x2a, 0x2a, 0x2a);
+}
+
+void ShellTest::toolBarLooksAsTheStyleDrawsIt()
+{
+    QFETCH(const QColor, window);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setPalette(QPalette(window, window));
+    QMainWindow ours;
+    CommandBars bars(ours);
+    MenuLayout layout;
+    layout.toolBars << MenuLayout::Menu{QStringLiteral("Bar"), {}};
+    bars.load(layout);
+    QMainWindow plain;
+    plain.addToolBar(QStringLiteral("Bar"))->setMovable(false);
+    const auto picture = [](QMainWindow &form) {
+        form.findChild<QToolBar *>()->setFixedHeight(30);
+        form.resize(300, 200);
+        form.show();
+        return form.findChild<QToolBar *>()->grab().toImage();
+    };
+    QCOMPARE(picture(ours), picture(plain));
 }
 
 void ShellTest::menuStyleJumpsFromThreeToFive()
