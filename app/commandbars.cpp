@@ -2,7 +2,7 @@
 
 #include "app/commands.h"
 #include "app/menulayout.h"
-#include "core/icons.h"
+#include "widgets/icons.h"
 
 #include <QAction>
 #include <QMainWindow>

@@ -14,9 +14,7 @@
 #include "charts/spectroscopypane.h"
 #include "core/buildsettings.h"
 #include "core/desktop.h"
-#include "core/icons.h"
 #include "core/module1.h"
-#include "core/modulepanel.h"
 #include "electronics/electronicspane.h"
 #include "elements/elementspane.h"
 #include "sidewindows/formhelp.h"
@@ -27,6 +25,8 @@
 #include "store/datastore.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
+#include "widgets/icons.h"
+#include "widgets/modulepanel.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,11 +1,11 @@
 #include "app/frmload.h"
 
-#include "core/controls.h"
 #include "core/desktop.h"
-#include "core/icons.h"
 #include "core/module1.h"
-#include "core/modulepanel.h"
 #include "core/versionrecord.h"
+#include "widgets/controls.h"
+#include "widgets/icons.h"
+#include "widgets/modulepanel.h"
 
 #include <QLabel>
 #include <QProgressBar>

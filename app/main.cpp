@@ -1,6 +1,6 @@
 #include "app/program.h"
 #include "core/desktop.h"
-#include "core/qtdesktop.h"
+#include "widgets/qtdesktop.h"
 
 #include <QApplication>
 

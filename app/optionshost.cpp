@@ -5,9 +5,9 @@
 #include "calc/calculationspane.h"
 #include "charts/spectroscopypane.h"
 #include "core/module1.h"
-#include "core/windowunits.h"
 #include "elements/elementspane.h"
 #include "options/formoptions.h"
+#include "widgets/windowunits.h"
 
 #include <QAction>
 

@@ -1,9 +1,9 @@
 #include "app/paneswitch.h"
 
-#include "core/controls.h"
-#include "core/modulepanel.h"
 #include "core/runtimeerror.h"
 #include "search/findbar.h"
+#include "widgets/controls.h"
+#include "widgets/modulepanel.h"
 
 void PaneSwitch::show(PanelId id, const std::function<void()> &beforePanelText)
 {

@@ -1,7 +1,7 @@
 #include "app/trayicon.h"
 
-#include "core/icons.h"
 #include "core/optionslots.h"
+#include "widgets/icons.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>

@@ -2,7 +2,7 @@
 // splash, and nothing else. bench/run measures the program against it.
 
 #include "app/frmload.h"
-#include "core/qtdesktop.h"
+#include "widgets/qtdesktop.h"
 
 #include <QApplication>
 #include <QLabel>

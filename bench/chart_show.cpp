@@ -5,7 +5,7 @@
 #include "bench/programdata.h"
 #include "charts/ircharts.h"
 #include "charts/nmrcharts.h"
-#include "store/rowlistview.h"
+#include "widgets/rowlistview.h"
 
 #include <QImage>
 

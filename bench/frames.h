@@ -2,8 +2,8 @@
 
 #include "app/form1.h"
 #include "bench/measure.h"
-#include "core/modulepanel.h"
 #include "tests/support/wholerun.h"
+#include "widgets/modulepanel.h"
 
 #include <QElapsedTimer>
 #include <stdexcept>

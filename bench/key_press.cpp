@@ -2,7 +2,7 @@
 // the list that is searched, and in the conversions, against a bare repaint of their two fields.
 
 #include "bench/frames.h"
-#include "store/rowlistview.h"
+#include "widgets/rowlistview.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

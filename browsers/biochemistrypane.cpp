@@ -4,8 +4,8 @@
 #include "browsers/paneeffects.h"
 #include "core/desktop.h"
 #include "core/module1.h"
-#include "core/structurewindow.h"
 #include "store/datastore.h"
+#include "widgets/structurewindow.h"
 
 #include <numeric>
 

@@ -1,6 +1,6 @@
 #include "browsers/browserpane.h"
 
-#include "core/windowunits.h"
+#include "widgets/windowunits.h"
 
 #include <QButtonGroup>
 #include <QLabel>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "browsers/effects.h"
-#include "core/controlarray.h"
-#include "core/modulepanel.h"
-#include "store/rowlistview.h"
-#include "store/titleframe.h"
+#include "widgets/controlarray.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
+#include "widgets/titleframe.h"
 
 #include <QHash>
 #include <QRadioButton>

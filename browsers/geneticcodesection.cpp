@@ -4,7 +4,7 @@
 #include "browsers/geneticcodechart.h"
 #include "core/desktop.h"
 #include "store/datastore.h"
-#include "store/rowlistmodel.h"
+#include "widgets/rowlistmodel.h"
 
 #include <QGridLayout>
 

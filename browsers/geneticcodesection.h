@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/controlarray.h"
+#include "widgets/controlarray.h"
 
 #include <QComboBox>
 #include <QLabel>

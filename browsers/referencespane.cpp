@@ -1,7 +1,7 @@
 #include "browsers/referencespane.h"
 
-#include "core/linklabel.h"
 #include "core/desktop.h"
+#include "widgets/linklabel.h"
 
 #include <QList>
 

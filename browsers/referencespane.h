@@ -1,8 +1,8 @@
 #pragma once
 
 #include "browsers/references.h"
-#include "core/controlarray.h"
-#include "core/modulepanel.h"
+#include "widgets/controlarray.h"
+#include "widgets/modulepanel.h"
 
 #include <QLabel>
 

@@ -3,9 +3,9 @@
 #include "browsers/polarityladder.h"
 #include "core/desktop.h"
 #include "core/module1.h"
-#include "core/structurewindow.h"
 #include "search/findbar.h"
 #include "store/datastore.h"
+#include "widgets/structurewindow.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "browsers/textpanes.h"
 
 #include "browsers/references.h"
-#include "core/controls.h"
 #include "core/desktop.h"
-#include "core/icons.h"
+#include "widgets/controls.h"
+#include "widgets/icons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

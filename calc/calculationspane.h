@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/modulepanel.h"
+#include "widgets/modulepanel.h"
 
 class ConversionBox;
 class Desktop;

@@ -1,8 +1,8 @@
 #include "calc/constantsbox.h"
 
-#include "core/tabstrip.h"
 #include "store/rowlists.h"
-#include "store/titleframe.h"
+#include "widgets/tabstrip.h"
+#include "widgets/titleframe.h"
 
 namespace {
 

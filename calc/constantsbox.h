@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controlarray.h"
-#include "store/rowlistview.h"
+#include "widgets/controlarray.h"
+#include "widgets/rowlistview.h"
 
 #include <QLabel>
 

@@ -2,9 +2,9 @@
 
 #include "calc/calctabs.h"
 #include "calc/unitlists.h"
-#include "core/controls.h"
 #include "core/desktop.h"
 #include "core/module1.h"
+#include "widgets/controls.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "calc/unitconverter.h"
-#include "core/tabstrip.h"
-#include "core/textboxm.h"
+#include "widgets/tabstrip.h"
+#include "widgets/textboxm.h"
 
 #include <QListWidget>
 

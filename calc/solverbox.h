@@ -1,9 +1,9 @@
 #pragma once
 
 #include "calc/calctabs.h"
-#include "core/controlarray.h"
-#include "core/tabstrip.h"
-#include "core/textboxm.h"
+#include "widgets/controlarray.h"
+#include "widgets/tabstrip.h"
+#include "widgets/textboxm.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #include "charts/chartpicture.h"
 
-#include "core/windowunits.h"
+#include "widgets/windowunits.h"
 
 #include <QPainter>
 

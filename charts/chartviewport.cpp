@@ -1,6 +1,6 @@
 #include "charts/chartviewport.h"
 
-#include "core/controls.h"
+#include "widgets/controls.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

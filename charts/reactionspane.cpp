@@ -5,11 +5,11 @@
 #include "charts/reactioncharts.h"
 #include "core/desktop.h"
 #include "core/module1.h"
-#include "core/picturebox.h"
-#include "core/picturefile.h"
-#include "core/windowunits.h"
 #include "store/datastore.h"
-#include "store/titleframe.h"
+#include "widgets/picturebox.h"
+#include "widgets/picturefile.h"
+#include "widgets/titleframe.h"
+#include "widgets/windowunits.h"
 
 #include <QComboBox>
 #include <QFrame>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/controlarray.h"
-#include "core/modulepanel.h"
-#include "store/rowlistview.h"
+#include "widgets/controlarray.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
 
 #include <QLabel>
 #include <QRadioButton>

@@ -7,15 +7,15 @@
 #include "charts/ircharts.h"
 #include "charts/scalelabel.h"
 #include "core/desktop.h"
-#include "core/dropdown.h"
 #include "core/module1.h"
-#include "core/picturebox.h"
-#include "core/picturefile.h"
 #include "core/symboltext.h"
-#include "core/tooltips.h"
-#include "core/windowunits.h"
 #include "store/datastore.h"
-#include "store/titleframe.h"
+#include "widgets/dropdown.h"
+#include "widgets/picturebox.h"
+#include "widgets/picturefile.h"
+#include "widgets/titleframe.h"
+#include "widgets/tooltips.h"
+#include "widgets/windowunits.h"
 
 #include <QLineEdit>
 #include <QPushButton>

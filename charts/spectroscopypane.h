@@ -2,9 +2,9 @@
 
 #include "charts/nmrcharts.h"
 #include "charts/spectroscopymodes.h"
-#include "core/controlarray.h"
-#include "core/modulepanel.h"
-#include "store/rowlistview.h"
+#include "widgets/controlarray.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
 
 #include <QImage>
 #include <QLabel>

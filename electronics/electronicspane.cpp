@@ -5,7 +5,7 @@
 #include "electronics/eia96.h"
 #include "electronics/partviews.h"
 #include "store/datastore.h"
-#include "store/titleframe.h"
+#include "widgets/titleframe.h"
 
 #include <QEvent>
 #include <QPushButton>

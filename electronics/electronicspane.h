@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/controlarray.h"
-#include "core/dropdown.h"
-#include "core/modulepanel.h"
-#include "core/textboxm.h"
 #include "electronics/resistorcode.h"
-#include "store/rowlistview.h"
+#include "widgets/controlarray.h"
+#include "widgets/dropdown.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
+#include "widgets/textboxm.h"
 
 #include <QLabel>
 #include <QTabBar>

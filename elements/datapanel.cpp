@@ -1,8 +1,8 @@
 #include "elements/datapanel.h"
 
 #include "core/symboltext.h"
-#include "core/windowunits.h"
 #include "elements/elementpanel.h"
+#include "widgets/windowunits.h"
 
 #include <QPainter>
 #include <array>

@@ -1,16 +1,16 @@
 #include "elements/elementspane.h"
 
 #include "core/desktop.h"
-#include "core/icons.h"
-#include "core/picturebox.h"
-#include "core/picturefile.h"
-#include "core/tooltips.h"
 #include "elements/datapanel.h"
 #include "elements/periodictable.h"
 #include "elements/picturewindows.h"
 #include "elements/portrait.h"
 #include "search/findbar.h"
 #include "store/datastore.h"
+#include "widgets/icons.h"
+#include "widgets/picturebox.h"
+#include "widgets/picturefile.h"
+#include "widgets/tooltips.h"
 
 #include <QKeyEvent>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/controlarray.h"
-#include "core/modulepanel.h"
 #include "elements/elementpanel.h"
+#include "widgets/controlarray.h"
+#include "widgets/modulepanel.h"
 
 class DataPanel;
 class Desktop;

@@ -1,8 +1,8 @@
 #include "elements/periodictable.h"
 
-#include "core/controls.h"
-#include "core/modulepanel.h"
-#include "core/windowunits.h"
+#include "widgets/controls.h"
+#include "widgets/modulepanel.h"
+#include "widgets/windowunits.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controlarray.h"
 #include "elements/elementbutton.h"
+#include "widgets/controlarray.h"
 
 #include <QLabel>
 

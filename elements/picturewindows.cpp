@@ -1,7 +1,7 @@
 #include "elements/picturewindows.h"
 
-#include "core/picturefile.h"
-#include "core/picturewindow.h"
+#include "widgets/picturefile.h"
+#include "widgets/picturewindow.h"
 
 namespace {
 

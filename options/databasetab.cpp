@@ -1,8 +1,8 @@
 #include "options/databasetab.h"
 
-#include "core/controls.h"
 #include "core/desktop.h"
 #include "options/filefigures.h"
+#include "widgets/controls.h"
 
 #include <QDir>
 #include <QGridLayout>

@@ -2,7 +2,6 @@
 
 #include "core/desktop.h"
 #include "core/module1.h"
-#include "core/tabstrip.h"
 #include "options/databasetab.h"
 #include "options/exporttab.h"
 #include "options/filefigures.h"
@@ -11,6 +10,7 @@
 #include "options/statisticstab.h"
 #include "store/datastore.h"
 #include "store/gridlines.h"
+#include "widgets/tabstrip.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/sidewindow.h"
 #include "options/optioncontrols.h"
+#include "widgets/sidewindow.h"
 
 class DatabaseTab;
 class Desktop;

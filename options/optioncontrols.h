@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/controlarray.h"
+#include "widgets/controlarray.h"
 
 class OptionSlots;
 class QCheckBox;

@@ -1,10 +1,10 @@
 #include "search/findbar.h"
 
 #include "core/desktop.h"
-#include "core/icons.h"
 #include "store/datastore.h"
-#include "store/rowlistmodel.h"
-#include "store/rowlistview.h"
+#include "widgets/icons.h"
+#include "widgets/rowlistmodel.h"
+#include "widgets/rowlistview.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controlarray.h"
 #include "search/find.h"
+#include "widgets/controlarray.h"
 
 #include <QCheckBox>
 #include <QComboBox>

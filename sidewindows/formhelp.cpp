@@ -1,8 +1,8 @@
 #include "sidewindows/formhelp.h"
 
-#include "core/controls.h"
 #include "core/symboltext.h"
 #include "sidewindows/legendcolumn.h"
+#include "widgets/controls.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>

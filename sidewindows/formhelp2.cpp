@@ -1,9 +1,9 @@
 #include "sidewindows/formhelp2.h"
 
-#include "core/controls.h"
-#include "core/modulepanel.h"
-#include "store/rowlistview.h"
-#include "store/titleframe.h"
+#include "widgets/controls.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
+#include "widgets/titleframe.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/sidewindow.h"
 #include "store/memorytables.h"
 #include "store/rowlist.h"
+#include "widgets/sidewindow.h"
 
 /// The journals behind the abbreviations that stand beside NMR charts.
 class Formhelp2 final : public SideWindow

@@ -1,6 +1,6 @@
 #include "sidewindows/formhelp3.h"
 
-#include "core/controls.h"
+#include "widgets/controls.h"
 
 #include <QGridLayout>
 #include <QLabel>

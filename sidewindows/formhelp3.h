@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sidewindow.h"
+#include "widgets/sidewindow.h"
 
 /// The colours that stand for bonds in the infrared charts.
 class Formhelp3 final : public SideWindow

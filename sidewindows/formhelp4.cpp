@@ -1,7 +1,7 @@
 #include "sidewindows/formhelp4.h"
 
-#include "core/controls.h"
 #include "sidewindows/colourmnemonic.h"
+#include "widgets/controls.h"
 
 #include <QLabel>
 #include <QPushButton>

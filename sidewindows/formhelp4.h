@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sidewindow.h"
+#include "widgets/sidewindow.h"
 
 /// A mnemonic for the colour code of resistors, as a picture.
 class Formhelp4 final : public SideWindow

@@ -1,12 +1,12 @@
 #include "sidewindows/frmabout.h"
 
 #include "core/buildsettings.h"
-#include "core/controls.h"
 #include "core/desktop.h"
-#include "core/icons.h"
-#include "core/linklabel.h"
 #include "core/module1.h"
 #include "core/versionrecord.h"
+#include "widgets/controls.h"
+#include "widgets/icons.h"
+#include "widgets/linklabel.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sidewindow.h"
+#include "widgets/sidewindow.h"
 
 class Desktop;
 

@@ -1,10 +1,10 @@
 #include "sidewindows/frmtip.h"
 
-#include "core/controls.h"
 #include "core/desktop.h"
-#include "core/icons.h"
 #include "core/module1.h"
 #include "sidewindows/tips.h"
+#include "widgets/controls.h"
+#include "widgets/icons.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,8 +1,8 @@
-#include "core/linklabel.h"
 #include "browsers/referencespane.h"
 #include "browsers/textpanes.h"
 #include "core/buildsettings.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/linklabel.h"
 
 #include <QTest>
 #include <QToolButton>

@@ -1,7 +1,7 @@
 #include "calcwindow.h"
 
 #include "calc/calctabs.h"
-#include "core/textboxm.h"
+#include "widgets/textboxm.h"
 
 #include <QRadioButton>
 #include <QRegularExpression>

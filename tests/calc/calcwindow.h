@@ -2,11 +2,11 @@
 
 #include "calc/calculationspane.h"
 #include "calc/unitlists.h"
-#include "core/controls.h"
 #include "core/module1.h"
-#include "core/tabstrip.h"
 #include "store/rowlists.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/controls.h"
+#include "widgets/tabstrip.h"
 
 #include <QLabel>
 #include <QLineEdit>

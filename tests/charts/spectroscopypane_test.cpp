@@ -1,9 +1,9 @@
 #include "charts/chartpicture.h"
 #include "charts/spectroscopypane.h"
-#include "core/dropdown.h"
 #include "core/module1.h"
 #include "store/datastore.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/dropdown.h"
 
 #include <QAbstractItemView>
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "core/modulepanel.h"
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
+#include "widgets/modulepanel.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,9 +1,9 @@
 #include "app/frmload.h"
 #include "sidewindows/tips.h"
-#include "store/rowlistview.h"
 #include "tests/e2e/judge.h"
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "app/optionshost.h"
 #include "options/formoptions.h"
-#include "store/rowlistview.h"
 #include "tests/support/wholerun.h"
+#include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QCheckBox>

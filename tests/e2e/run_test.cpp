@@ -1,7 +1,7 @@
 #include "app/commands.h"
-#include "core/modulepanel.h"
-#include "store/rowlistview.h"
 #include "tests/support/wholerun.h"
+#include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QAction>

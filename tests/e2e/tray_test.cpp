@@ -1,7 +1,7 @@
 #include "app/optionshost.h"
-#include "core/icons.h"
-#include "core/sidewindow.h"
 #include "tests/support/wholerun.h"
+#include "widgets/icons.h"
+#include "widgets/sidewindow.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,7 +2,7 @@
 
 #include "app/commands.h"
 #include "app/form1.h"
-#include "core/sidewindow.h"
+#include "widgets/sidewindow.h"
 
 #include <QRadioButton>
 #include <QTabBar>

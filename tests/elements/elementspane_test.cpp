@@ -1,10 +1,10 @@
 #include "elements/elementspane.h"
 
-#include "core/picturewindow.h"
-#include "core/windowunits.h"
 #include "search/findbar.h"
 #include "tests/support/scripteddesktop.h"
 #include "tests/support/tsvsource.h"
+#include "widgets/picturewindow.h"
+#include "widgets/windowunits.h"
 
 #include <QDir>
 #include <QPointer>

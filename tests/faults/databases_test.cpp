@@ -1,6 +1,6 @@
-#include "store/rowlistview.h"
 #include "tests/faults/faultrun.h"
 #include "tests/store/sampledatabases.h"
+#include "widgets/rowlistview.h"
 
 #include <QTest>
 

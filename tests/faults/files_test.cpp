@@ -1,7 +1,7 @@
 #include "app/commands.h"
-#include "core/picturebox.h"
-#include "store/rowlistview.h"
 #include "tests/faults/faultrun.h"
+#include "widgets/picturebox.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QLabel>

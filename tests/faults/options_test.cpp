@@ -1,6 +1,6 @@
-#include "core/sidewindow.h"
-#include "core/tabstrip.h"
 #include "tests/faults/faultrun.h"
+#include "widgets/sidewindow.h"
+#include "widgets/tabstrip.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "core/module1.h"
-#include "core/tabstrip.h"
 #include "options/formoptions.h"
 #include "options/optionstarget.h"
 #include "store/datastore.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/tabstrip.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #include "search/findbar.h"
 #include "store/datastore.h"
-#include "store/rowlistview.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/rowlistview.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,5 +1,4 @@
 #include "core/buildsettings.h"
-#include "core/linklabel.h"
 #include "core/module1.h"
 #include "sidewindows/formhelp.h"
 #include "sidewindows/formhelp2.h"
@@ -8,8 +7,9 @@
 #include "sidewindows/frmabout.h"
 #include "sidewindows/frmtip.h"
 #include "sidewindows/legendcolumn.h"
-#include "store/rowlistview.h"
 #include "tests/support/scripteddesktop.h"
+#include "widgets/linklabel.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractItemModel>
 #include <QCheckBox>

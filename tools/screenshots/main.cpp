@@ -1,9 +1,9 @@
 #include "app/form1.h"
 #include "app/program.h"
-#include "core/picturebox.h"
-#include "core/qtdesktop.h"
-#include "core/sidewindow.h"
-#include "store/rowlistview.h"
+#include "widgets/picturebox.h"
+#include "widgets/qtdesktop.h"
+#include "widgets/rowlistview.h"
+#include "widgets/sidewindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,7 +1,7 @@
-#include "core/picturewindow.h"
+#include "widgets/picturewindow.h"
 
-#include "core/controls.h"
-#include "core/windowunits.h"
+#include "widgets/controls.h"
+#include "widgets/windowunits.h"
 
 #include <QPushButton>
 

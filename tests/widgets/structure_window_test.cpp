@@ -1,6 +1,6 @@
 #include "core/module1.h"
-#include "core/picturewindow.h"
-#include "core/structurewindow.h"
+#include "widgets/picturewindow.h"
+#include "widgets/structurewindow.h"
 
 #include <QDir>
 #include <QFile>

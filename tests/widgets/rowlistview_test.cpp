@@ -1,8 +1,8 @@
-#include "store/rowlistview.h"
+#include "widgets/rowlistview.h"
 
 #include "core/runtimeerror.h"
 #include "store/rowlist.h"
-#include "store/titleframe.h"
+#include "widgets/titleframe.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
-#include "core/structurewindow.h"
+#include "widgets/structurewindow.h"
 
 #include "core/module1.h"
-#include "core/picturefile.h"
-#include "core/picturewindow.h"
 #include "core/runtimeerror.h"
+#include "widgets/picturefile.h"
+#include "widgets/picturewindow.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "store/rowlistmodel.h"
+#include "widgets/rowlistmodel.h"
 
 #include "store/rowlist.h"
 

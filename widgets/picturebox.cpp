@@ -1,4 +1,4 @@
-#include "core/picturebox.h"
+#include "widgets/picturebox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "core/qtdesktop.h"
+#include "widgets/qtdesktop.h"
 
 #include <QApplication>
 #include <QDesktopServices>

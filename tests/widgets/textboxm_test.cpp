@@ -1,4 +1,4 @@
-#include "core/textboxm.h"
+#include "widgets/textboxm.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/rowlistmodel.h"
+#include "widgets/rowlistmodel.h"
 
 #include <QTreeView>
 

@@ -1,8 +1,8 @@
-#include "store/rowlistview.h"
+#include "widgets/rowlistview.h"
 
-#include "store/listnames.h"
 #include "store/rowlist.h"
-#include "store/rowlistdelegate.h"
+#include "widgets/listnames.h"
+#include "widgets/rowlistdelegate.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

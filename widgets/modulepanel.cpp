@@ -1,4 +1,4 @@
-#include "core/modulepanel.h"
+#include "widgets/modulepanel.h"
 
 #include <QFontMetricsF>
 

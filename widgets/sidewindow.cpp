@@ -1,4 +1,4 @@
-#include "core/sidewindow.h"
+#include "widgets/sidewindow.h"
 
 #include <QCloseEvent>
 

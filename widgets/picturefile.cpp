@@ -1,4 +1,4 @@
-#include "core/picturefile.h"
+#include "widgets/picturefile.h"
 
 #include "core/fileerrors.h"
 

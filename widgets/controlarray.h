@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/controls.h"
+#include "widgets/controls.h"
 
 #include <QObject>
 #include <map>

@@ -1,4 +1,4 @@
-#include "core/icons.h"
+#include "widgets/icons.h"
 
 #include <QDir>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "store/listnames.h"
+#include "widgets/listnames.h"
 
 namespace {
 

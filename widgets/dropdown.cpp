@@ -1,4 +1,4 @@
-#include "core/dropdown.h"
+#include "widgets/dropdown.h"
 
 DropDown::DropDown(const QString &name, QWidget *parent) : QComboBox(parent)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/picturebox.h"
-#include "core/sidewindow.h"
+#include "widgets/picturebox.h"
+#include "widgets/sidewindow.h"
 
 #include <QLabel>
 

@@ -1,4 +1,4 @@
-#include "core/controls.h"
+#include "widgets/controls.h"
 
 #include <QLabel>
 

@@ -1,7 +1,7 @@
-#include "store/titleframe.h"
+#include "widgets/titleframe.h"
 
-#include "store/rowlistdelegate.h"
-#include "store/rowlistview.h"
+#include "widgets/rowlistdelegate.h"
+#include "widgets/rowlistview.h"
 
 #include <QPainter>
 #include <QStyle>

@@ -1,4 +1,4 @@
-#include "store/rowlistdelegate.h"
+#include "widgets/rowlistdelegate.h"
 
 #include "store/rowlist.h"
 

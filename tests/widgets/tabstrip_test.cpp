@@ -1,4 +1,4 @@
-#include "core/tabstrip.h"
+#include "widgets/tabstrip.h"
 
 #include <QSignalSpy>
 #include <QTest>

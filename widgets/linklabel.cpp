@@ -1,4 +1,4 @@
-#include "core/linklabel.h"
+#include "widgets/linklabel.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
