@@ -51,7 +51,6 @@ public:
 
 Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop),
-      m_network(module.AppFolder + QStringLiteral("/Alembra_network.so")),
       m_miseAjour1(desktop, m_network, module.AppFolder), m_tray(*this, module.OptionSlots)
 {
     setObjectName(QStringLiteral("Form1"));

@@ -7,7 +7,7 @@
 #include "reports/reportsave.h"
 #include "search/findbar.h"
 #include "update/miseajour.h"
-#include "update/pluginupdatenetwork.h"
+#include "update/qtupdatenetwork.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -87,7 +87,7 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
     ReportSave m_reportSave;
-    PluginUpdateNetwork m_network;
+    QtUpdateNetwork m_network;
     MiseAjour m_miseAjour1;
 
     CommandBars m_commandBars{*this};

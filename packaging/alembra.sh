@@ -2,10 +2,9 @@
 # Starts Alembra from a program folder of the user's own: the program writes its options beside itself and puts its
 # database back there, which a folder of the system does not let it do.
 #
-# In the user's folder a link is ours and a file is the user's, except for the executable and its plug-in, the original
-# database, and the working one as long as it is as it came. So pictures, menu and help follow what is installed, and
-# what the user puts in the place of one stays. Nothing else in the folder is touched: reports and copies are saved
-# there.
+# In the user's folder a link is ours and a file is the user's, except for the executable, the original database, and
+# the working one as long as it is as it came. So pictures, menu and help follow what is installed, and what the user
+# puts in the place of one stays. Nothing else in the folder is touched: reports and copies are saved there.
 #
 # Entries come one by one, each whole or not at all, and the stamp last: a renewal that was interrupted is done again.
 set -u
@@ -56,8 +55,8 @@ same() {
 }
 
 current() {
-    [ -x "$folder/Alembra_uk" ] && [ -f "$folder/Alembra_network.so" ] && [ -f "$folder/options_uk.ini" ] &&
-        [ -f "$folder/.release" ] && read -r there <"$folder/.release" && [ "$there" = "$release" ]
+    [ -x "$folder/Alembra_uk" ] && [ -f "$folder/options_uk.ini" ] && [ -f "$folder/.release" ] &&
+        read -r there <"$folder/.release" && [ "$there" = "$release" ]
 }
 
 # One link for each file, not for each folder: the program counts them in its statistics.
@@ -90,7 +89,6 @@ renew() {
         status=$Kept
     fi
     put "$original" "$origin"
-    put "$binaries/plugins/Alembra_network.so" "$folder/Alembra_network.so"
     put "$binaries/Alembra_uk" "$folder/Alembra_uk"
     [ -e "$folder/options_uk.ini" ] || put "$template/options_uk.ini" "$folder/options_uk.ini"
     link_files

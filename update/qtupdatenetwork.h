@@ -5,7 +5,7 @@
 #include <chrono>
 
 /// The network by Qt. While a download runs, the user's input waits and the pointer is the one for waiting.
-class QtUpdateNetwork : public UpdateNetwork
+class QtUpdateNetwork final : public UpdateNetwork
 {
 public:
     struct Limits

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include <QString>
 
 /// The network, as far as the check for a new version needs it. Tests answer in its place.
 class UpdateNetwork
@@ -20,7 +20,3 @@ public:
     /// removed.
     virtual void download(const QString &address, const QString &path) = 0;
 };
-
-// With the number of this interface: a plug-in of another release does not fit, and is as good as none.
-#define UpdateNetworkInterface "alembra.UpdateNetwork/1"
-Q_DECLARE_INTERFACE(UpdateNetwork, UpdateNetworkInterface)

@@ -13,7 +13,6 @@ private Q_SLOTS:
     void aSecondStartEndsInFavourOfTheFirst();
     void aKilledInstanceDoesNotBlockTheNext();
     void foldersDoNotKnowOfOneAnother();
-    void aStartDoesNotLoadTheNetwork();
     void aFailedStartIsReportedOnStandardError();
 
 private:
@@ -87,22 +86,6 @@ void ProcessTest::foldersDoNotKnowOfOneAnother()
         process->kill();
         process->waitForFinished();
     }
-}
-
-// Two milliseconds and two mebibytes at every start, for one click in a month.
-void ProcessTest::aStartDoesNotLoadTheNetwork()
-{
-    const ProgramFolder folder;
-    const std::unique_ptr<QProcess> process = start(folder);
-    QTest::qWait(1000);
-    QVERIFY(answers(folder)); // so it stands
-    QFile map(QStringLiteral("/proc/%1/maps").arg(process->processId()));
-    QVERIFY(map.open(QIODevice::ReadOnly));
-    const QByteArray libraries = map.readAll();
-    process->kill();
-    process->waitForFinished();
-    QVERIFY(libraries.contains("/libQt6Widgets.so"));
-    QVERIFY(!libraries.contains("/libQt6Network.so"));
 }
 
 void ProcessTest::aFailedStartIsReportedOnStandardError()

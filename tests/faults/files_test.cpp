@@ -18,8 +18,6 @@ private Q_SLOTS:
     void spoiltAtStart();
     void spoiltBackup_data();
     void spoiltBackup();
-    void spoiltNetwork_data();
-    void spoiltNetwork();
     void spoiltTips_data();
     void spoiltTips();
     void spoiltPictures_data();
@@ -105,30 +103,6 @@ void FilesTest::spoiltBackup()
              qPrintable(run.desktop.boxes.constLast().first));
     if (fault != "empty")
         QCOMPARE(folder.read(QStringLiteral("Data/Database_uk.mdb")), QByteArray("damage"));
-}
-
-void FilesTest::spoiltNetwork_data()
-{
-    QTest::addColumn<QByteArray>("fault");
-    for (const char *fault : {"missing", "empty", "cut", "of another kind", "unreadable", "a folder"})
-        QTest::newRow(fault) << QByteArray(fault);
-}
-
-// Not looked at by a start; the check for a new version then tells that it failed.
-void FilesTest::spoiltNetwork()
-{
-    QFETCH(QByteArray, fault);
-    const ProgramFolder folder;
-    Fault::bring(folder, QStringLiteral("Alembra_network.so"), fault);
-    FaultRun run;
-    run.start(folder, [&](Form1 &form) {
-        QVERIFY(run.desktop.boxes.isEmpty());
-        form.executeCommand(1135);
-    });
-    QVERIFY(run.stood);
-    QVERIFY2(run.outcome().startsWith(QStringLiteral("Error during checking for updates.")),
-             qPrintable(run.outcome()));
-    QCOMPARE(run.desktop.boxes.size(), 1);
 }
 
 void FilesTest::spoiltTips_data()

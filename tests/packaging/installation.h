@@ -26,7 +26,6 @@ public:
     void install(const QByteArray &name)
     {
         writeInstalled(QStringLiteral("lib/alembra/Alembra_uk"), program(name), true);
-        writeInstalled(QStringLiteral("lib/alembra/plugins/Alembra_network.so"), content(name));
         for (const char *file :
              {"Backup/Database_uk_origin.rbk", "options_uk.ini", "menuc_uk.xcb", "Data/ir/1.gif",
               "Data/nmr/1h/1.gif", "Data/cristal/Face-centered cubic.bmp"})

@@ -8,7 +8,6 @@ constexpr const char *Options = "options_uk.ini";
 constexpr const char *Database = "Data/Database_uk.mdb";
 constexpr const char *Original = "Backup/Database_uk_origin.rbk";
 constexpr const char *Chart = "Data/nmr/1h/1.gif";
-constexpr const char *Plugin = "Alembra_network.so";
 constexpr const char *Crystal = "Data/cristal/Face-centered cubic.bmp";
 
 } // namespace
@@ -25,7 +24,7 @@ private Q_SLOTS:
     void anUpgradeRenewsWhatIsOursAndKeepsTheRest();
     void theDatabaseIsRenewedUnlessTheUserChangedIt_data();
     void theDatabaseIsRenewedUnlessTheUserChangedIt();
-    void deletedOptionsAndPlugInComeBack();
+    void deletedOptionsComeBack();
     void anInterruptedRenewalIsDoneAgain_data();
     void anInterruptedRenewalIsDoneAgain();
     void startsAtOnceDoNotDisturbEachOther();
@@ -38,7 +37,7 @@ private:
     static void compareFolder(const Installation &installation, const QByteArray &name)
     {
         QCOMPARE(Installation::read(installation.user("Alembra_uk")), Installation::program(name));
-        for (const char *file : {Database, Original, Plugin, Chart, Crystal, "Data/ir/1.gif", "menuc_uk.xcb"})
+        for (const char *file : {Database, Original, Chart, Crystal, "Data/ir/1.gif", "menuc_uk.xcb"})
             QCOMPARE(Installation::read(installation.user(file)), Installation::content(name));
         QVERIFY(
             QDir(installation.userFolder()).entryList({u"*.new"_s}, QDir::Files | QDir::Hidden).isEmpty());
@@ -55,7 +54,7 @@ void LauncherTest::theFirstStartMakesAProgramFolderAndStartsTheProgramThere()
     QCOMPARE(run.error, QString());
     QCOMPARE(run.status, 7);
     compareFolder(installation, "one");
-    for (const char *own : {"Alembra_uk", Plugin, Options, Database, Original})
+    for (const char *own : {"Alembra_uk", Options, Database, Original})
         QVERIFY2(!QFileInfo(installation.user(own)).isSymLink(), own);
     for (const char *linked : {Chart, Crystal, "menuc_uk.xcb"})
         QVERIFY2(QFileInfo(installation.user(linked)).isSymLink(), linked);
@@ -161,15 +160,13 @@ void LauncherTest::theDatabaseIsRenewedUnlessTheUserChangedIt()
     QVERIFY2(installation.start().error.isEmpty(), "told more than once");
 }
 
-void LauncherTest::deletedOptionsAndPlugInComeBack()
+void LauncherTest::deletedOptionsComeBack()
 {
     const Installation installation;
     installation.start();
-    for (const char *file : {Options, Plugin}) {
-        QFile::remove(installation.user(file));
-        installation.start();
-        QCOMPARE(Installation::read(installation.user(file)), Installation::content("one"));
-    }
+    QFile::remove(installation.user(Options));
+    installation.start();
+    QCOMPARE(Installation::read(installation.user(Options)), Installation::content("one"));
 }
 
 void LauncherTest::anInterruptedRenewalIsDoneAgain_data()

@@ -1,10 +1,7 @@
-#include "core/runtimeerror.h"
-#include "update/pluginupdatenetwork.h"
 #include "update/qtupdatenetwork.h"
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLibraryInfo>
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -117,9 +114,6 @@ private Q_SLOTS:
     void otherAddressesFetchNothing_data();
     void otherAddressesFetchNothing();
     void aPathThatCannotBeWrittenStaysAsItIs();
-    void thePlugInFetchesAsWell();
-    void aFileThatIsNoPlugInOfOursIsAnError_data();
-    void aFileThatIsNoPlugInOfOursIsAnError();
 
 private:
     QString target() const { return m_folder.filePath(QStringLiteral("Tempo.net")); }
@@ -212,46 +206,6 @@ void UpdateNetworkTest::aPathThatCannotBeWrittenStaysAsItIs()
     QVERIFY(QDir().mkpath(folder + QStringLiteral("/inside")));
     QtUpdateNetwork().download(server.address(QStringLiteral("/good")), folder);
     QVERIFY(QFileInfo::exists(folder + QStringLiteral("/inside")));
-}
-
-// As the program does it; the file may also come back between two checks.
-void UpdateNetworkTest::thePlugInFetchesAsWell()
-{
-    const QString plugin = m_folder.filePath(QStringLiteral("Alembra_network.so"));
-    Server server;
-    PluginUpdateNetwork network(plugin);
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, network.isConnected());
-    QVERIFY(QFile::copy(QStringLiteral(ALEMBRA_FOLDER "/Alembra_network.so"), plugin));
-
-    QCOMPARE(network.isConnected(), QtUpdateNetwork().isConnected());
-    network.download(server.address(QStringLiteral("/good")), target());
-
-    QFile file(target());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), Good);
-}
-
-void UpdateNetworkTest::aFileThatIsNoPlugInOfOursIsAnError_data()
-{
-    QTest::addColumn<QString>("plugin");
-    const QString path = m_folder.filePath(QStringLiteral("text.so"));
-    write(path, "no library");
-    QTest::newRow("none") << QString();
-    QTest::newRow("missing") << m_folder.filePath(QStringLiteral("missing.so"));
-    QTest::newRow("a text") << path;
-    QTest::newRow("for something else")
-        << QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/imageformats/libqgif.so");
-    QTest::newRow("a program") << QCoreApplication::applicationFilePath();
-}
-
-void UpdateNetworkTest::aFileThatIsNoPlugInOfOursIsAnError()
-{
-    QFETCH(QString, plugin);
-    write(target(), "not ours to touch");
-    PluginUpdateNetwork network(plugin);
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, network.isConnected());
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, network.download(QStringLiteral("http://127.0.0.1:1"), target()));
-    QVERIFY(QFile::exists(target()));
 }
 
 QTEST_MAIN(UpdateNetworkTest)
