@@ -15,10 +15,29 @@
 
 #include <QApplication>
 
+namespace {
+
+/// Whether another instance has taken over. One that exists but does not answer ends the process.
+bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
+{
+    switch (instance.activatePrevious()) {
+    case SingleInstance::Previous::None:
+        return false;
+    case SingleInstance::Previous::Answered:
+        return true;
+    case SingleInstance::Previous::Silent:
+        break;
+    }
+    desktop.endWithMessage(QStringLiteral("Alembra is already running, but it does not answer. Wait until it "
+                                          "has finished its work, or end it, and start Alembra again."));
+}
+
+} // namespace
+
 int Main(Desktop &desktop, const QString &appFolder)
 {
     SingleInstance instance(appFolder);
-    if (instance.activatePrevious())
+    if (previousInstanceAnswers(instance, desktop))
         return 0;
     instance.listen();
 
@@ -34,7 +53,6 @@ int Main(Desktop &desktop, const QString &appFolder)
         [&] { recovery.offerAfterMissingTable(); });
     frmload splash;
     Form1 form(module, store, desktop);
-    QObject::connect(&instance, &SingleInstance::activated, &form, &Form1::restoreAndRaise);
     form.load(splash, loader);
     form.show();
 
@@ -45,5 +63,7 @@ int Main(Desktop &desktop, const QString &appFolder)
     form.options().loadHidden();
     splash.close();
     form.showStartModule();
+    // Not before the window is complete: a call that comes earlier has no window to raise.
+    QObject::connect(&instance, &SingleInstance::activated, &form, &Form1::restoreAndRaise);
     return QApplication::exec();
 }

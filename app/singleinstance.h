@@ -1,44 +1,43 @@
 #pragma once
 
-#include <QByteArray>
-#include <QObject>
-#include <memory>
-
-class QSocketNotifier;
+#include <QLocalServer>
 
 /// Lets one instance of the program run for a user and a program folder.
 ///
-/// The running one listens on a local socket; a new one calls it there and it comes to the front. Two that
-/// start at the same moment may both find nobody.
-///
-/// The socket is the platform's own: the one of Qt comes with all of its network, and a start must not pay
-/// for what one click in a month needs.
+/// The running instance listens on a local socket. A new one calls it there, gets one byte as the answer, and
+/// ends. Two instances that start at the same moment may both find nobody.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
 
 public:
+    /// What became of the call to a previous instance.
+    enum class Previous {
+        None,     ///< nobody listens
+        Answered, ///< it comes to the front
+        Silent,   ///< it exists, but gave no answer in time
+    };
+
     explicit SingleInstance(const QString &appFolder);
-    /// Takes the socket away, if there is one.
-    ~SingleInstance() override;
 
-    /// True if another instance answered; it has then been asked to come to the front.
-    bool activatePrevious();
+    /// Calls the previous instance and waits for its answer, three seconds at most.
+    Previous activatePrevious() const;
 
-    /// Answers to later instances from now on. A socket that a killed instance left behind is removed; call
-    /// it only after activatePrevious() found nobody.
+    /// Answers later instances from now on, whenever an event loop runs. Replaces the socket of a killed
+    /// instance, so call it only after activatePrevious() found nobody. Without a socket the program still
+    /// runs, only not alone.
     void listen();
 
+    /// Stops answering: the next instance finds nobody and starts. The destructor does the same.
+    void close() { m_server.close(); }
+
 Q_SIGNALS:
-    /// Another instance was started and has ended again in favour of this one.
+    /// A later instance called and has been answered.
     void activated();
 
 private:
-    class Socket;
+    void answer();
 
-    void accept();
-
-    const QByteArray m_path;
-    std::unique_ptr<Socket> m_socket; ///< none while nobody is listened to
-    std::unique_ptr<QSocketNotifier> m_callers;
+    const QString m_socket; ///< full path
+    QLocalServer m_server;
 };

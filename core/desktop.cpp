@@ -3,13 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-void Desktop::endWithReport(const RuntimeError &error)
+void Desktop::endWithMessage(const QString &text)
 {
-    // On standard error first: the box waits for somebody, and there may be nobody.
-    const QString report = error.report();
-    std::fputs(qUtf8Printable(report + QLatin1Char('\n')), stderr);
+    // Standard error first: the box waits for a user, and there may be none.
+    std::fputs(qUtf8Printable(text + QLatin1Char('\n')), stderr);
     std::fflush(stderr);
-    messageBox(report, Critical);
+    messageBox(text, Critical);
     endProcess(1);
     std::abort(); // not reached; the compiler forgets across a virtual call that it never returns
 }

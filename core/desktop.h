@@ -46,8 +46,11 @@ public:
     /// Ends the process at once, without any clean-up. It never returns; a test's stand-in throws.
     [[noreturn]] virtual void endProcess(int status) = 0;
 
-    /// The run-time error report: a critical box, the same on standard error, and the end with status 1.
-    [[noreturn]] void endWithReport(const RuntimeError &error);
+    /// A critical box, the same on standard error, and the end with status 1.
+    [[noreturn]] void endWithMessage(const QString &text);
+
+    /// Ends with the run-time error report.
+    [[noreturn]] void endWithReport(const RuntimeError &error) { endWithMessage(error.report()); }
 };
 
 /// Runs @p handler at the edge to the event loop: an error that met no trap ends the program with its report.
