@@ -110,7 +110,7 @@ inline void bring(const ProgramFolder &folder, const QString &below, const QByte
     if (fault == "empty")
         folder.write(below, {});
     else if (fault == "cut")
-        folder.write(below, whole.first(whole.size() / 2));
+        folder.write(below, whole.first(whole.size() / 2 + 1)); // not at the end of a page of a database
     else if (fault == "of another kind")
         folder.write(below, QByteArray("This is no such file.\r\n").repeated(20));
     else if (fault == "a folder")
