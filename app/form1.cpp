@@ -231,6 +231,7 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
 void Form1::loadMenus()
 {
     m_commandBars.load(MenuLayout::read(m_module.AppFolder + QStringLiteral("/menuc_uk.xcb")));
+    m_ownActions.place();
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
     // The pane whole, where the screen is large enough. adjustSize() would hold it to two thirds of the
@@ -351,6 +352,7 @@ void Form1::updateCommands()
                   PanelId::Biochemistry}) ||
         m_spectroscopy->isListView3_27Shown());
     m_commandBars.action(1125).setEnabled(false);
+    m_copyActions.update();
 }
 
 void Form1::closeEvent(QCloseEvent *event)

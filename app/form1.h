@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/commandbars.h"
+#include "app/copyactions.h"
+#include "app/ownactions.h"
 #include "app/paneswitch.h"
 #include "app/trayicon.h"
 #include "calc/unitlists.h"
@@ -91,6 +93,8 @@ private:
     MiseAjour m_miseAjour1;
 
     CommandBars m_commandBars{*this};
+    OwnActions m_ownActions{*this};
+    CopyActions m_copyActions{m_ownActions, *this};
     TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;

@@ -5,15 +5,6 @@
 #include <QButtonGroup>
 #include <QLabel>
 
-bool BrowserPane::isOnTop(const QWidget &control) const
-{
-    if (control.isHidden())
-        return false;
-    const QPoint middle = control.mapTo(this, control.rect().center());
-    const QWidget *uppermost = childAt(middle);
-    return uppermost && (uppermost == &control || control.isAncestorOf(uppermost));
-}
-
 RowListView *BrowserPane::makeList(const QString &name, RowList &list, const QList<ListColumn> &columns,
                                    const QRect &place, QWidget *parent)
 {
@@ -91,7 +82,7 @@ QWidget &BrowserPane::control(const QString &name)
 void BrowserPane::keepFocusOffCoveredControls()
 {
     const auto set = [this](QWidget *each) {
-        each->setFocusPolicy(isOnTop(*each) ? Qt::StrongFocus : Qt::NoFocus);
+        each->setFocusPolicy(Controls::isOnTop(*each, *this) ? Qt::StrongFocus : Qt::NoFocus);
     };
     const auto lists = findChildren<RowListView *>();
     std::for_each(lists.begin(), lists.end(), set);

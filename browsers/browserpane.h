@@ -20,9 +20,6 @@ class BrowserPane : public ModulePanel
 public:
     using ModulePanel::ModulePanel;
 
-    /// Whether the user can see this control, or another control covers it. False for a hidden one.
-    bool isOnTop(const QWidget &control) const;
-
 protected:
     RowListView *makeList(const QString &name, RowList &list, const QList<ListColumn> &columns,
                           const QRect &place, QWidget *parent);

@@ -2,6 +2,14 @@
 
 #include <QLabel>
 
+bool Controls::isOnTop(const QWidget &control, const QWidget &pane)
+{
+    if (!control.isVisibleTo(&pane))
+        return false;
+    const QWidget *uppermost = pane.childAt(control.mapTo(&pane, control.rect().center()));
+    return uppermost && (uppermost == &control || control.isAncestorOf(uppermost));
+}
+
 QFont Controls::largeType(QFont font)
 {
     font.setPixelSize(15);

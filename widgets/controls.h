@@ -15,6 +15,10 @@ inline bool isShown(const QWidget &control)
     return !control.isHidden();
 }
 
+/// Whether the user can see @p control, a descendant of @p pane, once the pane is shown: it is not hidden,
+/// and no other control covers its middle.
+bool isOnTop(const QWidget &control, const QWidget &pane);
+
 /// Gives @p control its name in the system and returns it.
 template<class W>
 W *named(W *control, const QString &name)

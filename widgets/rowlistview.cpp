@@ -4,6 +4,7 @@
 #include "widgets/listnames.h"
 #include "widgets/rowlistdelegate.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -70,11 +71,30 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     for (int column = 0; column < m_model->columnCount(); ++column)
         header()->resizeSection(column, m_model->columns()[column].width);
 
+    buildActions();
     connect(&list, &RowList::gridLinesChanged, viewport(), qOverload<>(&QWidget::update));
     connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT rowClicked(index.row()); });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(index.row()); });
+}
+
+// Both have their shortcuts while the list has the focus, and make up its context menu.
+void RowListView::buildActions()
+{
+    const auto add = [this](const QString &caption, const QKeySequence &shortcut,
+                            void (RowListView::*copy)()) {
+        auto *action = new QAction(caption, this);
+        action->setShortcut(shortcut);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setShortcutVisibleInContextMenu(true);
+        connect(action, &QAction::triggered, this, copy);
+        addAction(action);
+    };
+    add(QStringLiteral("Copy &row"), QKeySequence(Qt::CTRL | Qt::Key_C), &RowListView::copyRow);
+    add(QStringLiteral("Copy &table"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+        &RowListView::copyTable);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void RowListView::showAsRecipes()
@@ -111,12 +131,13 @@ QString RowListView::rowText(int row) const
     return cells.join(QLatin1Char('\t'));
 }
 
-QString RowListView::selectedText() const
+void RowListView::copyRow()
 {
-    return selectedRow() < 0 ? QString() : rowText(selectedRow());
+    if (selectedRow() >= 0)
+        copy(rowText(selectedRow()));
 }
 
-QString RowListView::allText() const
+void RowListView::copyTable()
 {
     QStringList titles;
     for (const ListColumn &column : columns())
@@ -124,20 +145,11 @@ QString RowListView::allText() const
     QStringList lines(titles.join(QLatin1Char('\t')));
     for (int row = 0; row < m_model->rowCount(); ++row)
         lines << rowText(row);
-    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    copy(lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
 }
 
 void RowListView::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_C && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
-        copy(allText());
-        return;
-    }
-    if (event->matches(QKeySequence::Copy)) {
-        if (selectedRow() >= 0)
-            copy(selectedText());
-        return;
-    }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && selectedRow() >= 0) {
         Q_EMIT rowDoubleClicked(selectedRow());
@@ -146,6 +158,15 @@ void RowListView::keyPressEvent(QKeyEvent *event)
     const int before = selectedRow();
     QTreeView::keyPressEvent(event);
     if (selectedRow() >= 0 && selectedRow() != before)
+        Q_EMIT rowClicked(selectedRow());
+}
+
+// A row that the context menu is opened on is chosen like any other.
+void RowListView::mousePressEvent(QMouseEvent *event)
+{
+    const int before = selectedRow();
+    QTreeView::mousePressEvent(event);
+    if (event->button() == Qt::RightButton && selectedRow() >= 0 && selectedRow() != before)
         Q_EMIT rowClicked(selectedRow());
 }
 

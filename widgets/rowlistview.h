@@ -9,9 +9,9 @@ class RowListDelegate;
 /// A report-view list on the screen: the rows of one RowList in columns of fixed width, one selected row.
 ///
 /// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
-/// the columns to copied text and to screen readers. Ctrl+C copies the selected row, Ctrl+Shift+C the list
-/// with its titles, as tab-separated text and as an HTML table. A text that does not fit shows whole on
-/// hover.
+/// the columns to copied text and to screen readers. The context menu copies the selected row (Ctrl+C) or
+/// the list with its titles (Ctrl+Shift+C), as tab-separated text and as an HTML table. A text that does not
+/// fit shows whole on hover.
 class RowListView final : public QTreeView
 {
     Q_OBJECT
@@ -31,9 +31,9 @@ public:
 
     const QList<ListColumn> &columns() const { return m_model->columns(); }
 
-    /// The selected row, or all rows below their titles, as tab-separated lines.
-    QString selectedText() const;
-    QString allText() const;
+    /// Nothing without a selected row.
+    void copyRow();
+    void copyTable();
 
 Q_SIGNALS:
     /// A click on a row, or its choice by the keyboard. Zero-based.
@@ -42,10 +42,12 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool viewportEvent(QEvent *event) override;
 
 private:
+    void buildActions();
     void spanHeadings();
     QString rowText(int row) const;
 

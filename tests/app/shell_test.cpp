@@ -1,12 +1,18 @@
 #include "app/commandbars.h"
 #include "app/commands.h"
+#include "app/copyactions.h"
 #include "app/frmload.h"
 #include "app/menulayout.h"
+#include "app/ownactions.h"
 #include "core/runtimeerror.h"
+#include "store/rowlist.h"
+#include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSet>
 #include <QTemporaryDir>
@@ -24,6 +30,8 @@ private Q_SLOTS:
     void malformedLayoutIsRefused();
     void missingLayoutIsFileNotFound();
     void unknownIdsArePlacedAndDoNothing();
+    void editMenuCopiesFromTheList_data();
+    void editMenuCopiesFromTheList();
     void toolBarLooksAsTheStyleDrawsIt_data();
     void toolBarLooksAsTheStyleDrawsIt();
     void menuStyleJumpsFromThreeToFive();
@@ -121,6 +129,45 @@ void ShellTest::unknownIdsArePlacedAndDoNothing()
     QCOMPARE(bars.action(1107).objectName(), QStringLiteral("Id1107"));
     QVERIFY(!findCommand(1107));
     QVERIFY(!findCommand(1146));
+}
+
+void ShellTest::editMenuCopiesFromTheList_data()
+{
+    QTest::addColumn<QString>("caption"); // of a menu in the layout
+    QTest::newRow("beside commands") << "&Edit";
+    QTest::newRow("in a menu of its own") << "&Fichier";
+}
+
+void ShellTest::editMenuCopiesFromTheList()
+{
+    QFETCH(const QString, caption);
+    QMainWindow window;
+    CommandBars bars(window);
+    OwnActions own(window);
+    CopyActions copyActions(own, window);
+    connect(&bars, &CommandBars::updateWanted, &copyActions, &CopyActions::update);
+    bars.load({{{caption, {{1121, "&Find...", {}, {}, {}}}}}, {}});
+    own.place();
+    RowList rows;
+    for (const QStringView text : {u"Acetone", u"Water"})
+        rows.append(text);
+    rows.filled();
+    window.setCentralWidget(new RowListView("ListView1", rows, {{"Name", 100}}, &window));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto choose = [&window](Qt::Key key) {
+        QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+        QVERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), key);
+        QVERIFY(!QApplication::activePopupWidget());
+    };
+
+    choose(Qt::Key_T); // the only list on screen
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Name\nAcetone\nWater\n"));
+    window.centralWidget()->setFocus();
+    QTest::keyClick(window.centralWidget(), Qt::Key_Down);
+    choose(Qt::Key_R);
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Water"));
 }
 
 void ShellTest::toolBarLooksAsTheStyleDrawsIt_data()

@@ -38,7 +38,7 @@ struct Worked
     {
         QStringList onTop;
         for (const QString &name : names) {
-            if (pane.isOnTop(*get<QWidget>(name)))
+            if (Controls::isOnTop(*get<QWidget>(name), pane))
                 onTop << name;
         }
         return onTop;

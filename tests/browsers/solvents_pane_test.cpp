@@ -36,7 +36,7 @@ public:
     {
         QStringList names;
         for (const QWidget *each : pane.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-            if (pane.isOnTop(*each))
+            if (Controls::isOnTop(*each, pane))
                 names << each->objectName();
         }
         names.sort();

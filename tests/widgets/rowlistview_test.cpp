@@ -76,6 +76,9 @@ void RowListViewTest::copyTakesTheRowOrTheListWithItsTitles()
     RowList list;
     fill(list, 2);
     RowListView view(QStringLiteral("ListView1"), list, columns(), nullptr);
+    view.resize(300, 200);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view)); // shortcuts ask for it
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
 
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
