@@ -46,12 +46,15 @@ std::optional<QString> JetCursor::text(const JetColumn &column)
 
 bool JetCursor::appendText(const JetColumn &column, QString &text)
 {
+    constexpr qsizetype OffsetSize = 2; // what even an empty text takes in its row
+    const qsizetype before = text.size();
     if (column.type == Jet::Type::Boolean) {
         text += JetTexts::fromBoolean(m_row->bit(column));
-        return true;
-    }
-    const std::optional<JetBytes> cell = m_row->cell(column);
-    if (cell)
+    } else if (const std::optional<JetBytes> cell = m_row->cell(column)) {
         m_texts.append(column, *cell, text);
-    return cell.has_value();
+    } else {
+        return false;
+    }
+    m_pages->spend(text.size() - before + OffsetSize);
+    return true;
 }

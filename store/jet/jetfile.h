@@ -10,7 +10,7 @@
 /// An Access database of the form Jet 4 (Access 2000 to 2003), read whole into memory and never written.
 ///
 /// Everything that fails is a RuntimeError. Damage to the file is always DatabaseFailure: no number in a file
-/// leads outside of it, and nothing runs longer than the file is long.
+/// leads outside of it, and the time to read it grows with its size.
 class JetFile final
 {
 public:

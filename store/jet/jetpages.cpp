@@ -12,6 +12,24 @@ const QByteArrayView AceSignature("\0\1\0\0Standard ACE DB\0", 20);
 // Pages that one bitmap page of a usage map speaks of.
 constexpr quint32 PagesPerBitmap = (PageSize - 4) * 8;
 
+// What a row costs besides its bytes: the pointer to it and its slot.
+constexpr qsizetype RowWork = 6;
+
+// Room for small files of many numbers, which cost more than the bytes that store them.
+constexpr qsizetype SmallFileWork = qsizetype(16) * 1024 * 1024;
+
+// Rows fill a page from its end: each ends where the one before it starts.
+JetSlot slotAt(JetBytes page, int index)
+{
+    const int count = page.u16(SlotCountAt);
+    const quint16 slot = page.u16(SlotsAt + 2 * index);
+    const int start = slot & SlotOffset;
+    const int end = index == 0 ? PageSize : page.u16(SlotsAt + 2 * (index - 1)) & SlotOffset;
+    if (index >= count || start < SlotsAt + 2 * count)
+        jetDamage("a row is not among those of its page");
+    return {page.mid(start, end - start), (slot & SlotIsPointer) != 0, (slot & SlotIsDeleted) != 0};
+}
+
 } // namespace
 
 void jetDamage(const char *what)
@@ -19,7 +37,7 @@ void jetDamage(const char *what)
     throw RuntimeError(ErrorNumber::DatabaseFailure, QString::fromLatin1(what));
 }
 
-JetPages::JetPages(QByteArray file) : m_file(std::move(file))
+JetPages::JetPages(QByteArray file) : m_file(std::move(file)), m_workLeft(2 * m_file.size() + SmallFileWork)
 {
     const QByteArrayView start = QByteArrayView(m_file).first(qMin<qsizetype>(m_file.size(), 20));
     if (start != Signature && start != AceSignature)
@@ -73,49 +91,48 @@ JetBytes JetPages::page(quint32 number, PageType type) const
     return page;
 }
 
-QList<JetSlot> JetPages::slotsIn(JetBytes page) const
+void JetPages::spend(qsizetype bytes) const
 {
-    const int count = page.u16(SlotCountAt);
-    const int firstRow = SlotsAt + 2 * count;
-    QList<JetSlot> result;
-    result.reserve(count);
-    int end = PageSize;
-    for (int i = 0; i < count; ++i) {
-        const quint16 slot = page.u16(SlotsAt + 2 * i);
-        const int start = slot & SlotOffset;
-        if (start < firstRow || start > end)
-            jetDamage("the rows of a page overlap");
-        result.append(
-            {page.mid(start, end - start), (slot & SlotIsPointer) != 0, (slot & SlotIsDeleted) != 0});
-        end = start;
-    }
-    return result;
+    m_workLeft -= bytes;
+    if (m_workLeft < 0)
+        jetDamage("the file says the same thing too many times");
 }
 
-QList<JetSlot> JetPages::slotsOf(quint32 number, quint32 owner) const
+JetBytes JetPages::dataPage(quint32 number, quint32 owner) const
 {
     const JetBytes data = page(number, DataPage);
     if (data.u32(4) != owner)
         jetDamage("a data page belongs to another table");
-    return slotsIn(data);
+    return data;
+}
+
+QList<JetSlot> JetPages::slotsOf(quint32 number, quint32 owner) const
+{
+    const JetBytes data = dataPage(number, owner);
+    spend(PageSize);
+    QList<JetSlot> result;
+    const int count = data.u16(SlotCountAt);
+    result.reserve(count);
+    for (int i = 0; i < count; ++i)
+        result.append(slotAt(data, i));
+    return result;
 }
 
 JetBytes JetPages::row(JetRowPointer pointer, quint32 owner, bool flaggedDeleted) const
 {
-    const QList<JetSlot> rows = slotsOf(pointer >> 8, owner);
-    const qsizetype slot = pointer & 0xFF;
-    if (slot >= rows.size() || rows[slot].isPointer || rows[slot].isDeleted != flaggedDeleted)
+    const JetSlot slot = slotAt(dataPage(pointer >> 8, owner), int(pointer & 0xFF));
+    if (slot.isPointer || slot.isDeleted != flaggedDeleted)
         jetDamage("a pointer leads to no row");
-    return rows[slot].bytes;
+    spend(slot.bytes.size() + RowWork);
+    return slot.bytes;
 }
 
 QList<quint32> JetPages::usageMap(JetRowPointer pointer) const
 {
-    const QList<JetSlot> rows = slotsIn(page(pointer >> 8, DataPage));
-    const qsizetype slot = pointer & 0xFF;
-    if (slot >= rows.size() || rows[slot].isPointer || rows[slot].isDeleted)
+    const JetSlot slot = slotAt(page(pointer >> 8, DataPage), int(pointer & 0xFF));
+    if (slot.isPointer || slot.isDeleted)
         jetDamage("a pointer leads to no usage map");
-    const JetBytes map = rows[slot].bytes;
+    const JetBytes map = slot.bytes;
 
     QList<quint32> pages;
     switch (map.u8(0)) {

@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-/// Where a row stands: page number and slot, `page << 8 | slot`.
+/// Where a row is: page number and slot, `page << 8 | slot`.
 using JetRowPointer = quint32;
 
 /// One slot of a data page.
@@ -19,17 +19,20 @@ struct JetSlot
 };
 
 /// The pages of a Jet 4 file, in plain form. Every function throws RuntimeError DatabaseFailure on damage.
+///
+/// Work is counted in bytes of the file. A sound file has each byte read about twice: with its page and with
+/// its cell. A crafted one can share a byte among thousands of rows or texts, so reading ends at a limit that
+/// grows with the size of the file.
 class JetPages final
 {
+    Q_DISABLE_COPY_MOVE(JetPages)
+
 public:
     /// @p file is the whole file. Older (Jet 3) and newer (.accdb) files are refused.
     explicit JetPages(QByteArray file);
 
     /// In pages.
     quint32 count() const { return quint32(m_file.size() / Jet::PageSize); }
-    /// In bytes.
-    qsizetype size() const { return m_file.size(); }
-
     /// The password of the file, empty if it has none.
     QString password() const;
 
@@ -45,10 +48,14 @@ public:
     /// The page numbers in the usage map at @p pointer, ascending; all of them exist.
     QList<quint32> usageMap(JetRowPointer pointer) const;
 
+    /// Counts @p bytes of work for all readers of the file together; damage once the limit is passed.
+    void spend(qsizetype bytes) const;
+
 private:
-    QList<JetSlot> slotsIn(JetBytes page) const;
+    JetBytes dataPage(quint32 number, quint32 owner) const;
     void addBits(JetBytes bitmap, quint32 firstPage, QList<quint32> *pages) const;
     void decodePages(quint32 key);
 
     QByteArray m_file;
+    mutable qsizetype m_workLeft;
 };

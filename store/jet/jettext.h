@@ -13,7 +13,7 @@
 class JetTexts final
 {
 public:
-    explicit JetTexts(const JetPages &pages);
+    explicit JetTexts(const JetPages &pages) : m_pages(pages) {}
 
     /// Appends @p cell, which is not Null. Not for Boolean, which has no bytes.
     void append(const JetColumn &column, JetBytes cell, QString &text);
@@ -24,5 +24,4 @@ private:
     QByteArray longValue(JetBytes cell);
 
     const JetPages &m_pages;
-    qsizetype m_longBytesLeft; ///< a file holds every long value once; to read more than it holds is a circle
 };

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void packedTexts_data();
     void packedTexts();
     void longTexts();
+    void aLongTextCostsItsOwnBytesAlone();
     void deletedAndMovedRows();
     void longDefinitionsAndBitmapPages();
     void encodedPages();
@@ -82,6 +83,19 @@ QByteArray textRow(const QString &text)
 }
 
 const QString Table = QStringLiteral("t");
+constexpr int RowsInPage = 150;
+
+// Every row of @p pages pages names the long text that begins with the first of @p pieces, on page 5.
+QByteArray longTextsFile(const Builder::Page &pieces, quint32 flags, int pages)
+{
+    Builder builder;
+    const quint32 first = builder.addLongValuePage(pieces);
+    const QByteArray cell = Builder::u32(flags) + Builder::u32(Builder::pointer(first, 0)) + Builder::u32(0);
+    const Builder::Page rows(RowsInPage, {Builder::row(1, {}, {cell}, {0})});
+    builder.addTable(Table, {{QStringLiteral("m"), Type::Memo, 0, 0}}, QList<Builder::Page>(pages, rows),
+                     quint32(pages * RowsInPage));
+    return builder.file();
+}
 
 } // namespace
 
@@ -224,6 +238,13 @@ void JetReaderTest::longTexts()
     builder.addTable(Table, {{QStringLiteral("m"), Type::Memo, 0, 0}}, {page}, 4);
     QCOMPARE(rowsOf(builder.file()),
              (Rows{{QStringLiteral("in")}, {QStringLiteral("one row")}, {text}, {QString()}}));
+}
+
+// Reading a text costs the same however many others are on its page.
+void JetReaderTest::aLongTextCostsItsOwnBytesAlone()
+{
+    const Builder::Page page(900, {QByteArray("ab")});
+    QCOMPARE(rowsOf(longTextsFile(page, 0x40000000 | 2, 40)).size(), 40 * RowsInPage);
 }
 
 void JetReaderTest::deletedAndMovedRows()
@@ -369,14 +390,11 @@ void JetReaderTest::damageIsAnError_data()
     add("a date that is no number", {{QStringLiteral("d"), Type::Date, 0, -1, 0, 8}},
         {{{Builder::fixedRow(1, bytesOf(std::numeric_limits<double>::quiet_NaN()), {0})}}}, 1);
 
-    const auto addLong = [](const char *what, quint32 flags, const QByteArray &piece, int rows = 1) {
-        Builder builder;
-        const quint32 longPage = builder.addLongValuePage({{piece}});
-        const QByteArray cell =
-            Builder::u32(flags) + Builder::u32(Builder::pointer(longPage, 0)) + Builder::u32(0);
-        builder.addTable(Table, {{QStringLiteral("m"), Type::Memo, 0, 0}},
-                         {Builder::Page(rows, {Builder::row(1, {}, {cell}, {0})})}, quint32(rows));
-        QTest::newRow(what) << builder.file();
+    const auto addPieces = [](const char *what, quint32 flags, const Builder::Page &pieces, int pages) {
+        QTest::newRow(what) << longTextsFile(pieces, flags, pages);
+    };
+    const auto addLong = [&](const char *what, quint32 flags, const QByteArray &piece) {
+        addPieces(what, flags, {{piece}}, 1);
     };
     const QByteArray toItself = Builder::u32(Builder::pointer(5, 0));
     addLong("a long text in a circle", 20000, toItself + "abcd");
@@ -385,7 +403,12 @@ void JetReaderTest::damageIsAnError_data()
     addLong("a long text that goes on", 2, Builder::u32(0) + "abcd");
     addLong("a long text beyond its row", 0x40000000 | 9, "abcd");
     addLong("a long text beyond the file", 0x3FFFFFFF, toItself + "abcd");
-    addLong("one long text for many rows", 0x40000000 | 4000, QByteArray(4000, 'a'), 100);
+    addPieces("one long text for many rows", 0x40000000 | 4000, {{QByteArray(4000, 'a')}}, 40);
+    Builder::Page letters;
+    for (quint32 next = 1; next < 254; ++next)
+        letters.append({Builder::u32(Builder::pointer(5, next)) + "a"});
+    letters.append({Builder::u32(0) + "a"});
+    addPieces("a long text letter by letter for many rows", 254, letters, 40);
 }
 
 void JetReaderTest::damageIsAnError()
