@@ -49,9 +49,10 @@ public:
 
 } // namespace
 
-Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
-    : m_module(module), m_store(store), m_desktop(desktop), m_reportSave(module, store, desktop),
-      m_miseAjour1(desktop, m_network, module.AppFolder), m_tray(*this, module.OptionSlots)
+Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop)
+    : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
+      m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
+      m_tray(*this, module.OptionSlots)
 {
     setObjectName(QStringLiteral("Form1"));
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
@@ -64,7 +65,8 @@ Form1::Form1(Module1 &module, DataStore &store, Desktop &desktop)
     buildPaneArea();
     m_options = std::make_unique<OptionsHost>(
         module, store, desktop,
-        OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy}, *this);
+        OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
+        *this);
     connectTray();
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
     connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
@@ -129,7 +131,7 @@ ModulePanel *Form1::makePanel(PanelId id)
     case PanelId::Spectroscopy:
         return makeSpectroscopy();
     case PanelId::Reactions:
-        m_reactions = new ReactionsPane(m_module, m_store, m_desktop, m_paneArea);
+        m_reactions = new ReactionsPane(m_module, m_store, m_laterTables, m_desktop, m_paneArea);
         return m_reactions;
     case PanelId::Electronics:
         return makeElectronics();
@@ -154,7 +156,7 @@ ModulePanel *Form1::makeSpectroscopy()
 
 ModulePanel *Form1::makeElectronics()
 {
-    auto *pane = new ElectronicsPane(m_store, m_desktop, m_paneArea);
+    auto *pane = new ElectronicsPane(m_store, m_laterTables, m_desktop, m_paneArea);
     connect(pane, &ElectronicsPane::mnemonicRequested, this, [this] { openMnemonic(*this); });
     return pane;
 }
@@ -219,8 +221,7 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
             splash.ProgressTick(); // one tick without a load, kept
         ++loader.LoadCounter;
     }
-    // The last four tables, resistors and reactions, are in the catalogue but not loaded: their lists stay
-    // empty.
+    // The last four tables, resistors and reactions, wait until the user asks for them.
     for (int step = LastLoadedStep + 1; step <= TableCatalog::LastStep; ++step) {
         splash.ProgressTick();
         if (step < TableCatalog::LastStep)

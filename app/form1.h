@@ -17,6 +17,7 @@
 class CalculationsPane;
 class Desktop;
 class ElementsPane;
+class LaterTables;
 class OptionsHost;
 class ReactionsPane;
 class SolventsPane;
@@ -32,7 +33,7 @@ class Form1 final : public QMainWindow
     Q_OBJECT
 
 public:
-    Form1(Module1 &module, DataStore &store, Desktop &desktop);
+    Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop);
     ~Form1() override;
 
     /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
@@ -87,6 +88,7 @@ private:
 
     Module1 &m_module;
     DataStore &m_store;
+    LaterTables &m_laterTables;
     Desktop &m_desktop;
     ReportSave m_reportSave;
     QtUpdateNetwork m_network;

@@ -7,6 +7,7 @@
 #include "core/module1.h"
 #include "elements/elementspane.h"
 #include "options/formoptions.h"
+#include "store/latertables.h"
 #include "widgets/windowunits.h"
 
 #include <QAction>
@@ -87,4 +88,9 @@ void OptionsHost::applyPictureOption()
 void OptionsHost::emptyEntryFields()
 {
     m_parts.calculations.emptyEntryFields();
+}
+
+void OptionsHost::databaseReplaced()
+{
+    m_parts.laterTables.forget();
 }

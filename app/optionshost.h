@@ -9,6 +9,7 @@ class CommandBars;
 class Desktop;
 class ElementsPane;
 class Formoptions;
+class LaterTables;
 class SpectroscopyPane;
 class TrayIcon;
 struct DataStore;
@@ -29,6 +30,7 @@ public:
         ElementsPane &elements;
         CalculationsPane &calculations;
         SpectroscopyPane &spectroscopy;
+        LaterTables &laterTables;
     };
 
     OptionsHost(Module1 &module, DataStore &store, Desktop &desktop, const Parts &parts, QWidget &form);
@@ -54,6 +56,7 @@ private:
     void refreshZoomPointer() override;
     void applyPictureOption() override;
     void emptyEntryFields() override;
+    void databaseReplaced() override;
 
     Module1 &m_module;
     DataStore &m_store;

@@ -10,6 +10,7 @@
 #include "store/databaseconnection.h"
 #include "store/databaserecovery.h"
 #include "store/datastore.h"
+#include "store/latertables.h"
 #include "store/loadtable.h"
 #include "store/recordset.h"
 
@@ -51,8 +52,9 @@ int Main(Desktop &desktop, const QString &appFolder)
     TableLoader loader(
         store, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },
         [&] { recovery.offerAfterMissingTable(); });
+    LaterTables laterTables(store, loader, recovery);
     frmload splash;
-    Form1 form(module, store, desktop);
+    Form1 form(module, store, laterTables, desktop);
     form.load(splash, loader);
     form.show();
 

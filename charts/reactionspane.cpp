@@ -8,6 +8,7 @@
 #include "store/datastore.h"
 #include "widgets/picturebox.h"
 #include "widgets/picturefile.h"
+#include "widgets/tablesnotice.h"
 #include "widgets/titleframe.h"
 #include "widgets/windowunits.h"
 
@@ -52,8 +53,9 @@ protected:
 
 } // namespace
 
-ReactionsPane::ReactionsPane(const Module1 &module1, DataStore &store, Desktop &desktop, QWidget *parent)
-    : ModulePanel("frmrea", parent), m_module1(module1), m_store(store), m_desktop(desktop)
+ReactionsPane::ReactionsPane(const Module1 &module1, DataStore &store, LaterTables &tables, Desktop &desktop,
+                             QWidget *parent)
+    : ModulePanel("frmrea", parent), m_module1(module1), m_store(store), m_tables(tables), m_desktop(desktop)
 {}
 
 void ReactionsPane::buildContents()
@@ -62,6 +64,8 @@ void ReactionsPane::buildContents()
     buildList();
     buildViews();
     buildPicture();
+    connect(&m_store.lists.ListView3[31], &RowList::reset, this, &ReactionsPane::takeRows);
+    takeRows();
 }
 
 // Combo5 chooses nothing: the list is the same for all its entries. The others are never seen.
@@ -128,6 +132,22 @@ void ReactionsPane::buildPicture()
     VScroll1 = Controls::named(new QScrollBar(Qt::Vertical, this), QStringLiteral("VScroll1"));
     VScroll1->setGeometry(PictureLeft + FrameWidth, PictureTop, ScrollBarWidth, FrameHeight);
     VScroll1->hide();
+
+    auto *notice = new TablesNotice(1, m_tables, m_desktop, this);
+    notice->adjustSize();
+    notice->move(outline->geometry().center() - notice->rect().center());
+}
+
+// The views read the selected row, so there is one as soon as there are rows.
+void ReactionsPane::takeRows()
+{
+    const bool anyRows = m_store.lists.ListView3[31].rowCount() > 0;
+    ClearChartPanels();
+    optorga[Equation].setChecked(true);
+    for (const auto &[view, option] : optorga)
+        option->setEnabled(anyRows);
+    if (anyRows)
+        ListView3[31].selectRow(0);
 }
 
 void ReactionsPane::chooseRow(int row)

@@ -9,6 +9,7 @@
 
 class ChartPicture;
 class Desktop;
+class LaterTables;
 class PictureBox;
 class QScrollBar;
 struct DataStore;
@@ -17,14 +18,15 @@ struct Module1;
 /// `frmrea`: the equation or the mechanism of the reaction picked in a list, a picture file named by the row.
 ///
 /// A missing file ends the program with the run-time error report, and so does a release of the mouse on one
-/// of the two views while no reaction is selected. The list has no rows in a normal run: its table is not
-/// loaded.
+/// of the two views while no reaction is selected. The list has no rows until the user has its table read;
+/// until then the views are disabled. As soon as it has rows the first one is selected.
 class ReactionsPane final : public ModulePanel
 {
     Q_OBJECT
 
 public:
-    ReactionsPane(const Module1 &module1, DataStore &store, Desktop &desktop, QWidget *parent);
+    ReactionsPane(const Module1 &module1, DataStore &store, LaterTables &tables, Desktop &desktop,
+                  QWidget *parent);
 
     /// This pane's part of what every pane switch clears: picture and name.
     void ClearChartPanels();
@@ -39,6 +41,7 @@ private:
     void buildViews();
     void buildPicture();
     void buildIdleControls();
+    void takeRows();
 
     void chooseRow(int row);
     void changeView();
@@ -47,6 +50,7 @@ private:
 
     const Module1 &m_module1;
     DataStore &m_store;
+    LaterTables &m_tables;
     Desktop &m_desktop;
 
     int ChartKey = 0; ///< one-based position of the row on show

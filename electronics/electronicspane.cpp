@@ -5,6 +5,8 @@
 #include "electronics/eia96.h"
 #include "electronics/partviews.h"
 #include "store/datastore.h"
+#include "store/latertables.h"
+#include "widgets/tablesnotice.h"
 #include "widgets/titleframe.h"
 
 #include <QEvent>
@@ -64,8 +66,8 @@ QString withOhm(const char *title)
 
 } // namespace
 
-ElectronicsPane::ElectronicsPane(DataStore &store, Desktop &desktop, QWidget *parent)
-    : ModulePanel("frmelec", parent), m_store(store), m_desktop(desktop),
+ElectronicsPane::ElectronicsPane(DataStore &store, LaterTables &tables, Desktop &desktop, QWidget *parent)
+    : ModulePanel("frmelec", parent), m_store(store), m_tables(tables), m_desktop(desktop),
       m_code(store.tables.ResistorColourData)
 {}
 
@@ -79,6 +81,7 @@ void ElectronicsPane::buildContents()
     buildColourCode();
     buildSeries();
     buildEia96();
+    buildNotice();
     connectControls();
     Combo3->choose(1);
     showTab(TabStrip11->currentIndex());
@@ -198,6 +201,12 @@ void ElectronicsPane::buildMarking()
     legend->setFont(font());
 }
 
+void ElectronicsPane::buildNotice()
+{
+    m_notice = new TablesNotice(0, m_tables, m_desktop, this);
+    m_notice->adjustSize();
+}
+
 QLabel *ElectronicsPane::addLabel18(int index, const QString &text, const QRect &place, QWidget *parent)
 {
     QLabel *label = Controls::heading({}, text, parent);
@@ -243,6 +252,19 @@ void ElectronicsPane::connectControls()
         connect(&Combo2[ring.list], &DropDown::chosen, this, atEdgeOf([this, &ring] { chooseRing(ring); }));
     for (DropDown *list : {Combo4, &Combo2[10]})
         connect(list, &DropDown::chosen, this, atEdgeOf([this] { decodeMarking(); }));
+    connect(&m_tables, &LaterTables::changed, this, [this] {
+        if (!m_tables.areRead())
+            emptyChoices();
+    });
+}
+
+// What was chosen goes with the rows it was chosen from.
+void ElectronicsPane::emptyChoices()
+{
+    changeRingCount();
+    Combo2[10].setCurrentIndex(-1);
+    decodeMarking();
+    tbm[10].clear();
 }
 
 void ElectronicsPane::showTab(int index)
@@ -251,6 +273,9 @@ void ElectronicsPane::showTab(int index)
     grdFrame32->setVisible(index == 1);
     ListView3[28].setVisible(index == 1);
     frmcms->setVisible(index == 2);
+    // In the middle of what the tab leaves free: on the last one, right of the list.
+    const QPoint middle(index == 2 ? 632 : width() / 2, 466);
+    m_notice->move(middle - m_notice->rect().center());
 }
 
 void ElectronicsPane::changeRingCount()

@@ -12,18 +12,20 @@
 
 class ChipView;
 class Desktop;
+class LaterTables;
 class ResistorView;
+class TablesNotice;
 struct DataStore;
 
 /// `frmelec`: the colour code of resistors, the standard series of values and the EIA-96 code, in three tabs.
 ///
-/// The lists have no rows in a normal run: their tables are not loaded. Once they are filled, the pane works.
+/// The lists have no rows until the user has their tables read.
 class ElectronicsPane final : public ModulePanel
 {
     Q_OBJECT
 
 public:
-    ElectronicsPane(DataStore &store, Desktop &desktop, QWidget *parent);
+    ElectronicsPane(DataStore &store, LaterTables &tables, Desktop &desktop, QWidget *parent);
 
 Q_SIGNALS:
     /// `Command2` was pressed: the mnemonic of the colours is wanted (`Formhelp4`).
@@ -40,12 +42,14 @@ private:
     void buildSeries();
     void buildEia96();
     void buildMarking();
+    void buildNotice();
     QLabel *addLabel18(int index, const QString &text, const QRect &place, QWidget *parent);
     DropDown *addList(int index, const QString &accessibleName, const QRect &place, QWidget *parent);
     void addResult(int index, const QString &title, int unitIndex, const QString &unit, const QPoint &place,
                    QWidget *parent);
     void connectControls();
 
+    void emptyChoices();
     void showTab(int index);
     void changeRingCount();
     void markRings();
@@ -55,6 +59,7 @@ private:
     void decodeMarking();
 
     DataStore &m_store;
+    LaterTables &m_tables;
     Desktop &m_desktop;
     ResistorCode m_code;
 
@@ -71,4 +76,5 @@ private:
     ControlArray<TextBoxM> tbm{"tbm"};                ///< 7 to 10: results
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 28, 29
     ResistorView *m_resistor = nullptr;
+    TablesNotice *m_notice = nullptr;
 };

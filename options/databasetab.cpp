@@ -2,6 +2,7 @@
 
 #include "core/desktop.h"
 #include "options/filefigures.h"
+#include "options/optionstarget.h"
 #include "widgets/controls.h"
 
 #include <QDir>
@@ -16,8 +17,9 @@ constexpr int GroupSpacing = 18; // logical pixels
 
 } // namespace
 
-DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
-    : QWidget(parent), m_desktop(desktop), m_maintenance(module, desktop), m_actions(new QGridLayout)
+DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, OptionsTarget &target, QWidget *parent)
+    : QWidget(parent), m_desktop(desktop), m_target(target), m_maintenance(module, desktop),
+      m_actions(new QGridLayout)
 {
     setObjectName(QStringLiteral("frmbdd"));
     auto *rows = new QVBoxLayout(this);
@@ -76,9 +78,11 @@ void DatabaseTab::load()
 // After a Restore the two captions are French, also in this build.
 void DatabaseTab::restore()
 {
-    if (m_maintenance.restore())
-        showFigures(QStringLiteral("Taille du fichier :   "),
-                    QStringLiteral("Date de modification du fichier :   "));
+    if (!m_maintenance.restore())
+        return;
+    m_target.databaseReplaced();
+    showFigures(QStringLiteral("Taille du fichier :   "),
+                QStringLiteral("Date de modification du fichier :   "));
 }
 
 void DatabaseTab::showFigures(const QString &sizeCaption, const QString &dateCaption)

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class OptionsTarget;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -15,7 +16,7 @@ class DatabaseTab final : public QWidget
     Q_OBJECT
 
 public:
-    DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent);
+    DatabaseTab(Module1 &module, Desktop &desktop, OptionsTarget &target, QWidget *parent);
 
     /// Measures the database. RuntimeError 53 if it is not there.
     void load();
@@ -27,6 +28,7 @@ private:
     void showFigures(const QString &sizeCaption, const QString &dateCaption);
 
     Desktop &m_desktop;
+    OptionsTarget &m_target;
     DatabaseMaintenance m_maintenance;
     QGridLayout *m_actions;
     QLineEdit *Text1;

@@ -67,7 +67,7 @@ void Formoptions::buildWindow()
     auto *page = new QFrame(this);
     page->setFrameShape(QFrame::StyledPanel);
     auto *frames = new QStackedLayout(page);
-    frmbdd = new DatabaseTab(m_module, m_desktop, page);
+    frmbdd = new DatabaseTab(m_module, m_desktop, m_target, page);
     frmstat = new StatisticsTab(m_store, m_module, page);
     for (QWidget *frame : {makeGeneralTab(controls, page), makeExportTab(controls, page),
                            static_cast<QWidget *>(frmbdd), static_cast<QWidget *>(frmstat)})

@@ -34,4 +34,7 @@ public:
 
     /// Empties the entry fields of the calculators.
     virtual void emptyEntryFields() = 0;
+
+    /// Another file has taken the place of the database.
+    virtual void databaseReplaced() = 0;
 };

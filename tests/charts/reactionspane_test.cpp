@@ -2,9 +2,10 @@
 #include "charts/reactionspane.h"
 #include "core/module1.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/tsvsource.h"
+#include "tests/support/unreadtables.h"
 
 #include <QDir>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -37,6 +38,7 @@ private:
     Module1 m_module;
     ScriptedDesktop m_desktop;
     std::unique_ptr<DataStore> m_store;
+    std::unique_ptr<UnreadTables> m_unread;
     std::unique_ptr<QWidget> m_form1;
     ReactionsPane *m_pane = nullptr;
 };
@@ -47,11 +49,13 @@ void ReactionsPaneTest::init()
     m_desktop.boxes.clear();
     m_form1 = std::make_unique<QWidget>();
     m_store = std::make_unique<DataStore>();
-    m_pane = new ReactionsPane(m_module, *m_store, m_desktop, m_form1.get());
+    m_unread = std::make_unique<UnreadTables>(*m_store, m_desktop);
+    m_pane = new ReactionsPane(m_module, *m_store, m_unread->tables, m_desktop, m_form1.get());
     m_pane->show();
     m_form1->show();
-    TsvSource::load(35, QStringLiteral("Reaction"), *m_store);
-    m_store->lists.ListView3[31].filled();
+    QVERIFY(!get<QWidget>("optorga(2)").isEnabled());
+    get<QPushButton>("cmdReadTables(1)").click();
+    QVERIFY(get<QWidget>("optorga(2)").isEnabled());
     addPicture("1.gif", {600, 300});
     addPicture("1m.gif", {400, 200});
     addPicture("2.gif", {500, 500});
@@ -123,6 +127,8 @@ void ReactionsPaneTest::theScrollBarMovesNothing()
 
 void ReactionsPaneTest::aReleaseWithoutASelectionEndsTheProgram()
 {
+    QCOMPARE(get<RowListView>("ListView3(31)").selectedRow(), 0); // so that nobody gets there by hand
+    get<RowListView>("ListView3(31)").clearSelection();
     QVERIFY_THROWS_EXCEPTION(ProcessEnded,
                              QTest::mouseClick(&get<QRadioButton>("optorga(2)"), Qt::LeftButton));
     QVERIFY(m_desktop.boxes.constFirst().first.startsWith("Run-time error '91':"));

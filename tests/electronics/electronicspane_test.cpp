@@ -1,6 +1,6 @@
 #include "electronics/electronicspane.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/tsvsource.h"
+#include "tests/support/unreadtables.h"
 
 #include <QPushButton>
 #include <QSignalSpy>
@@ -14,6 +14,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_pane.reset(); }
     void withoutRowsThereIsNothingToChooseButTheRings();
+    void anotherDatabaseEmptiesThePane();
     void ringsAreSwitchedByTheirNumber_data();
     void ringsAreSwitchedByTheirNumber();
     void resultsWaitForTheLastRing();
@@ -44,27 +45,21 @@ private:
 
     ScriptedDesktop m_desktop;
     std::unique_ptr<DataStore> m_store;
+    std::unique_ptr<UnreadTables> m_unread;
     std::unique_ptr<ElectronicsPane> m_pane;
 };
 
 void ElectronicsPaneTest::init()
 {
     m_store = std::make_unique<DataStore>();
-    m_pane = std::make_unique<ElectronicsPane>(*m_store, m_desktop, nullptr);
+    m_unread = std::make_unique<UnreadTables>(*m_store, m_desktop);
+    m_pane = std::make_unique<ElectronicsPane>(*m_store, m_unread->tables, m_desktop, nullptr);
     m_pane->show();
 }
 
-/// What a normal run leaves out.
 void ElectronicsPaneTest::load() const
 {
-    TsvSource::load(32, QStringLiteral("Resistancescouleurs"), *m_store);
-    TsvSource::load(33, QStringLiteral("Resistancesnormalisees"), *m_store);
-    TsvSource::load(34, QStringLiteral("Resistancescms"), *m_store);
-    for (int index = 4; index <= 9; ++index)
-        m_store->lists.Combo2[index].filled();
-    m_store->lists.Combo4.filled();
-    m_store->lists.ListView3[28].filled();
-    m_store->lists.ListView3[29].filled();
+    get<QPushButton>("cmdReadTables(0)").click();
 }
 
 void ElectronicsPaneTest::choose(int index, const QString &text) const
@@ -92,6 +87,26 @@ void ElectronicsPaneTest::withoutRowsThereIsNothingToChooseButTheRings()
     for (int index = 4; index <= 9; ++index)
         QCOMPARE(list(index).currentIndex(), -1);
     QCOMPARE(get<DropDown>("Combo4").currentIndex(), -1);
+}
+
+void ElectronicsPaneTest::anotherDatabaseEmptiesThePane()
+{
+    auto &notice = *get<QPushButton>("cmdReadTables(0)").parentWidget();
+    for (int time = 0; time < 2; ++time) {
+        QVERIFY(Controls::isShown(notice));
+        load();
+        QVERIFY(!Controls::isShown(notice));
+        for (const int index : {4, 5, 7, 8})
+            list(index).setCurrentIndex(1);
+        get<DropDown>("Combo4").setCurrentIndex(0);
+        choose(10, "A");
+        QVERIFY(!field(7).isEmpty() && !field(10).isEmpty());
+
+        m_unread->tables.forget();
+        QCOMPARE(list(4).count() + get<DropDown>("Combo4").count(), 0);
+        QVERIFY(!Controls::isShown(band(0)));
+        QCOMPARE(field(7) + field(8) + field(10) + get<QLabel>("Label18(13)").text(), QString());
+    }
 }
 
 void ElectronicsPaneTest::ringsAreSwitchedByTheirNumber_data()

@@ -31,6 +31,7 @@ public:
     void applyIrGraduation() override { note("graduation"); }
     void refreshZoomPointer() override { note("pointer"); }
     void applyPictureOption() override { note("picture"); }
+    void databaseReplaced() override { note("database"); }
     void emptyEntryFields() override { note(m_form.isEnabled() ? "empty" : "empty too early"); }
 
     QStringList notes;

@@ -1,0 +1,28 @@
+#include "widgets/tablesnotice.h"
+
+#include "core/desktop.h"
+#include "store/latertables.h"
+#include "widgets/controls.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+TablesNotice::TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWidget *parent) : QFrame(parent)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 12, 16, 12);
+    row->setSpacing(16);
+    QLabel *text = Controls::label({}, QStringLiteral("These tables are not read at the start."), this);
+    row->addWidget(text);
+    auto *button = Controls::named(new QPushButton(QStringLiteral("Read them now"), this),
+                                   Controls::indexedName("cmdReadTables", index));
+    button->setAccessibleDescription(text->text());
+    row->addWidget(button);
+    connect(button, &QPushButton::clicked, this,
+            [&tables, &desktop] { atEdge(desktop, [&] { tables.read(); }); });
+    connect(&tables, &LaterTables::changed, this, [this, &tables] { setVisible(!tables.areRead()); });
+    setVisible(!tables.areRead());
+}
