@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QTabBar>
 #include <QTimer>
@@ -55,8 +56,14 @@ constexpr Shot Shots[] = {
     {"calculations", 1120},
     {"calculations-dilution", 1120, "TabStrip4", 4},
     {"calculations-vapour", 1120, "TabStrip4", 6},
-    {"reactions", 1139},
-    {"electronics", 1141},
+    {"reactions-unread", 1139},
+    {"electronics-unread", 1141},
+    {"electronics-read", 1141, "cmdReadTables(0)"},
+    {"reactions", 1139, "ListView3(31)", 18},
+    {"electronics-ring-1", 1141, "Combo2(4)", 5},
+    {"electronics-ring-2", 1141, "Combo2(5)", 8},
+    {"electronics-ring-3", 1141, "Combo2(7)", 5},
+    {"electronics", 1141, "Combo2(8)", 2},
     {"mnemonic", 1141, "Command2"},
     {"electronics-series", 1141, "TabStrip11", 2},
     {"electronics-eia96", 1141, "TabStrip11", 3},
@@ -86,6 +93,8 @@ void touch(const QWidget &window, const Shot &shot)
         tabs->setCurrentIndex(shot.item - 1);
     else if (auto *button = window.findChild<QAbstractButton *>(name))
         button->click();
+    else if (auto *choice = window.findChild<QComboBox *>(name))
+        choice->setCurrentIndex(shot.item - 1);
     else if (auto *picture = window.findChild<PictureBox *>(name))
         Q_EMIT picture->clicked();
     else if (auto *list = window.findChild<RowListView *>(name)) {
