@@ -83,13 +83,11 @@ QLayout *frmAbout::buildButtons()
 {
     auto *cmdSysInfo = Controls::named(new QPushButton(QStringLiteral("System infos..."), this),
                                        QStringLiteral("cmdSysInfo"));
-    auto *cmdOk = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOk"));
+    QPushButton *cmdOk = makeOkButton(QStringLiteral("cmdOk"));
     cmdSysInfo->setMinimumWidth(104);
     cmdSysInfo->setAutoDefault(false);
-    cmdOk->setDefault(true);
     cmdOk->setFocus();
     connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
-    connect(cmdOk, &QPushButton::clicked, this, &QWidget::close);
     auto *row = new QHBoxLayout;
     row->addWidget(cmdSysInfo);
     row->addStretch();

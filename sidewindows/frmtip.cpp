@@ -71,12 +71,10 @@ QLayout *frmTip::buildButtons()
                                            QStringLiteral("chkLoadTipsAtStartup"));
     auto *cmdNextTip =
         Controls::named(new QPushButton(QStringLiteral("Next tip"), this), QStringLiteral("cmdNextTip"));
-    auto *cmdOK = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+    QPushButton *cmdOK = makeOkButton(QStringLiteral("cmdOK"));
     cmdNextTip->setAutoDefault(false);
-    cmdOK->setDefault(true);
     cmdOK->setFocus();
     connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::nextTip);
-    connect(cmdOK, &QPushButton::clicked, this, &frmTip::ok);
     auto *row = new QHBoxLayout;
     row->addWidget(chkLoadTipsAtStartup);
     row->addStretch();
@@ -114,7 +112,7 @@ void frmTip::storeWish(bool wanted)
     m_setCheck1(wanted);
 }
 
-void frmTip::ok()
+void frmTip::accept()
 {
     atEdge(m_desktop, [this] {
         m_module1.WriteOptions();

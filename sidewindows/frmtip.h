@@ -28,12 +28,14 @@ public:
 
     void DisplayCurrentTip();
 
+    /// "OK": writes the options. If that fails, the program ends with the run-time error report.
+    void accept() override;
+
 private:
     void buildWindow();
     QLayout *buildButtons();
     void nextTip();
     void storeWish(bool wanted);
-    void ok();
 
     Module1 &m_module1;
     Desktop &m_desktop;

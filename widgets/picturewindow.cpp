@@ -46,11 +46,9 @@ PictureWindow::PictureWindow(const Design &design, QWidget &owner)
     Label2->hide();
     Picture1 = new PictureBox(QStringLiteral("Picture1"), this);
 
-    auto *cmdOK = Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
-    cmdOK->setDefault(true);
+    QPushButton *cmdOK = makeOkButton(QStringLiteral("cmdOK"));
     const int left = sheetArea.right() + 1 + Margin;
     cmdOK->setGeometry(left, sheetArea.bottom() - 29, width() - left - Margin, 30);
-    connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void PictureWindow::setPicture(const QImage &picture)

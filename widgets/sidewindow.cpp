@@ -1,6 +1,9 @@
 #include "widgets/sidewindow.h"
 
+#include "widgets/controls.h"
+
 #include <QCloseEvent>
+#include <QPushButton>
 
 SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_owner(owner)
 {
@@ -21,4 +24,13 @@ void SideWindow::closeEvent(QCloseEvent *event)
     m_owner.setEnabled(true);
     m_owner.activateWindow();
     event->accept();
+    Q_EMIT unloaded();
+}
+
+QPushButton *SideWindow::makeOkButton(const QString &name)
+{
+    auto *button = Controls::named(new QPushButton(QStringLiteral("OK"), this), name);
+    button->setDefault(true);
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    return button;
 }

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+class QPushButton;
+
 /// A window that lies above `Form1`, which answers nothing while it is open.
 ///
 /// It is made when it is opened and destroyed when it is unloaded, so each opening runs its load anew.
@@ -20,8 +22,15 @@ public:
     void reject() override { close(); }
     void accept() override { close(); }
 
+Q_SIGNALS:
+    /// The window is closed and about to be deleted: do not use it any more.
+    void unloaded();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
+
+    /// "OK", which Enter presses: accept().
+    QPushButton *makeOkButton(const QString &name);
 
     QWidget &owner() const { return m_owner; }
 
