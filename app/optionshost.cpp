@@ -26,8 +26,13 @@ OptionsHost::OptionsHost(Module1 &module, DataStore &store, Desktop &desktop, co
 Formoptions &OptionsHost::loaded()
 {
     if (!m_window) {
-        m_window = new Formoptions(m_module, m_store, m_desktop, *this, m_form);
+        applyAtLoad();
+        m_window = new Formoptions(m_module, m_store, m_desktop, m_form);
         connect(m_window, &Formoptions::unloaded, this, [this] { m_window = nullptr; });
+        connect(m_window, &Formoptions::optionsChanged, this, &OptionsHost::applyChanges);
+        connect(m_window, &Formoptions::optionsWritten, &m_parts.calculations,
+                &CalculationsPane::emptyEntryFields);
+        connect(m_window, &Formoptions::databaseReplaced, this, [this] { m_parts.laterTables.forget(); });
     }
     return *m_window;
 }
@@ -50,47 +55,25 @@ void OptionsHost::setTipAtStart(bool on)
     loaded().setTipAtStart(on);
 }
 
-void OptionsHost::enableTrayEntry(bool enabled)
-{
-    m_parts.tray.trayminimax->setEnabled(enabled);
-}
-
-void OptionsHost::applyMenuStyle()
-{
-    m_parts.commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
-}
-
-void OptionsHost::refreshToolTips()
-{
-    m_parts.elements.refreshToolTips();
-}
-
-void OptionsHost::placeIrLabels()
+void OptionsHost::applyAtLoad()
 {
     m_parts.spectroscopy.placeIrLabels();
-}
-
-void OptionsHost::applyIrGraduation()
-{
-    m_parts.spectroscopy.applyIrGraduation();
-}
-
-void OptionsHost::refreshZoomPointer()
-{
+    enableTrayEntry();
+    m_parts.elements.refreshToolTips();
     m_parts.elements.refreshZoomPointer();
 }
 
-void OptionsHost::applyPictureOption()
+void OptionsHost::applyChanges()
 {
+    enableTrayEntry();
+    m_parts.commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
+    m_parts.elements.refreshToolTips();
+    m_parts.spectroscopy.applyIrGraduation();
+    m_parts.elements.refreshZoomPointer();
     m_parts.elements.applyPictureOption();
 }
 
-void OptionsHost::emptyEntryFields()
+void OptionsHost::enableTrayEntry()
 {
-    m_parts.calculations.emptyEntryFields();
-}
-
-void OptionsHost::databaseReplaced()
-{
-    m_parts.laterTables.forget();
+    m_parts.tray.trayminimax->setEnabled(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
 }

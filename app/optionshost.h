@@ -1,7 +1,5 @@
 #pragma once
 
-#include "options/optionstarget.h"
-
 #include <QObject>
 
 class CalculationsPane;
@@ -15,9 +13,8 @@ class TrayIcon;
 struct DataStore;
 struct Module1;
 
-/// `Formoptions` as the main window has it: made when somebody first asks for it, and what it does to the
-/// main window.
-class OptionsHost final : public QObject, private OptionsTarget
+/// Opens `Formoptions` and applies the options to the main window: when it loads and on its OK.
+class OptionsHost final : public QObject
 {
     Q_OBJECT
 
@@ -35,8 +32,7 @@ public:
 
     OptionsHost(Module1 &module, DataStore &store, Desktop &desktop, const Parts &parts, QWidget &form);
 
-    /// Makes the window without showing it, which applies the options to the main window. RuntimeError as
-    /// told at Formoptions.
+    /// Loads the window without showing it. RuntimeError as for Formoptions.
     void loadHidden();
 
     /// Shows the window above the main window.
@@ -48,15 +44,9 @@ public:
 private:
     Formoptions &loaded();
 
-    void enableTrayEntry(bool enabled) override;
-    void applyMenuStyle() override;
-    void refreshToolTips() override;
-    void placeIrLabels() override;
-    void applyIrGraduation() override;
-    void refreshZoomPointer() override;
-    void applyPictureOption() override;
-    void emptyEntryFields() override;
-    void databaseReplaced() override;
+    void applyAtLoad();
+    void applyChanges();
+    void enableTrayEntry();
 
     Module1 &m_module;
     DataStore &m_store;

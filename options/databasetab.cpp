@@ -2,7 +2,6 @@
 
 #include "core/desktop.h"
 #include "options/filefigures.h"
-#include "options/optionstarget.h"
 #include "widgets/controls.h"
 
 #include <QDir>
@@ -17,9 +16,8 @@ constexpr int GroupSpacing = 18; // logical pixels
 
 } // namespace
 
-DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, OptionsTarget &target, QWidget *parent)
-    : QWidget(parent), m_desktop(desktop), m_target(target), m_maintenance(module, desktop),
-      m_actions(new QGridLayout)
+DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
+    : QWidget(parent), m_desktop(desktop), m_maintenance(module, desktop), m_actions(new QGridLayout)
 {
     setObjectName(QStringLiteral("frmbdd"));
     auto *rows = new QVBoxLayout(this);
@@ -80,7 +78,7 @@ void DatabaseTab::restore()
 {
     if (!m_maintenance.restore())
         return;
-    m_target.databaseReplaced();
+    Q_EMIT databaseReplaced();
     showFigures(QStringLiteral("Taille du fichier :   "),
                 QStringLiteral("Date de modification du fichier :   "));
 }

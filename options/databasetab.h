@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class OptionsTarget;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -16,10 +15,14 @@ class DatabaseTab final : public QWidget
     Q_OBJECT
 
 public:
-    DatabaseTab(Module1 &module, Desktop &desktop, OptionsTarget &target, QWidget *parent);
+    DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent);
 
     /// Measures the database. RuntimeError 53 if it is not there.
     void load();
+
+Q_SIGNALS:
+    /// The original database is back in place of the working one.
+    void databaseReplaced();
 
 private:
     QPushButton *addAction(const QString &labelName, const QString &text, const QString &buttonName,
@@ -28,7 +31,6 @@ private:
     void showFigures(const QString &sizeCaption, const QString &dateCaption);
 
     Desktop &m_desktop;
-    OptionsTarget &m_target;
     DatabaseMaintenance m_maintenance;
     QGridLayout *m_actions;
     QLineEdit *Text1;

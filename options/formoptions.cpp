@@ -6,7 +6,6 @@
 #include "options/exporttab.h"
 #include "options/filefigures.h"
 #include "options/generaltab.h"
-#include "options/optionstarget.h"
 #include "options/statisticstab.h"
 #include "store/datastore.h"
 #include "store/gridlines.h"
@@ -14,7 +13,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QPushButton>
 #include <QStackedLayout>
@@ -37,12 +35,13 @@ QStringList startModules()
 
 } // namespace
 
-Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, OptionsTarget &target,
-                         QWidget &owner)
-    : SideWindow("Formoptions", owner), m_module(module), m_store(store), m_desktop(desktop), m_target(target)
+Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QWidget &owner)
+    : SideWindow("Formoptions", owner), m_module(module), m_store(store), m_desktop(desktop)
 {
     setWindowTitle(QStringLiteral("Options"));
-    load();
+    applyGridLines();
+    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // those that the tabs will measure
+        FileFigures::fileLength(m_module.AppFolder + QLatin1Char('/') + QLatin1StringView(file));
 }
 
 void Formoptions::setVisible(bool visible)
@@ -67,7 +66,8 @@ void Formoptions::buildWindow()
     auto *page = new QFrame(this);
     page->setFrameShape(QFrame::StyledPanel);
     auto *frames = new QStackedLayout(page);
-    frmbdd = new DatabaseTab(m_module, m_desktop, m_target, page);
+    frmbdd = new DatabaseTab(m_module, m_desktop, page);
+    connect(frmbdd, &DatabaseTab::databaseReplaced, this, &Formoptions::databaseReplaced);
     frmstat = new StatisticsTab(m_store, m_module, page);
     for (QWidget *frame : {makeGeneralTab(controls, page), makeExportTab(controls, page),
                            static_cast<QWidget *>(frmbdd), static_cast<QWidget *>(frmstat)})
@@ -86,13 +86,10 @@ void Formoptions::buildWindow()
 
 QLayout *Formoptions::buildButtons()
 {
-    auto *XPButton1 =
-        Controls::named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("XPButton1"));
+    QPushButton *XPButton1 = makeOkButton(QStringLiteral("XPButton1"));
     auto *XpButton2 =
         Controls::named(new QPushButton(QStringLiteral("Cancel"), this), QStringLiteral("XpButton2"));
-    XPButton1->setDefault(true);
     XpButton2->setAutoDefault(false);
-    connect(XPButton1, &QPushButton::clicked, this, [this] { atEdge(m_desktop, [this] { ok(); }); });
     connect(XpButton2, &QPushButton::clicked, this, &QWidget::close);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -108,17 +105,6 @@ void Formoptions::connectClickRules()
         controls.Check1[8].setEnabled(controls.Check1[7].isChecked());
     });
     connect(controls.Check10, &QCheckBox::toggled, controls.Combo3, &QWidget::setEnabled);
-}
-
-void Formoptions::load()
-{
-    m_target.placeIrLabels();
-    m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
-    m_target.refreshToolTips();
-    applyGridLines();
-    m_target.refreshZoomPointer();
-    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // those that the tabs will measure
-        FileFigures::fileLength(m_module.AppFolder + QLatin1Char('/') + QLatin1StringView(file));
 }
 
 void Formoptions::build()
@@ -139,24 +125,15 @@ void Formoptions::applyGridLines()
     ApplyGridLines(m_store.lists, !m_module.OptionSlots(Slot::GridLines).equals(0));
 }
 
-void Formoptions::ok()
+void Formoptions::accept()
 {
-    controls.store(m_module.OptionSlots);
-    m_target.enableTrayEntry(!m_module.OptionSlots(Slot::MinimiseToTray).equals(0));
-    m_target.applyMenuStyle();
-    applyGridLines();
-    m_target.refreshToolTips();
-    m_target.applyIrGraduation();
-    m_target.refreshZoomPointer();
-    m_target.applyPictureOption();
-    owner().setEnabled(true);
-    m_module.WriteOptions();
-    m_target.emptyEntryFields();
-    close();
-}
-
-void Formoptions::closeEvent(QCloseEvent *event)
-{
-    SideWindow::closeEvent(event);
-    Q_EMIT unloaded();
+    atEdge(m_desktop, [this] {
+        controls.store(m_module.OptionSlots);
+        applyGridLines();
+        Q_EMIT optionsChanged();
+        owner().setEnabled(true);
+        m_module.WriteOptions();
+        Q_EMIT optionsWritten();
+        close();
+    });
 }

@@ -5,7 +5,6 @@
 
 class DatabaseTab;
 class Desktop;
-class OptionsTarget;
 class StatisticsTab;
 class TabStrip;
 struct DataStore;
@@ -13,17 +12,16 @@ struct Module1;
 
 /// `Formoptions`: the one place where the user changes settings.
 ///
-/// Making it is its load, which applies some slots to the main window. That is why it is made hidden at
-/// start. The controls, which show the slots, are built when it is first shown: the start does not wait for
-/// them. OK stores the controls in the slots, applies them and writes the options file; Cancel and the close
-/// box leave the slots alone. Each of them unloads the window.
+/// Loading it applies the grid lines; the controls are built when it is first shown. OK stores them in the
+/// slots and writes the options file; Cancel and the close box leave the slots alone. Each of them unloads
+/// the window.
 class Formoptions final : public SideWindow
 {
     Q_OBJECT
 
 public:
     /// @p owner is `Form1`. RuntimeError 53 or 76 if a file or folder that it measures is not there.
-    Formoptions(Module1 &module, DataStore &store, Desktop &desktop, OptionsTarget &target, QWidget &owner);
+    Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QWidget &owner);
 
     /// Builds the controls when it first shows the window. RuntimeError as above.
     void setVisible(bool visible) override;
@@ -33,26 +31,28 @@ public:
 
     OptionControls controls; ///< none before the window is first shown
 
-Q_SIGNALS:
-    /// The window is closed and will be destroyed; nobody may use it any more.
-    void unloaded();
+    void accept() override;
 
-protected:
-    void closeEvent(QCloseEvent *event) override;
+Q_SIGNALS:
+    /// OK has stored the controls in the slots; the options file is written next.
+    void optionsChanged();
+
+    /// The options file is written; the window closes next.
+    void optionsWritten();
+
+    /// The original database is back in place of the working one.
+    void databaseReplaced();
 
 private:
     void buildWindow();
     QLayout *buildButtons();
-    void connectClickRules();
-    void load();
-    void build();
     void applyGridLines();
-    void ok();
+    void connectClickRules();
+    void build();
 
     Module1 &m_module;
     DataStore &m_store;
     Desktop &m_desktop;
-    OptionsTarget &m_target;
 
     TabStrip *TabStrip1 = nullptr; ///< null until the controls are built
     DatabaseTab *frmbdd = nullptr;
