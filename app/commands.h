@@ -68,6 +68,16 @@ struct Command
     int argument = 0;
 };
 
+/// Commands that the code names besides the table.
+namespace CommandId {
+inline constexpr int Find = 1121;
+inline constexpr int About = 1122;
+inline constexpr int Help = 1123;
+inline constexpr int Export = 1124;
+inline constexpr int Print = 1125;
+inline constexpr int WebSite = 1134;
+} // namespace CommandId
+
 /// All commands there are. Other ids do nothing.
 inline constexpr std::array Commands{
     Command{1005, CommandKind::Quit},
@@ -83,15 +93,15 @@ inline constexpr std::array Commands{
     Command{1118, CommandKind::SolventTab, PanelId::Solvents, 5},
     Command{1119, CommandKind::SolventTab, PanelId::Solvents, 1},
     Command{1120, CommandKind::ShowPanel, PanelId::Calculations},
-    Command{1121, CommandKind::Find},
-    Command{1122, CommandKind::About},
-    Command{1123, CommandKind::Help},
-    Command{1124, CommandKind::Export},
-    Command{1125, CommandKind::Nothing},
+    Command{CommandId::Find, CommandKind::Find},
+    Command{CommandId::About, CommandKind::About},
+    Command{CommandId::Help, CommandKind::Help},
+    Command{CommandId::Export, CommandKind::Export},
+    Command{CommandId::Print, CommandKind::Nothing},
     Command{1131, CommandKind::ShowPanel, PanelId::Donate},
     Command{1132, CommandKind::ShowPanel, PanelId::References},
     Command{1133, CommandKind::SolventTab, PanelId::Solvents, 4},
-    Command{1134, CommandKind::WebSite},
+    Command{CommandId::WebSite, CommandKind::WebSite},
     Command{1135, CommandKind::CheckVersion},
     Command{1138, CommandKind::ShowPanel, PanelId::Polymers},
     Command{1139, CommandKind::ShowPanelOnce, PanelId::Reactions},

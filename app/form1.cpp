@@ -186,9 +186,9 @@ void Form1::buildStatusBar()
 
 void Form1::connectTray()
 {
-    connect(&m_tray, &TrayIcon::helpWanted, this, [this] { executeCommand(1123); });
-    connect(&m_tray, &TrayIcon::aboutWanted, this, [this] { executeCommand(1122); });
-    connect(&m_tray, &TrayIcon::webSiteWanted, this, [this] { executeCommand(1134); });
+    connect(&m_tray, &TrayIcon::helpWanted, this, [this] { executeCommand(CommandId::Help); });
+    connect(&m_tray, &TrayIcon::aboutWanted, this, [this] { executeCommand(CommandId::About); });
+    connect(&m_tray, &TrayIcon::webSiteWanted, this, [this] { executeCommand(CommandId::WebSite); });
     connect(&m_tray, &TrayIcon::donationPageWanted, this,
             [this] { m_desktop.openTarget(References::donationPage()); });
     connect(&m_tray, &TrayIcon::quitWanted, this, &Form1::unloadAllWindows);
@@ -339,17 +339,11 @@ void Form1::showSpectroscopy(int mode)
 
 void Form1::updateCommands()
 {
-    const auto anyShown = [this](std::initializer_list<PanelId> panels) {
-        return std::any_of(panels.begin(), panels.end(), [this](PanelId id) { return m_panes->isShown(id); });
-    };
-    const bool searchable = m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown();
-    m_commandBars.action(1121).setEnabled(anyShown({PanelId::Elements}) ||
-                                          (anyShown({PanelId::Solvents}) && searchable));
-    m_commandBars.action(1124).setEnabled(
-        anyShown({PanelId::Solvents, PanelId::Calculations, PanelId::Solutions, PanelId::Elements,
-                  PanelId::Biochemistry}) ||
-        m_spectroscopy->isListView3_27Shown());
-    m_commandBars.action(1125).setEnabled(false);
+    const bool searchable = m_panes->isShown(PanelId::Solvents) &&
+                            (m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown());
+    m_commandBars.action(CommandId::Find).setEnabled(searchable || m_panes->isShown(PanelId::Elements));
+    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::isThereOneFor(reportContext()));
+    m_commandBars.action(CommandId::Print).setEnabled(false);
     m_copyActions.update();
 }
 

@@ -1,5 +1,6 @@
 #include "app/ownactions.h"
 
+#include "app/commands.h"
 #include "core/runtimeerror.h"
 #include "widgets/icons.h"
 
@@ -22,13 +23,11 @@ struct Entry
     int before;            ///< the command of the menu that it comes before; 0: at the end
 };
 
-constexpr int Find = 1121;
-
 // In the order of the menu bar.
 constexpr std::array Entries{
-    Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", Find},
-    Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", Find},
-    Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, Find},
+    Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", CommandId::Find},
+    Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", CommandId::Find},
+    Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, CommandId::Find},
 };
 
 QString plain(QString caption)

@@ -71,6 +71,11 @@ ReportSave::ReportSave(Module1 &module, const DataStore &data, Desktop &desktop)
       CommonDialog1({"Page Web", {"*.htm", "*.html"}}, module, desktop)
 {}
 
+bool ReportSave::isThereOneFor(const ReportContext &shown)
+{
+    return choose(shown).has_value();
+}
+
 void ReportSave::run(const std::function<ReportContext()> &onShow)
 {
     try {

@@ -25,6 +25,9 @@ class ReportSave final
 public:
     ReportSave(Module1 &module, const DataStore &data, Desktop &desktop);
 
+    /// Whether the export command has a report for what is shown.
+    static bool isThereOneFor(const ReportContext &shown);
+
     /// Shows the dialog, with its questions, and writes the file, replacing what was in it. Success is
     /// silent. A file that is in use or may not be written is told; any other failure is silent and leaves
     /// what was written so far. With none of the panes on show the dialog comes all the same and nothing is
