@@ -5,12 +5,6 @@
 
 namespace {
 
-template<int Index>
-const RowList &ListView3(const RowLists &lists)
-{
-    return lists.ListView3[Index];
-}
-
 const QList<ReportSection> &biomolecules()
 {
     static const ReportTable bases{{{15, "Name"},

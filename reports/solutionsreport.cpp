@@ -5,12 +5,6 @@
 
 namespace {
 
-template<int Index>
-const RowList &ListView3(const RowLists &lists)
-{
-    return lists.ListView3[Index];
-}
-
 const QList<ReportSection> &sections()
 {
     static const ReportTable couples{

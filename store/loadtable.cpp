@@ -2,7 +2,77 @@
 
 #include "core/runtimeerror.h"
 #include "store/datastore.h"
-#include "store/loadsteps.h"
+#include "store/tablecatalog.h"
+
+#include <numeric>
+
+namespace {
+
+using TableCatalog::Group;
+using TableCatalog::Surplus;
+
+/// The rows of one step on their way into the store.
+class StepRun
+{
+public:
+    StepRun(int step, RowSource &rows, DataStore &data)
+        : m_step(TableCatalog::at(step)), m_allFields(TableCatalog::columns(step).size()), m_rows(rows),
+          m_data(data), m_tally(data.tallies.rows[size_t(step)])
+    {
+        std::iota(m_allFields.begin(), m_allFields.end(), 0);
+    }
+
+    void all()
+    {
+        takeGroups();
+        if (m_step.surplus == Surplus::ToFirstGroup)
+            takeRest(m_step.groups.constFirst());
+        while (m_step.surplus == Surplus::StartsOver && !m_rows.atEnd())
+            takeGroups();
+    }
+
+private:
+    void takeGroups()
+    {
+        for (const Group &group : m_step.groups) {
+            for (int row = 0; row < group.rows; ++row)
+                take(group);
+        }
+    }
+
+    void takeRest(const Group &group)
+    {
+        while (!m_rows.atEnd())
+            take(group);
+    }
+
+    void take(const Group &group)
+    {
+        if (group.list)
+            append(group.list(m_data.lists), group.fields.isEmpty() ? m_allFields : group.fields);
+        if (m_step.handler)
+            m_step.handler(m_rows, m_data, m_row);
+        ++m_tally;
+        ++m_row;
+        m_rows.moveNext();
+    }
+
+    void append(RowList &list, const QList<int> &fields) const
+    {
+        list.append(m_rows.field(fields.constFirst()));
+        for (qsizetype cell = 1; cell < fields.size(); ++cell)
+            list.appendSubItem(m_rows.field(fields[cell]));
+    }
+
+    const TableCatalog::Step &m_step;
+    QList<int> m_allFields;
+    RowSource &m_rows;
+    DataStore &m_data;
+    int &m_tally;
+    int m_row = 0;
+};
+
+} // namespace
 
 TableLoader::TableLoader(DataStore &data, OpenRows openRows, std::function<void()> onMissingTable)
     : m_data(data), m_openRows(std::move(openRows)), m_onMissingTable(std::move(onMissingTable))
@@ -21,10 +91,14 @@ void TableLoader::LoadTable(const QString &statement)
 int TableLoader::runStep(const QString &statement)
 {
     try {
-        const std::unique_ptr<RowSource> rows = m_openRows(statement);
-        LoadSteps::run(LoadCounter, *rows, m_data);
+        fill(LoadCounter, *m_openRows(statement), m_data);
         return 0;
     } catch (const RuntimeError &error) {
-        return error.number(); // a step that fails leaves what it has and says nothing
+        return error.number(); // a step that fails keeps its rows and says nothing
     }
+}
+
+void TableLoader::fill(int step, RowSource &rows, DataStore &data)
+{
+    StepRun(step, rows, data).all();
 }

@@ -44,3 +44,20 @@ struct RowLists final
     RowList Comb2;
     RowList Combo4;
 };
+
+/// The list of that index as a function, for tables that name lists: `ListView3<7>`.
+template<int Index, class Lists>
+auto &ListView2(Lists &lists)
+{
+    return lists.ListView2[Index];
+}
+template<int Index, class Lists>
+auto &ListView3(Lists &lists)
+{
+    return lists.ListView3[Index];
+}
+template<int Index, class Lists>
+auto &ListView7(Lists &lists)
+{
+    return lists.ListView7[Index];
+}

@@ -1,27 +1,57 @@
 #pragma once
 
+#include "store/rowlists.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
-#include <optional>
 
-/// The 35 statements by which the program knows its database; there is no other definition of the schema.
+struct DataStore;
+class RowSource;
+
+/// The 35 steps that load the database: what each asks for and where its rows go. There is no other
+/// definition of the schema.
 ///
-/// A step is 1 to 35, in the order of loading; another number is a mistake in the program. Rows come in the
-/// stored order of the table, and several lists are cut into groups by row number alone, so the tables that
-/// have a row count must hold just that many rows.
+/// Rows come in the stored order of the table. Nothing in them tells to which list they belong: a table is
+/// cut into groups by row number alone.
 namespace TableCatalog {
 
 inline constexpr int FirstStep = 1;
 inline constexpr int LastStep = 35;
 
-/// What is sent to the database, blanks included.
+/// Consecutive rows of a table, and the list that takes them.
+struct Group
+{
+    RowList &(*list)(RowLists &); ///< null: the step's handler alone takes the rows
+    int rows = 0;                 ///< 0: the table has any number of rows, and this is its only group
+    QList<int> fields = {};       ///< for the row's text and its sub-items; empty: all columns in their order
+};
+
+/// What becomes of the rows after the last group.
+enum class Surplus {
+    ToFirstGroup,
+    StartsOver, ///< they go through all groups again
+    Unread,
+};
+
+struct Step
+{
+    const char *statement; ///< as it is sent: `for` and `group` are column names without quotes
+    QList<Group> groups;
+    Surplus surplus = Surplus::ToFirstGroup;
+    void (*handler)(const RowSource &rows, DataStore &data, int row) = nullptr; ///< @p row counts from 0
+};
+
+/// @p step counts from 1, in the order of loading; any other number is RuntimeError 9, here and below.
+const Step &at(int step);
+
 QString statement(int step);
 
-/// Table and columns that the statement names, in its order.
+/// The table and the columns that the statement names, in its order.
 QString table(int step);
 QStringList columns(int step);
 
-/// Number of rows of the delivered table, where the program depends on it.
-std::optional<int> rowCount(int step);
+/// The number of rows that the groups need; 0 for any number.
+int rowCount(int step);
 
 } // namespace TableCatalog

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "store/datastore.h"
-#include "store/loadsteps.h"
+#include "store/loadtable.h"
 #include "store/rowsource.h"
 
 #include <QFile>
@@ -41,7 +41,7 @@ public:
     {
         TsvSource rows(table);
         try {
-            LoadSteps::run(step, rows, store);
+            TableLoader::fill(step, rows, store);
         } catch (const RuntimeError &error) {
             if (error.number() != ErrorNumber::PastEnd)
                 throw;

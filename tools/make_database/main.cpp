@@ -30,7 +30,7 @@ QList<TableData> readTables(const QDir &folder)
         TableRules rules;
         rules.name = TableCatalog::table(step);
         rules.columns = TableCatalog::columns(step) + QStringList{QStringLiteral("source")};
-        rules.rows = TableCatalog::rowCount(step).value_or(0);
+        rules.rows = TableCatalog::rowCount(step);
         rules.anyCharacters = isNeverPrinted(rules.name);
         files.append(rules.name + QStringLiteral(".tsv"));
         tables.append(TableFile::read(folder.filePath(files.last()), rules));
