@@ -38,7 +38,8 @@ QStringView Recordset::field(int index) const
 {
     if (m_atEnd)
         throw RuntimeError(ErrorNumber::PastEnd);
-    Q_ASSERT(index >= 0 && index < m_fields.size());
+    if (index < 0 || index >= m_fields.size())
+        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("field %1").arg(index));
     if (m_fields[index].isNull)
         throw RuntimeError(ErrorNumber::InvalidNull, m_columns[index].name);
     const qsizetype begin = index == 0 ? 0 : m_fields[index - 1].end;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/runtimeerror.h"
 #include "widgets/controls.h"
 
 #include <QObject>
@@ -26,11 +27,13 @@ public:
         return *control;
     }
 
-    /// An index that is not here is a mistake in the program, not in its input.
+    /// RuntimeError 9 for an index that is not here.
     W &operator[](int index) const
     {
-        Q_ASSERT(contains(index));
-        return *m_controls.find(index)->second;
+        const auto found = m_controls.find(index);
+        if (found == m_controls.end())
+            throw RuntimeError(ErrorNumber::Subscript, Controls::indexedName(m_name, index));
+        return *found->second;
     }
 
     bool contains(int index) const { return m_controls.contains(index); }
