@@ -23,7 +23,8 @@ QString VersionRecord::fileDescription()
 
 QString VersionRecord::legalNotice()
 {
-    return QStringLiteral("© %1 the Alembra developers. Free software under the MIT licence.")
+    return QStringLiteral("© %1 the Alembra developers. Free software under the MIT licence; "
+                          "the data are under those of their sources, see LICENSES.md.")
         .arg(noticeYears());
 }
 
