@@ -233,6 +233,54 @@ QImage drawLargeCard(const Element &element)
     return picture;
 }
 
+const QColor SharedColour(0x6b, 0x73, 0x7b);
+
+/// The small card that the last elements share: it names none of them.
+QImage drawSmallSharedCard(const Table &table)
+{
+    constexpr int Side = 160;
+    QImage picture = blankPicture(Side, Side);
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), tint(SharedColour, 0.13));
+    painter.fillRect(0, Side - 20, Side, 20, tint(SharedColour, 0.35));
+    painter.setPen(Ink);
+    painter.setFont(textFont(30, true));
+    painter.drawText(QRectF(0, 30, Side, 40), Qt::AlignCenter,
+                     QStringLiteral("%1–%2").arg(LastCard).arg(table.rowCount()));
+    painter.setFont(textFont(13));
+    painter.drawText(QRectF(0, 76, Side, 20), Qt::AlignCenter, QStringLiteral("superheavy"));
+    painter.setFont(textFont(11, true));
+    painter.drawText(QRectF(0, Side - 20, Side, 20), Qt::AlignCenter,
+                     QStringLiteral("Elements %1 to %2").arg(LastCard).arg(table.rowCount()));
+    return picture;
+}
+
+/// The large one lists them.
+QImage drawLargeSharedCard(const Table &table)
+{
+    constexpr int Side = 480;
+    constexpr int Header = 76;
+    QImage picture = blankPicture(Side, Side);
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), tint(SharedColour, 0.08));
+    painter.fillRect(0, 0, Side, Header, tint(SharedColour, 0.35));
+    painter.setPen(Ink);
+    painter.setFont(textFont(26, true));
+    painter.drawText(QRectF(18, 0, Side, Header), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Elements %1 to %2").arg(LastCard).arg(table.rowCount()));
+    double y = Header + 34;
+    for (int row = LastCard - 1; row < table.rowCount(); ++row, y += 29) {
+        const Element element = readElement(table, row);
+        painter.setFont(textFont(14));
+        painter.drawText(QPointF(18, y), element["nbato"]);
+        painter.drawText(QPointF(126, y), element["atome"]);
+        painter.setFont(textFont(14, true));
+        painter.drawText(QPointF(70, y), element["symb"]);
+        ScriptText::configuration(element["elecconf"], 14).paint(painter, 270, y);
+    }
+    return picture;
+}
+
 } // namespace
 
 QList<int> electronsInShells(const QString &configuration)
@@ -274,9 +322,11 @@ void drawElements(const QString &data, const PictureFolder &pictures)
     const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"), columns);
     if (table.rowCount() < LastCard)
         table.fail(table.rowCount() - 1, QStringLiteral("the table ends before element %1").arg(LastCard));
-    for (int row = 0; row < LastCard; ++row) {
+    for (int row = 0; row < LastCard - 1; ++row) {
         const Element element = readElement(table, row);
         pictures.write(QStringLiteral("elements/%1.jpg").arg(element.number()), drawSmallCard(element));
         pictures.write(QStringLiteral("elements/%1b.jpg").arg(element.number()), drawLargeCard(element));
     }
+    pictures.write(QStringLiteral("elements/%1.jpg").arg(LastCard), drawSmallSharedCard(table));
+    pictures.write(QStringLiteral("elements/%1b.jpg").arg(LastCard), drawLargeSharedCard(table));
 }

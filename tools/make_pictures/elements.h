@@ -1,4 +1,5 @@
-// elements/: the cards of the elements 1 to 106, small ("<Z>.jpg") and large ("<Z>b.jpg").
+// elements/: the cards of the elements 1 to 105, and one of 106 to 118, small ("<Z>.jpg") and large
+// ("<Z>b.jpg").
 #pragma once
 
 #include <QList>
@@ -6,8 +7,7 @@
 
 class PictureFolder;
 
-/// The elements that have a card of their own; the program shows the card of the last one for all heavier
-/// ones.
+/// The last card; the program shows it for its element and all heavier ones, so it names none of them alone.
 inline constexpr int LastCard = 106;
 
 /// Electrons in the shells K, L, M ... of a configuration written out, "1s2 2s2 2p6". Empty if it cannot be

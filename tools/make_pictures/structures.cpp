@@ -13,14 +13,14 @@
 namespace {
 
 constexpr Formula::Style Scale{18, 13};
-constexpr int Margin = 12;
-constexpr int CaptionHeight = 26;
-constexpr int Gap = 28; // between two formulas in one picture
-constexpr int MinimumWidth = 180;
+constexpr int Margin = 5;
+constexpr int CaptionHeight = 38; // of two lines
+constexpr int Gap = 28;           // between two formulas in one picture
 
 struct Compound
 {
     QString name;
+    QString kind;
     Formula formula;
 
     int width() const
@@ -31,7 +31,7 @@ struct Compound
 };
 
 /// Row by row the compound, or nothing where the table gives no structure.
-QList<std::optional<Compound>> readCompounds(const QString &file)
+QList<std::optional<Compound>> readCompounds(const QString &file, const QString &kind)
 {
     const Table table = Table::read(file, {QStringLiteral("name"), QStringLiteral("smiles")});
     QList<std::optional<Compound>> compounds;
@@ -43,7 +43,7 @@ QList<std::optional<Compound>> readCompounds(const QString &file)
         const std::optional<Formula> formula = Formula::fromSmiles(smiles, Scale);
         if (!formula)
             table.fail(row, QStringLiteral("\"%1\" is not a structure").arg(smiles));
-        compounds.last() = Compound{table.cell(row, QStringLiteral("name")), *formula};
+        compounds.last() = Compound{table.cell(row, QStringLiteral("name")), kind, *formula};
     }
     return compounds;
 }
@@ -57,7 +57,33 @@ QImage inSixteenGreys(const QImage &picture)
     return picture.convertToFormat(QImage::Format_Indexed8, greys, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
-/// The compounds side by side, formulas centred on one line, each above its name.
+/// What is drawn, with a narrow margin.
+QImage cropped(const QImage &picture)
+{
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) < 255)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return picture.copy(ink.adjusted(-Margin, -Margin, Margin, Margin) & picture.rect());
+}
+
+/// A formula alone: what it shows stands beside it in the window and in the report.
+QImage drawCompound(const Compound &compound)
+{
+    const QSizeF size = compound.formula.size();
+    QImage picture =
+        blankPicture(int(std::ceil(size.width())) + 2 * Margin, int(std::ceil(size.height())) + 2 * Margin);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    compound.formula.paint(painter, {Margin, Margin});
+    painter.end();
+    return inSixteenGreys(cropped(picture));
+}
+
+/// A solvent and an amino acid side by side, formulas centred on one line, each above its name and kind.
 QImage drawCompounds(const QList<Compound> &compounds)
 {
     int width = 2 * Margin + Gap * int(compounds.size() - 1);
@@ -66,40 +92,47 @@ QImage drawCompounds(const QList<Compound> &compounds)
         width += compound.width();
         height = std::max(height, int(std::ceil(compound.formula.size().height())));
     }
-    QImage picture = blankPicture(std::max(width, MinimumWidth), height + 2 * Margin + CaptionHeight);
+    QImage picture = blankPicture(width, height + 2 * Margin + CaptionHeight);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::black);
-    painter.setFont(textFont(13, true));
 
-    double x = Margin + (picture.width() - width) / 2.0;
+    double x = Margin;
     for (const Compound &compound : compounds) {
         const QSizeF size = compound.formula.size();
         compound.formula.paint(
             painter, {x + (compound.width() - size.width()) / 2, Margin + (height - size.height()) / 2});
-        painter.drawText(QRectF(x, Margin + height, compound.width(), CaptionHeight),
+        const QRectF caption(x, Margin + height, compound.width(), CaptionHeight);
+        painter.setFont(textFont(13, true));
+        painter.drawText(caption.adjusted(0, 0, 0, -CaptionHeight / 2.0),
                          Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip, compound.name);
+        painter.setFont(textFont(12));
+        painter.drawText(caption.adjusted(0, CaptionHeight / 2.0, 0, 0),
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip, compound.kind);
         x += compound.width() + Gap;
     }
     painter.end();
-    return inSixteenGreys(picture);
+    return inSixteenGreys(cropped(picture));
 }
 
 } // namespace
 
 void drawStructures(const QString &data, const PictureFolder &pictures)
 {
-    const auto solvents = readCompounds(data + QStringLiteral("/drawing/structures_solvants.tsv"));
-    const auto acids = readCompounds(data + QStringLiteral("/drawing/structures_acidesamines.tsv"));
+    const auto solvents =
+        readCompounds(data + QStringLiteral("/drawing/structures_solvants.tsv"), QStringLiteral("solvent"));
+    const auto acids = readCompounds(data + QStringLiteral("/drawing/structures_acidesamines.tsv"),
+                                     QStringLiteral("amino acid"));
     for (int row = 0; row < std::max(solvents.size(), acids.size()); ++row) {
-        QList<Compound> shown;
-        if (solvents.value(row))
-            shown << *solvents[row];
-        if (!shown.isEmpty())
-            pictures.write(QStringLiteral("chemicals/%1.bmp").arg(shown.first().name), drawCompounds(shown));
-        if (acids.value(row))
-            shown << *acids[row];
-        if (!shown.isEmpty())
-            pictures.write(QStringLiteral("chemicals/%1.bmp").arg(row + 1), drawCompounds(shown));
+        const auto solvent = solvents.value(row);
+        const auto acid = acids.value(row);
+        const QString numbered = QStringLiteral("chemicals/%1.bmp").arg(row + 1);
+        if (solvent)
+            pictures.write(QStringLiteral("chemicals/%1.bmp").arg(solvent->name), drawCompound(*solvent));
+        // Solvents and amino acids share the numbers; a picture that both lists open shows both.
+        if (solvent && acid)
+            pictures.write(numbered, drawCompounds({*solvent, *acid}));
+        else if (solvent || acid)
+            pictures.write(numbered, drawCompound(solvent ? *solvent : *acid));
     }
 }
