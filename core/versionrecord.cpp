@@ -23,8 +23,7 @@ QString VersionRecord::fileDescription()
 
 QString VersionRecord::legalNotice()
 {
-    return QStringLiteral("© %1 the Alembra developers. Free software under the MIT licence; "
-                          "the data are under those of their sources, see LICENSES.md.")
+    return QStringLiteral("© %1 the Alembra developers. Code: MIT licence. Data: see LICENSES.md.")
         .arg(noticeYears());
 }
 
