@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize WindowSize{470, 230};
+constexpr QSize WindowSize{470, 244};
 constexpr int TextLeft = 128;
 constexpr int PauseMilliseconds = 50;
 
@@ -40,13 +40,13 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     title->setFont(Controls::largeType(title->font()));
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
     addLine("lblDescription", VersionRecord::comments(), 72, 68);
-    addLine("lblcopy", VersionRecord::legalNotice(), 142, 34);
+    addLine("lblcopy", VersionRecord::legalNotice(), 142, 48);
 
     auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
-    doing->setGeometry(20, 178, WindowSize.width() - 40, 18);
+    doing->setGeometry(20, 192, WindowSize.width() - 40, 18);
     m_progressBar = Controls::named(new QProgressBar(this), QStringLiteral("ProgressBar1"));
     m_progressBar->setTextVisible(false);
-    m_progressBar->setGeometry(20, 200, WindowSize.width() - 40, 14);
+    m_progressBar->setGeometry(20, 214, WindowSize.width() - 40, 14);
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(0);
 }
