@@ -24,6 +24,7 @@
 #include "store/tablecatalog.h"
 #include "widgets/icons.h"
 #include "widgets/modulepanel.h"
+#include "widgets/readable.h"
 
 #include <QAction>
 #include <QApplication>
@@ -55,7 +56,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
     setWindowTitle(QStringLiteral("Alembra"));
     setWindowIcon(Icons::program());
-    keepLinksReadable();
+    keepReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
     m_panes->setClearChartPanels([this] { ClearChartPanels(); });
@@ -357,20 +358,16 @@ void Form1::closeEvent(QCloseEvent *event)
     unloadAllWindows();
 }
 
-// Many dark desktops leave links in their dark blue.
-void Form1::keepLinksReadable()
+void Form1::keepReadable()
 {
-    const QPalette desktop = QApplication::palette();
-    QPalette own;
-    if (desktop.color(QPalette::Window).lightness() < 128 && desktop.color(QPalette::Link).lightness() < 150)
-        own.setColor(QPalette::Link, QColor(0x7a, 0xb8, 0xff));
-    setPalette(own);
+    setPalette(Readable::ownLinks(QApplication::palette()));
+    Readable::showEdges();
 }
 
 void Form1::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange)
-        keepLinksReadable();
+        keepReadable();
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         m_tray.windowChanged();

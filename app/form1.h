@@ -84,7 +84,7 @@ private:
     void showPanel(PanelId id);
     void focusPanel();
     void unloadAllWindows();
-    void keepLinksReadable();
+    void keepReadable();
 
     Module1 &m_module;
     DataStore &m_store;

@@ -41,9 +41,9 @@ constexpr std::array<Column, 6> Columns{{
     {9, 5, "Temperature coefficient:", 752, 184},
 }};
 
-// The light grey of the rings that do not apply, on a light desktop; on a dark one its counterpart.
+// The captions of rings that do not apply: the given light grey, and on a dark desktop one that is read.
 constexpr QColor LightGrey(0xe0, 0xe0, 0xe0);
-constexpr QColor DarkGrey(0x40, 0x40, 0x40);
+constexpr QColor GreyOnDark(0xa0, 0xa0, 0xa0);
 
 QList<int> bandCentres()
 {
@@ -306,7 +306,7 @@ void ElectronicsPane::mark(QLabel &label, bool active, QPalette::ColorRole activ
 {
     QPalette palette;
     const bool dark = this->palette().color(QPalette::Window).lightness() < 128;
-    palette.setColor(QPalette::WindowText, dark ? DarkGrey : LightGrey);
+    palette.setColor(QPalette::WindowText, dark ? GreyOnDark : LightGrey);
     label.setPalette(active ? QPalette() : palette);
     label.setForegroundRole(active ? activeRole : QPalette::WindowText);
 }

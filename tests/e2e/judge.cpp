@@ -1,6 +1,7 @@
 #include "tests/e2e/judge.h"
 
 #include "tests/e2e/paintedtexts.h"
+#include "widgets/readable.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -13,28 +14,10 @@
 #include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
-#include <cmath>
 
 namespace {
 
 constexpr QChar Ellipsis(u'\u2026');
-
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-/// From 1 to 21, as accessibility guidelines count it.
-double contrast(const QColor &one, const QColor &other)
-{
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
 
 /// The most frequent colour in and around a text beside its own: what it stands on.
 QColor background(const QImage &picture, const PaintedText &text)
@@ -77,14 +60,14 @@ bool isCovered(const QWidget &widget, const QWidget &window, const QPoint &place
 }
 
 /// Colours that are not ours to choose: the desktop's of a selection, those that the bonds have in the
-/// charts, and the light grey, or its counterpart, of rings that a resistor has not.
+/// charts, and the light grey of rings that a resistor has not.
 bool isGiven(const QColor &colour, const QColor &behind, const QWidget &widget)
 {
     const bool ring = widget.objectName().startsWith(QLatin1String("Label18(")) ||
                       widget.objectName() == QLatin1String("lbl2(20)");
     return behind == widget.palette().color(QPalette::Highlight) ||
            widget.window()->objectName() == QLatin1String("Formhelp3") ||
-           (ring && (colour == QColor(0xe0, 0xe0, 0xe0) || colour == QColor(0x40, 0x40, 0x40)));
+           (ring && colour == QColor(0xe0, 0xe0, 0xe0));
 }
 
 QString toolTipOfCell(QAbstractItemView &view, const QPoint &place)
@@ -128,7 +111,7 @@ void Judge::look(QWidget &window)
             report(QStringLiteral("many cells shortened"), view->join(QLatin1String("\", \"")), *view.key());
     }
     lookAtNeighbours(texts, window);
-    lookAtChildren(window);
+    lookAtChildren(window, picture);
 }
 
 void Judge::lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &window)
@@ -187,16 +170,16 @@ void Judge::lookAtText(const PaintedText &text, QWidget &window, const QImage &p
             report(QStringLiteral("shortened number"), text.text, at);
         m_shortened[&at] << text.text;
     }
-    constexpr double Readable = 4.5;
     const QColor behind = background(picture, text);
-    if (at.isEnabled() && !isGiven(text.colour, behind, at) && contrast(text.colour, behind) < Readable)
+    if (at.isEnabled() && !isGiven(text.colour, behind, at) &&
+        Readable::contrast(text.colour, behind) < Readable::TextContrast)
         report(QStringLiteral("%1 on %2, contrast %3")
                    .arg(text.colour.name(), behind.name())
-                   .arg(contrast(text.colour, behind), 0, 'f', 1),
+                   .arg(Readable::contrast(text.colour, behind), 0, 'f', 1),
                text.text, at);
 }
 
-void Judge::lookAtChildren(QWidget &window)
+void Judge::lookAtChildren(QWidget &window, const QImage &picture)
 {
     for (QWidget *child : window.findChildren<QWidget *>()) {
         if (!child->isVisible() || child->isWindow())
@@ -214,7 +197,27 @@ void Judge::lookAtChildren(QWidget &window)
             report(QStringLiteral("no room for all of it"), {}, parent);
         if (const auto *box = qobject_cast<QComboBox *>(child))
             lookAtBox(*box);
+        const auto *field = qobject_cast<QLineEdit *>(child);
+        if (picture.devicePixelRatio() >= 1 && child->isEnabled() &&
+            (qobject_cast<QComboBox *>(child) || (field && field->hasFrame())))
+            lookAtEdge(*child, window, picture);
     }
+}
+
+// The left edge, halfway down: its strongest contrast to what is left and right of it.
+void Judge::lookAtEdge(const QWidget &field, const QWidget &window, const QImage &picture)
+{
+    constexpr double Seen = 1.7; // Fusion's own on a light desktop
+    const QPoint middle = field.mapTo(&window, QPoint(0, field.height() / 2));
+    const QPoint place = (QPointF(middle) * picture.devicePixelRatio()).toPoint();
+    const auto colourAt = [&](int x) { return picture.pixelColor(place + QPoint(x, 0)); };
+    double strongest = 1;
+    for (int x = -2; x <= 3; ++x) {
+        strongest = std::max(strongest, std::min(Readable::contrast(colourAt(x), colourAt(-3)),
+                                                 Readable::contrast(colourAt(x), colourAt(4))));
+    }
+    if (strongest < Seen)
+        report(QStringLiteral("edge is not seen, contrast %1").arg(strongest, 0, 'f', 1), {}, field);
 }
 
 void Judge::lookAtBox(const QComboBox &box)
