@@ -3,6 +3,7 @@
 #include "app/frmload.h"
 #include "app/menulayout.h"
 #include "app/optionshost.h"
+#include "app/panescroll.h"
 #include "browsers/biochemistrypane.h"
 #include "browsers/references.h"
 #include "browsers/referencespane.h"
@@ -30,22 +31,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
-#include <QScreen>
-#include <QScrollArea>
 #include <QStatusBar>
-
-namespace {
-
-/// Asks for room for a whole pane; in a smaller window the pane scrolls, in a larger one it stays at the top
-/// left.
-class PaneScroll final : public QScrollArea
-{
-public:
-    using QScrollArea::QScrollArea;
-    QSize sizeHint() const override { return ModulePanel::Size; }
-};
-
-} // namespace
 
 Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
@@ -95,12 +81,7 @@ void Form1::buildPaneArea()
     addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(24, 430, 84, 20));
     addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(24, 462, 84, 20));
 
-    auto *scroll = new PaneScroll(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus); // the panes' controls take the keyboard, and it follows them
-    scroll->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    scroll->setWidget(m_paneArea);
-    setCentralWidget(scroll);
+    setCentralWidget(new PaneScroll(*m_paneArea, this));
     m_panes->panel(PanelId::Elements).setVisible(true);
 }
 
@@ -235,8 +216,7 @@ void Form1::loadMenus()
     updateCommands();
     // The pane whole, where the screen is large enough. adjustSize() would hold it to two thirds of the
     // screen.
-    constexpr QSize Decoration{8, 36}; // about what window managers put around it
-    resize(sizeHint().boundedTo(screen()->availableSize() - Decoration));
+    resize(sizeHint().boundedTo(Controls::roomFor(*this)));
 }
 
 void Form1::showStartModule()

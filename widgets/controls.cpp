@@ -1,6 +1,13 @@
 #include "widgets/controls.h"
 
 #include <QLabel>
+#include <QScreen>
+
+QSize Controls::roomFor(const QWidget &window)
+{
+    constexpr QSize Frame{8, 36}; // about what window managers draw
+    return window.screen()->availableSize() - Frame;
+}
 
 bool Controls::isOnTop(const QWidget &control, const QWidget &pane)
 {

@@ -27,6 +27,10 @@ W *named(W *control, const QString &name)
     return control;
 }
 
+/// The largest size that @p window can have on its screen, with the frame that a window manager puts around
+/// it, in logical pixels.
+QSize roomFor(const QWidget &window);
+
 /// @p font as the one large type: bold, 15 pixels high, letters side by side as they are drawn. The title of
 /// the splash and the cells of the periodic table share it, for another size of a typeface costs a start a
 /// millisecond. It is as large as two letters go in a cell: the table is read from the other end of the

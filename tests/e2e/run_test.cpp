@@ -8,6 +8,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTabBar>
 #include <QTest>
@@ -76,13 +78,21 @@ private:
 void RunTest::everyPaneIsShownAloneAndNamed()
 {
     const ProgramFolder folder;
+    int wentRight = 0;
     QCOMPARE(run(folder,
                  [&](Form1 &form) {
+                     form.resize(640, 480); // smaller than a pane, which then scrolls
+                     QApplication::processEvents();
+                     const QScrollBar *bar =
+                         qobject_cast<QScrollArea *>(form.centralWidget())->horizontalScrollBar();
                      for (const Command &command : Commands) {
                          if (command.kind != CommandKind::ShowPanel &&
                              command.kind != CommandKind::ShowPanelOnce)
                              continue;
+                         QTest::keyClick(form.focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+                         wentRight += bar->value() > 0 ? 1 : 0;
                          action(form, command.id)->trigger();
+                         QCOMPARE(bar->value(), 0); // shows its top left
                          const PanelName &name = Panels[size_t(command.panel)];
                          QCOMPARE(shownPanes(form), QStringList(QString::fromLatin1(name.frame)));
                          QCOMPARE(statusText(form), QString::fromLatin1(name.statusText));
@@ -93,6 +103,7 @@ void RunTest::everyPaneIsShownAloneAndNamed()
                      form.executeCommand(99999);
                  }),
              0);
+    QVERIFY(wentRight > 0);
     QCOMPARE(m_desktop.boxes.size(), 0);
 }
 
