@@ -22,7 +22,7 @@ DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
     setObjectName(QStringLiteral("frmbdd"));
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(Controls::heading(QStringLiteral("Label1(0)"), QStringLiteral("Properties"), this));
-    QLabel *pathLabel = Controls::label(QStringLiteral("Label2"), QStringLiteral("Database path:"), this);
+    QLabel *pathLabel = Controls::label(QStringLiteral("Label2"), QStringLiteral("Database &path:"), this);
     rows->addWidget(pathLabel);
     Text1 = Controls::named(new QLineEdit(this), QStringLiteral("Text1"));
     Text1->setReadOnly(true);
@@ -39,13 +39,13 @@ DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
     m_actions->setColumnStretch(0, 1);
     const QPushButton *Command10 =
         addAction(QStringLiteral("Label3"), QStringLiteral("Open the database with Microsoft Access:"),
-                  QStringLiteral("Command10"), QStringLiteral("Open..."));
+                  QStringLiteral("Command10"), QStringLiteral("Ope&n..."));
     const QPushButton *Command1 =
         addAction(QStringLiteral("Label4(0)"), QStringLiteral("Make a back-up copy of the database:"),
-                  QStringLiteral("Command1"), QStringLiteral("Save..."));
+                  QStringLiteral("Command1"), QStringLiteral("Sa&ve..."));
     const QPushButton *Command2 =
         addAction(QStringLiteral("Label4(1)"), QStringLiteral("Back-up the original database:"),
-                  QStringLiteral("Command2"), QStringLiteral("Restore"));
+                  QStringLiteral("Command2"), QStringLiteral("&Restore"));
     rows->addStretch();
 
     connect(Command10, &QPushButton::clicked, this, [this] { m_maintenance.open(); });

@@ -28,15 +28,15 @@ struct Group
 };
 
 constexpr std::array Mode{
-    Entry{Kind::Option1, 1, "Colors"},
-    Entry{Kind::Option1, 0, "Grayscale"},
+    Entry{Kind::Option1, 1, "Co&lors"},
+    Entry{Kind::Option1, 0, "Gra&yscale"},
 };
 
 constexpr std::array Solvents{
     Entry{Kind::Check2Fixed, 11, " Properties"},
-    Entry{Kind::Check2, 0, " Structures"},
+    Entry{Kind::Check2, 0, " Str&uctures"},
     Entry{Kind::Check2Fixed, 10, " Miscibility - Polarity"},
-    Entry{Kind::Check2, 2, " Relative polarities"},
+    Entry{Kind::Check2, 2, " &Relative polarities"},
     Entry{Kind::Check2Fixed, 13, " NMR"},
     Entry{Kind::Check2Fixed, 15, " Mass spec."},
     Entry{Kind::Check2Fixed, 12, " Cooling mixtures"},
@@ -47,19 +47,19 @@ constexpr std::array Solutions{
     Entry{Kind::Check2Fixed, 4, " Couples"},
     Entry{Kind::Check2Fixed, 6, " Constants"},
     Entry{Kind::Check2Fixed, 5, " Colored indicators"},
-    Entry{Kind::Check2, 7, " Fluorochroms"},
+    Entry{Kind::Check2, 7, " &Fluorochroms"},
 };
 
 constexpr std::array Elements{
     Entry{Kind::Check2Fixed, 14, " Elements"},
-    Entry{Kind::Check2, 3, " Pictures"},
-    Entry{Kind::Check2, 1, " Radioactive isotopes"},
+    Entry{Kind::Check2, 3, " &Pictures"},
+    Entry{Kind::Check2, 1, " Radioactive &isotopes"},
 };
 
 constexpr std::array Biochemistry{
     Entry{Kind::Check2Fixed, 8, " Biomolecules"},
-    Entry{Kind::Check1, 0, " Genetic code"},
-    Entry{Kind::Check1, 9, " SDS-PAGE"},
+    Entry{Kind::Check1, 0, " Ge&netic code"},
+    Entry{Kind::Check1, 9, " SDS-P&AGE"},
 };
 
 constexpr std::array Calculations{

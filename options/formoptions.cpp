@@ -60,8 +60,8 @@ void Formoptions::setTipAtStart(bool on)
 void Formoptions::buildWindow()
 {
     TabStrip1 = new TabStrip(QStringLiteral("TabStrip1"),
-                             {QStringLiteral("General"), QStringLiteral("Export"), QStringLiteral("Database"),
-                              QStringLiteral("Statistics")},
+                             {QStringLiteral("&General"), QStringLiteral("&Export"),
+                              QStringLiteral("&Database"), QStringLiteral("&Statistics")},
                              TabStrip::Across, this);
     auto *page = new QFrame(this);
     page->setFrameShape(QFrame::StyledPanel);
@@ -88,7 +88,7 @@ QLayout *Formoptions::buildButtons()
 {
     QPushButton *XPButton1 = makeOkButton(QStringLiteral("XPButton1"));
     auto *XpButton2 =
-        Controls::named(new QPushButton(QStringLiteral("Cancel"), this), QStringLiteral("XpButton2"));
+        Controls::named(new QPushButton(QStringLiteral("&Cancel"), this), QStringLiteral("XpButton2"));
     XpButton2->setAutoDefault(false);
     connect(XpButton2, &QPushButton::clicked, this, &QWidget::close);
     auto *buttons = new QHBoxLayout;

@@ -17,9 +17,9 @@ struct Box
 };
 
 constexpr std::array DisplayBoxes{
-    Box{1, " Tip of the day"},      Box{2, " Help ballon tips"},
-    Box{6, " Tables gridelines"},   Box{3, " Structure of solvents and amino acids"},
-    Box{5, " Picture of elements"}, Box{4, " Zoom-in on the picture of elements"},
+    Box{1, " &Tip of the day"},      Box{2, " &Help ballon tips"},
+    Box{6, " Tables gride&lines"},   Box{3, " Str&ucture of solvents and amino acids"},
+    Box{5, " &Picture of elements"}, Box{4, " &Zoom-in on the picture of elements"},
 };
 
 // Logical pixels.
@@ -45,12 +45,12 @@ public:
         auto *choices = new QGridLayout;
         choices->setColumnStretch(3, 1);
         m_controls.Combo2 = Controls::named(new QComboBox(&m_frame), QStringLiteral("Combo2"));
-        choices->addWidget(addLabel(0, QStringLiteral("Style of menus:"), *m_controls.Combo2), 0, 0);
+        choices->addWidget(addLabel(0, QStringLiteral("Style of &menus:"), *m_controls.Combo2), 0, 0);
         choices->addWidget(m_controls.Combo2, 0, 1, 1, 2);
-        QRadioButton *frequency = addButton(3, QStringLiteral("Frequency"));
+        QRadioButton *frequency = addButton(3, QStringLiteral("&Frequency"));
         choices->addWidget(addLabel(1, QStringLiteral("IR graduation:"), *frequency), 1, 0);
         choices->addWidget(frequency, 1, 1);
-        choices->addWidget(addButton(2, QStringLiteral("Wavelength")), 1, 2);
+        choices->addWidget(addButton(2, QStringLiteral("&Wavelength")), 1, 2);
         m_rows->addLayout(choices);
     }
 
@@ -60,19 +60,22 @@ public:
         addHeading(13, QStringLiteral("Parameters"));
         auto *module = new QHBoxLayout;
         m_controls.Check10 =
-            Controls::named(new QCheckBox(QStringLiteral(" Selected module on startup:"), &m_frame),
+            Controls::named(new QCheckBox(QStringLiteral(" Selected module o&n startup:"), &m_frame),
                             QStringLiteral("Check10"));
         m_controls.Combo3 = Controls::named(new QComboBox(&m_frame), QStringLiteral("Combo3"));
-        m_controls.Combo3->setAccessibleName(m_controls.Check10->text().trimmed());
+        m_controls.Combo3->setAccessibleName(QStringLiteral("Selected module on startup:"));
         m_controls.Combo3->setEnabled(false);
         module->addWidget(m_controls.Check10);
         module->addWidget(m_controls.Combo3);
         module->addStretch();
         m_rows->addLayout(module);
-        m_rows->addWidget(addBox({7, " Minimize the application in the SysTray"}));
+        m_rows->addWidget(addBox({7, " M&inimize the application in the SysTray"}));
         auto *balloon = new QHBoxLayout;
         balloon->addSpacing(Indent);
-        balloon->addWidget(addBox({8, " Activate the SysTray ballon tip"}));
+        // The click rule speaks only when a box changes.
+        QCheckBox *tip = addBox({8, " &Activate the SysTray ballon tip"});
+        tip->setEnabled(false);
+        balloon->addWidget(tip);
         m_rows->addLayout(balloon);
         m_rows->addStretch();
     }

@@ -61,7 +61,7 @@ StatisticsTab::StatisticsTab(const DataStore &store, const Module1 &module, QWid
     rows->addSpacing(GroupSpacing);
     auto *chooser = new QHBoxLayout;
     QLabel *heading =
-        Controls::heading(QStringLiteral("Label1(11)"), QStringLiteral("Database contents"), this);
+        Controls::heading(QStringLiteral("Label1(11)"), QStringLiteral("Database con&tents"), this);
     Combo1 = Controls::named(new QComboBox(this), QStringLiteral("Combo1"));
     heading->setBuddy(Combo1);
     chooser->addWidget(heading);

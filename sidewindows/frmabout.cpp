@@ -81,7 +81,7 @@ QLayout *frmAbout::buildAddresses()
 
 QLayout *frmAbout::buildButtons()
 {
-    auto *cmdSysInfo = Controls::named(new QPushButton(QStringLiteral("System infos..."), this),
+    auto *cmdSysInfo = Controls::named(new QPushButton(QStringLiteral("&System infos..."), this),
                                        QStringLiteral("cmdSysInfo"));
     QPushButton *cmdOk = makeOkButton(QStringLiteral("cmdOk"));
     cmdSysInfo->setMinimumWidth(104);

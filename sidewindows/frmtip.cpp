@@ -67,10 +67,10 @@ void frmTip::buildWindow()
 
 QLayout *frmTip::buildButtons()
 {
-    chkLoadTipsAtStartup = Controls::named(new QCheckBox(QStringLiteral("Display tips when starting"), this),
+    chkLoadTipsAtStartup = Controls::named(new QCheckBox(QStringLiteral("&Display tips when starting"), this),
                                            QStringLiteral("chkLoadTipsAtStartup"));
     auto *cmdNextTip =
-        Controls::named(new QPushButton(QStringLiteral("Next tip"), this), QStringLiteral("cmdNextTip"));
+        Controls::named(new QPushButton(QStringLiteral("&Next tip"), this), QStringLiteral("cmdNextTip"));
     QPushButton *cmdOK = makeOkButton(QStringLiteral("cmdOK"));
     cmdNextTip->setAutoDefault(false);
     cmdOK->setFocus();

@@ -2,8 +2,11 @@
 
 #include "widgets/controls.h"
 
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_owner(owner)
 {
@@ -14,9 +17,50 @@ SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_ow
 
 void SideWindow::showAboveOwner()
 {
+    QWidget *focused = focusWidget();
     m_owner.setEnabled(false);
-    setEnabled(true); // a window of a disabled owner is disabled with it
+    setEnabled(true); // a window of a disabled owner is disabled with it, and loses its focus
+    if (focused)
+        focused->setFocus();
     show();
+}
+
+void SideWindow::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        fitToScreen();
+    QDialog::setVisible(visible);
+}
+
+// The contents keep their size; in a window that is too small for them they scroll.
+void SideWindow::fitToScreen()
+{
+    const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    const QSize room = Controls::roomFor(*this);
+    if (wanted.boundedTo(room) == wanted)
+        return;
+    QWidget *focused = focusWidget();
+    auto *contents = new QWidget;
+    const QList<QWidget *> children = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    if (layout())
+        contents->setLayout(layout()); // takes the children along
+    else
+        for (QWidget *child : children)
+            child->setParent(contents);
+    contents->setFixedSize(wanted);
+
+    auto *scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(contents);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(scroll);
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const int bar = scroll->verticalScrollBar()->sizeHint().width();
+    resize((wanted + QSize(bar, bar)).boundedTo(room));
+    if (focused)
+        focused->setFocus();
 }
 
 void SideWindow::closeEvent(QCloseEvent *event)
@@ -29,7 +73,7 @@ void SideWindow::closeEvent(QCloseEvent *event)
 
 QPushButton *SideWindow::makeOkButton(const QString &name)
 {
-    auto *button = Controls::named(new QPushButton(QStringLiteral("OK"), this), name);
+    auto *button = Controls::named(new QPushButton(QStringLiteral("&OK"), this), name);
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     return button;

@@ -7,7 +7,8 @@ class QPushButton;
 /// A window that lies above `Form1`, which answers nothing while it is open.
 ///
 /// It is made when it is opened and destroyed when it is unloaded, so each opening runs its load anew.
-/// Closing it by any route enables `Form1` again. Escape closes it.
+/// Closing it by any route enables `Form1` again. Escape closes it. On a screen too small for it, its
+/// contents scroll.
 class SideWindow : public QDialog
 {
     Q_OBJECT
@@ -18,6 +19,8 @@ public:
 
     /// Disables the owner and shows the window, without a modal event loop.
     void showAboveOwner();
+
+    void setVisible(bool visible) override;
 
     void reject() override { close(); }
     void accept() override { close(); }
@@ -35,5 +38,7 @@ protected:
     QWidget &owner() const { return m_owner; }
 
 private:
+    void fitToScreen();
+
     QWidget &m_owner;
 };

@@ -32,13 +32,19 @@ int TabStrip::captionMargin() const
 {
     int room = width();
     for (int index = 0; index < count(); ++index)
-        room -= fontMetrics().horizontalAdvance(tabText(index));
+        room -= captionWidth(index);
     return isDown() ? CaptionMargin : qBound(LeastCaptionMargin, room / (2 * count()), CaptionMargin);
+}
+
+// Without the sign of a mnemonic.
+int TabStrip::captionWidth(int index) const
+{
+    return fontMetrics().horizontalAdvance(tabText(index).remove(QLatin1Char('&')));
 }
 
 QSize TabStrip::tabSizeHint(int index) const
 {
-    const int caption = fontMetrics().horizontalAdvance(tabText(index)) + 2 * captionMargin();
+    const int caption = captionWidth(index) + 2 * captionMargin();
     if (!isDown())
         return {caption, QTabBar::tabSizeHint(index).height()};
     return {qMax(caption, width()), fontMetrics().height() + DownHeight};
@@ -104,8 +110,9 @@ void TabStrip::paintTab(QStylePainter &painter, int index)
                                        : selected ? QPalette::HighlightedText
                                                   : QPalette::Text;
     const int margin = captionMargin();
-    painter.drawItemText(tab.rect.adjusted(margin, 0, -margin, 0), alignment | Qt::AlignVCenter, tab.palette,
-                         isEnabled(), tab.text, colour);
+    painter.drawItemText(tab.rect.adjusted(margin, 0, -margin, 0),
+                         alignment | Qt::AlignVCenter | Qt::TextShowMnemonic, tab.palette, isEnabled(),
+                         tab.text, colour);
     if (selected && hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);

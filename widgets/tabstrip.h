@@ -36,6 +36,7 @@ protected:
 
 private:
     int captionMargin() const;
+    int captionWidth(int index) const;
     bool isDown() const { return shape() == RoundedWest; }
     void paintTab(QStylePainter &painter, int index);
 };
