@@ -13,6 +13,7 @@
 #include "store/latertables.h"
 #include "store/loadtable.h"
 #include "store/recordset.h"
+#include "widgets/smallscale.h"
 
 #include <QApplication>
 
@@ -37,6 +38,7 @@ bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
 
 int Main(Desktop &desktop, const QString &appFolder)
 {
+    SmallScale::install();
     SingleInstance instance(appFolder);
     if (previousInstanceAnswers(instance, desktop))
         return 0;

@@ -3,6 +3,7 @@
 #include "tests/e2e/judge.h"
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
+#include "widgets/modulepanel.h"
 #include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void everyStyleOfTheToolBar();
     void focusIsSeen_data() { addLooks(); }
     void focusIsSeen();
+    void smallDisplay();
     void cleanup();
 
 private:
@@ -39,7 +41,6 @@ private:
     void setLooks();
     void verifyNothingFound();
 
-    // The test's own display is smaller than the window, which then scrolls.
     void walk(const ProgramFolder &folder, const std::function<void(Form1 &)> &looks)
     {
         run(folder, [&](Form1 &form) {
@@ -49,10 +50,12 @@ private:
         });
     }
     void openAndLook(Form1 &form, const std::function<void()> &open);
+    void throughSideWindows(Form1 &form);
 
     const QFont m_ownFont = QApplication::font();
     const QPalette m_ownPalette = QApplication::palette();
     Judge m_judge;
+    std::function<void(QWidget &)> m_lookAt = [this](QWidget &window) { m_judge.look(window); };
 };
 
 namespace {
@@ -160,43 +163,61 @@ void LooksTest::openAndLook(Form1 &form, const std::function<void()> &open)
     open();
     SideWindow *window = Walk::sideWindow(form);
     QVERIFY(window);
-    Walk::throughTabs(*window, [&] { m_judge.look(*window); });
+    Walk::throughTabs(*window, [&] { m_lookAt(*window); });
     window->close();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void LooksTest::throughSideWindows(Form1 &form)
+{
+    openAndLook(form, [&] { form.executeCommand(1122); });
+    openAndLook(form, [&] { form.executeCommand(1058); });
+    openAndLook(form, [&] {
+        form.executeCommand(1058);
+        SideWindow &options = *Walk::sideWindow(form);
+        options.findChild<QTabBar *>()->setCurrentIndex(3);
+        auto *pages = options.findChild<QComboBox *>(QStringLiteral("Combo1"));
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            m_lookAt(options);
+        }
+    });
+    control(form, "Command7(16)").click();
+    for (const char *opener : {"cmdhelp", "Command9"})
+        openAndLook(form, [&] { control(form, opener).click(); });
+    const auto openStructure = [&](int command, const char *list, int row) {
+        form.executeCommand(command);
+        openAndLook(form, [&] { Q_EMIT control<RowListView>(form, list).rowDoubleClicked(row); });
+    };
+    openStructure(1119, "ListView1", 0);
+    for (const auto &[command, opener] :
+         {std::pair(1142, "Command1"), {1144, "Command1"}, {1141, "Command2"}}) {
+        form.executeCommand(command);
+        openAndLook(form, [&form, name = opener] { control(form, name).click(); });
+    }
 }
 
 void LooksTest::everySideWindow()
 {
     setLooks();
     const ProgramFolder folder;
-    walk(folder, [this](Form1 &form) {
-        openAndLook(form, [&] { form.executeCommand(1122); });
-        openAndLook(form, [&] { form.executeCommand(1058); });
-        openAndLook(form, [&] {
-            form.executeCommand(1058);
-            SideWindow &options = *Walk::sideWindow(form);
-            options.findChild<QTabBar *>()->setCurrentIndex(3);
-            auto *pages = options.findChild<QComboBox *>(QStringLiteral("Combo1"));
-            for (int page = 0; page < pages->count(); ++page) {
-                pages->setCurrentIndex(page);
-                m_judge.look(options);
-            }
-        });
-        control(form, "Command7(16)").click();
-        for (const char *opener : {"cmdhelp", "Command9"})
-            openAndLook(form, [&] { control(form, opener).click(); });
-        const auto openStructure = [&](int command, const char *list, int row) {
-            form.executeCommand(command);
-            openAndLook(form, [&] { Q_EMIT control<RowListView>(form, list).rowDoubleClicked(row); });
-        };
-        openStructure(1119, "ListView1", 0);
-        for (const auto &[command, opener] :
-             {std::pair(1142, "Command1"), {1144, "Command1"}, {1141, "Command2"}}) {
-            form.executeCommand(command);
-            openAndLook(form, [&form, name = opener] { control(form, name).click(); });
-        }
-    });
+    walk(folder, [this](Form1 &form) { throughSideWindows(form); });
     verifyNothingFound();
+}
+
+// Every window stays on a display that is too small for it.
+void LooksTest::smallDisplay()
+{
+    const ProgramFolder folder;
+    run(folder, [this](Form1 &form) {
+        const QRect display = form.screen()->availableGeometry();
+        QVERIFY(ModulePanel::Size.width() > display.width());
+        QVERIFY(display.contains(form.frameGeometry()));
+        m_lookAt = [&](QWidget &window) {
+            QVERIFY2(display.contains(window.frameGeometry()), qPrintable(window.objectName()));
+        };
+        throughSideWindows(form);
+    });
 }
 
 void LooksTest::tipAndSplash()
