@@ -1,5 +1,6 @@
 #include "core/symboltext.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -14,18 +15,27 @@ constexpr std::array<char16_t, 26> LowerCase{
     u'ν', u'ο', u'π', u'θ', u'ρ', u'σ', u'τ', u'υ', u'ϖ', u'ω', u'ξ', u'ψ', u'ζ',
 };
 
+QChar sign(QChar c)
+{
+    if (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
+        return UpperCase[c.unicode() - u'A'];
+    if (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+        return LowerCase[c.unicode() - u'a'];
+    return c == QLatin1Char('-') ? u'−' : c;
+}
+
 } // namespace
 
 QString SymbolText::toUnicode(const QString &letters)
 {
     QString text = letters;
-    for (QChar &c : text) {
-        if (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
-            c = QChar(UpperCase[c.unicode() - u'A']);
-        else if (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
-            c = QChar(LowerCase[c.unicode() - u'a']);
-        else if (c == QLatin1Char('-'))
-            c = QChar(u'−');
-    }
+    std::transform(text.begin(), text.end(), text.begin(), sign);
+    return text;
+}
+
+QString SymbolText::decayModes(const QString &letters)
+{
+    QString text = letters;
+    std::transform(text.begin(), text.end(), text.begin(), [](QChar c) { return c.isUpper() ? c : sign(c); });
     return text;
 }

@@ -9,4 +9,7 @@ namespace SymbolText {
 /// Each letter becomes the Greek letter that the typeface shows for it; digits and punctuation stay.
 QString toUnicode(const QString &letters);
 
+/// The same for the decay modes of isotopes, whose capitals are abbreviations and stay: "e, SF" is "ε, SF".
+QString decayModes(const QString &letters);
+
 } // namespace SymbolText

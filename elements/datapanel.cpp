@@ -222,7 +222,7 @@ void IsotopePanel::showValues(const ElementPanel &panel)
         build();
     for (const auto &[index, label] : Label11) {
         const QString &stored = panel.Label11[size_t(index)];
-        label->setText(index % 3 == 2 ? SymbolText::toUnicode(stored) : stored);
+        label->setText(index % 3 == 2 ? SymbolText::decayModes(stored) : stored);
     }
     resize(Width, WindowUnits::pixels(panel.ReyFrame2Height));
     setVisible(panel.ReyFrame2Shown);

@@ -151,12 +151,12 @@ QWidget *makeIsotopes(QWidget *parent)
     grid->setColumnStretch(1, 1);
     grid->addWidget(Controls::heading({}, u"Radioactive isotopes"_s, panel), 0, 0, 1, 2);
     QLabel *example =
-        Controls::heading({}, u"40*   1.248E9 y   "_s + SymbolText::toUnicode(u"b-, e"_s), panel);
+        Controls::heading({}, u"40*   1.248E9 y   "_s + SymbolText::decayModes(u"b-, e"_s), panel);
     example->setFixedHeight(LegendColumn::LineHeight);
     grid->addWidget(example, 1, 0, 1, 2);
     addSigns(*grid, u"Isotope number"_s, {}, u"* = natural existence"_s);
     addSigns(*grid, u"Half-life"_s, u"s  m  h  d  y"_s, TimeUnits);
-    addSigns(*grid, u"Decay"_s, SymbolText::toUnicode(u"a  b-  b+  e  IT  SF"_s), DecayModes);
+    addSigns(*grid, u"Decay"_s, SymbolText::decayModes(u"a  b-  b+  e  IT  SF"_s), DecayModes);
     grid->setRowStretch(grid->rowCount(), 1);
     return panel;
 }

@@ -43,6 +43,7 @@ void TextsTest::codePageWritesQuestionMarksForWhatItLacks()
 void TextsTest::symbolLettersBecomeSigns()
 {
     QCOMPARE(SymbolText::toUnicode(QStringLiteral("a, b-, b+, e, ~é")), QStringLiteral("α, β−, β+, ε, ~é"));
+    QCOMPARE(SymbolText::decayModes(QStringLiteral("b-, e, IT, SF")), QStringLiteral("β−, ε, IT, SF"));
     QCOMPARE(SymbolText::toUnicode(QStringLiteral("DWls")), QStringLiteral("ΔΩλσ"));
 }
 

@@ -294,7 +294,7 @@ void SideWindowsTest::signsAndMeaningsOfALegendStandLineByLine()
                         QStringLiteral("* = natural existence"),
                         QStringLiteral("s|m|h|d|y"),
                         QStringLiteral("= second|= minute|= hour|= day|= year"),
-                        QStringLiteral("α|β−|β+|ε|ΙΤ|ΣΦ"),
+                        QStringLiteral("α|β−|β+|ε|IT|SF"),
                         QStringLiteral("= alpha particle|= negative electron|= positron|= electron capture|"
                                        "= isomeric transition|= spontaneous fission"),
                     }));
