@@ -46,6 +46,9 @@ void GeneticCodeSection::buildControls()
     Label18[1].setBuddy(&Combo2[2]);
     tbm.add(0, new QLineEdit(this)).setAccessibleName(tr("Amino acid of the codon"));
 
+    m_note = new QLabel(this);
+    m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
     Option3.add(1, new QRadioButton(QStringLiteral("Research by amino acid :"), this));
     Comb2 = Controls::named(new QComboBox(this), QStringLiteral("Comb2"));
     Comb2->setAccessibleName(tr("Amino acid"));
@@ -72,7 +75,8 @@ void GeneticCodeSection::placeControls()
     for (const auto &[letter, combo] : Combo2)
         grid->addWidget(combo, 3, letter);
     grid->addWidget(&tbm[0], 4, 0, 1, Columns);
-    grid->setRowMinimumHeight(5, 8);
+    grid->addWidget(m_note, 5, 0, 1, Columns);
+    grid->setRowMinimumHeight(5, fontMetrics().height());
     grid->addWidget(&Option3[1], 6, 0, 1, Columns);
     grid->addWidget(Comb2, 7, 0, 1, Columns);
     for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
@@ -113,6 +117,7 @@ void GeneticCodeSection::searchByAminoAcid()
     }
     tbm[0].hide();
     tbm[0].clear();
+    showNote({});
     for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
         tbm[codon].show();
     Comb2->setEnabled(true);
@@ -128,14 +133,22 @@ void GeneticCodeSection::showLetterLabels(bool active)
     }
 }
 
-// A codon that is not found leaves the last name where it is.
+// A codon that is not found leaves the last name where it is, but greyed and with a note: it is not its name.
 void GeneticCodeSection::showAminoAcid()
 {
     const QString codon = Combo2[0].currentText() + Combo2[1].currentText() + Combo2[2].currentText();
     if (codon.size() < GeneticCode::LetterCount)
         return;
-    if (const auto name = GeneticCode::aminoAcid(m_store.tables.GeneticCodeData, codon))
+    const auto name = GeneticCode::aminoAcid(m_store.tables.GeneticCodeData, codon);
+    if (name)
         tbm[0].setText(*name);
+    showNote(name ? QString() : QStringLiteral("%1: not found by its letters").arg(codon));
+}
+
+void GeneticCodeSection::showNote(const QString &note)
+{
+    m_note->setText(note);
+    tbm[0].setEnabled(note.isEmpty());
 }
 
 void GeneticCodeSection::showCodons()

@@ -27,6 +27,7 @@ private:
     void searchByAminoAcid();
     void showLetterLabels(bool active);
     void showAminoAcid();
+    void showNote(const QString &note);
     void showCodons();
 
     DataStore &m_store;
@@ -35,5 +36,6 @@ private:
     ControlArray<QComboBox> Combo2{"Combo2"}; ///< letters 1 to 3 of the codon
     ControlArray<QLabel> Label18{"Label18"};
     QComboBox *Comb2;
+    QLabel *m_note;
     ControlArray<QLineEdit> tbm{"tbm"}; ///< 0 the amino acid, 1 to 6 its codons
 };

@@ -298,8 +298,10 @@ void ListsPanesTest::theCodeIsSearchedInOneDirectionAtATime()
 
     pick("AUG");
     QCOMPARE(text(0), QStringLiteral("Methionine"));
-    pick("GGG"); // stands nowhere: the last answer stays
+    QVERIFY(worked.get<QLineEdit>("tbm(0)")->isEnabled());
+    pick("GGG"); // stands nowhere: the last answer stays, in grey
     QCOMPARE(text(0), QStringLiteral("Methionine"));
+    QVERIFY(!worked.get<QLineEdit>("tbm(0)")->isEnabled());
 
     worked.work("Option3(1)");
     QCOMPARE(text(0), QString());
