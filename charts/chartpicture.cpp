@@ -29,7 +29,14 @@ void ChartPicture::paint(const QImage &picture, double left)
 {
     m_picture = QPixmap::fromImage(picture);
     m_left = WindowUnits::pixels(left);
+    m_rise = 0;
     resize(m_left + picture.width(), picture.height());
+    update();
+}
+
+void ChartPicture::setRise(int rise)
+{
+    m_rise = rise;
     update();
 }
 
@@ -37,5 +44,5 @@ void ChartPicture::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform); // for displays finer than the picture
-    painter.drawPixmap(m_left, 0, m_picture);
+    painter.drawPixmap(m_left, -m_rise, m_picture);
 }

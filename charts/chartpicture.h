@@ -22,6 +22,9 @@ public:
     /// Paints @p picture with its left edge at @p left and its top at 0.
     void paint(const QImage &picture, double left);
 
+    /// Moves what is painted up by that many logical pixels, within the area.
+    void setRise(int rise);
+
     bool isClear() const { return m_picture.isNull(); }
 
 protected:
@@ -30,4 +33,5 @@ protected:
 private:
     QPixmap m_picture;
     int m_left = 0; ///< logical pixels
+    int m_rise = 0; ///< logical pixels
 };

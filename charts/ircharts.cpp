@@ -1,6 +1,7 @@
 #include "charts/ircharts.h"
 
 #include "core/optionslots.h"
+#include "store/rowlist.h"
 
 #include <QStringList>
 
@@ -21,6 +22,18 @@ std::optional<QString> title(const QString &ChartKey)
             return groups[group - 1];
     }
     return std::nullopt;
+}
+
+int bandsOf(const RowList &bands, QStringView motif, const QString &title)
+{
+    const QStringView firstPart = motif.first(qMax(0, motif.indexOf(QLatin1Char(','))));
+    for (const QStringView name : {motif, firstPart, QStringView(title)}) {
+        for (int row = 0; !name.isEmpty() && row < bands.rowCount(); ++row) {
+            if (bands.cell(row, 0).startsWith(name))
+                return row;
+        }
+    }
+    return -1;
 }
 
 QString file(const QString &AppFolder, const QString &ChartKey)

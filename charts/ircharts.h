@@ -4,6 +4,7 @@
 #include <optional>
 
 class OptionSlots;
+class RowList;
 
 /// The infrared charts: one for each group of functional groups, under one of two printed scales.
 namespace IrCharts {
@@ -13,6 +14,11 @@ inline constexpr int PaintLeft = 100;
 
 /// Title of the group with number @p ChartKey, "1" to "6"; nothing for other texts.
 std::optional<QString> title(const QString &ChartKey);
+
+/// The first row of the table of @p bands that belongs to the functional group @p motif, in words of the list
+/// of charts: one whose name begins with it, or with its first part ("Azides" of "Azides, diazo, azo"), or
+/// else the heading @p title. -1 if there is none.
+int bandsOf(const RowList &bands, QStringView motif, const QString &title);
 
 /// "<AppFolder>/Data/ir/1.gif"
 QString file(const QString &AppFolder, const QString &ChartKey);

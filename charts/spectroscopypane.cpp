@@ -140,8 +140,9 @@ void SpectroscopyPane::buildChart()
     SourceImage = new PictureBox(QStringLiteral("SourceImage"), box);
     SourceImage->hide();
 
-    auto *credit = Controls::label(QStringLiteral("Label19(25)"),
-                                   tr("Shifts: nmrshiftdb2, open database of NMR spectra"), box);
+    auto *credit = Controls::label(
+        QStringLiteral("Label19(25)"),
+        QStringLiteral("Shifts: nmrshiftdb2, open database of NMR spectra (MRC-15-582)"), box);
     credit->setGeometry(ViewportLeft + 11, CreditTop, ViewportWidth - 60, 20);
 
     Command1 = Controls::named(new QPushButton(QStringLiteral("?"), box), QStringLiteral("Command1"));
@@ -219,6 +220,8 @@ void SpectroscopyPane::changeMode()
     // A pending repaint finishes before the lists are swapped.
     m_desktop.pause(RepaintPause);
     applyMode(SpectroscopyMode(mode()));
+    if (SpectroscopyMode(mode()) == SpectroscopyMode::IrTable)
+        showBands();
     Q_EMIT modeChanged();
 }
 
@@ -231,6 +234,7 @@ void SpectroscopyPane::applyMode(SpectroscopyMode mode)
     const SpectroscopyModes::Settings &settings = SpectroscopyModes::settings(mode);
     if (settings.emptiesTitle)
         Label20->clear();
+    Label20->setEnabled(settings.emptiesTitle); // a title that is left over is that of no chart on screen
     if (settings.heading)
         Label2[104].setText(QLatin1StringView(settings.heading));
     if (settings.toolTip && m_module1.OptionSlots(Slot::ToolTips).equals(1))
@@ -266,6 +270,8 @@ void SpectroscopyPane::showIrChart(int row)
     ChartKey = m_store.lists.ListView3[5].subItem(row, 1);
     if (const auto title = IrCharts::title(ChartKey))
         Label20->setText(*title);
+    Label20->setEnabled(true);
+    m_bandsWanted = row;
     showIrScale();
     loadChart(IrCharts::file(m_module1.AppFolder, ChartKey));
     const auto &places = SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places;
@@ -273,6 +279,22 @@ void SpectroscopyPane::showIrChart(int row)
     Picture3->paint(SourceImage->picture(), IrCharts::PaintLeft);
     setScrollRange();
     ListView3[5].setFocus();
+}
+
+// The table follows the choice of a chart when it is next shown.
+void SpectroscopyPane::showBands()
+{
+    if (m_bandsWanted < 0)
+        return;
+    const RowList &charts = m_store.lists.ListView3[5];
+    const int row = IrCharts::bandsOf(m_store.lists.ListView3[27], charts.cell(m_bandsWanted, 0),
+                                      IrCharts::title(charts.subItem(m_bandsWanted, 1)).value_or(QString()));
+    m_bandsWanted = -1;
+    if (row < 0)
+        return;
+    RowListView &table = ListView3[27];
+    table.selectRow(row);
+    table.scrollTo(table.currentIndex(), QAbstractItemView::PositionAtTop);
 }
 
 void SpectroscopyPane::loadChart(const QString &file)
@@ -291,9 +313,16 @@ void SpectroscopyPane::setScrollRange()
     VScroll10->setValue(ChartScroll::Minimum);
 }
 
+// The range ends above the foot of a chart of more than 800 pixels. What is missing at its end, the picture
+// rises within its area, a part of it with each step.
 void SpectroscopyPane::scroll(int value)
 {
-    Picture3->setTop(ChartScroll::pictureTop(value, Controls::isShown(ListView3[5])));
+    const bool infrared = Controls::isShown(ListView3[5]);
+    const int maximum = VScroll10->maximum();
+    const int foot = WindowUnits::pixels(ChartScroll::pictureTop(maximum, infrared)) + Picture3->height();
+    const int missing = qMax(0, foot - grdFrame19->height());
+    Picture3->setTop(ChartScroll::pictureTop(value, infrared));
+    Picture3->setRise(missing * (value - ChartScroll::Minimum) / (maximum - ChartScroll::Minimum));
 }
 
 void SpectroscopyPane::captionIrScale()

@@ -82,6 +82,7 @@ private:
     void applyMode(SpectroscopyMode mode);
     void showNmrChart(const NmrCharts &charts, int row);
     void showIrChart(int row);
+    void showBands();
     void loadChart(const QString &file);
     void setScrollRange();
     void scroll(int value);
@@ -93,7 +94,8 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
 
-    QString ChartKey; ///< names the picture file of the chart last chosen
+    QString ChartKey;       ///< names the picture file of the chart last chosen
+    int m_bandsWanted = -1; ///< row of ListView3(5) whose bands the table has not shown yet
 
     DropDown *Comboana = nullptr;
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 5, 15, 16, 27

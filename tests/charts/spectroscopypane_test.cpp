@@ -103,6 +103,7 @@ private Q_SLOTS:
     void wheelAndPageKeysScrollATallChart();
     void theTitleOfAnNmrChartStaysOverTheInfraredCharts();
     void anUnknownGroupKeepsTheTitle();
+    void theTableOpensAtTheBandsOfTheChosenChart();
     void theGraduationTakesEffectWithTheNextClick();
     void theOptionsDialogSetsTheGraduationAtOnce();
     void aPaneSwitchClearsTheChart();
@@ -241,6 +242,13 @@ void SpectroscopyPaneTest::onlyTallChartsScroll()
     QCOMPARE(window.picture().pos(), QPoint(-4, 7));
     window.scrollBar().setValue(1599);
     QCOMPARE(window.picture().y(), -100); // 99 - 1599 twips
+
+    window.addPicture("ir/2.gif", 1300);
+    window.click(Charts, 1);
+    window.scrollBar().setValue(window.scrollBar().maximum());
+    const int bottom = window.get<QWidget>("grdFrame19").height() - window.picture().y();
+    QCOMPARE(window.colourAt(200, bottom - 1), Red);
+    QVERIFY(window.colourAt(200, bottom) != Red); // the foot
 }
 
 void SpectroscopyPaneTest::wheelAndPageKeysScrollATallChart()
@@ -282,8 +290,10 @@ void SpectroscopyPaneTest::theTitleOfAnNmrChartStaysOverTheInfraredCharts()
     window.pane.selectMode(2);
     QCOMPARE(window.text("Label20"), "proton 1");
     QVERIFY(window.picture().isClear());
+    QVERIFY(!window.get<QWidget>("Label20").isEnabled()); // it is that of no chart on screen
     window.pane.selectMode(1);
     QCOMPARE(window.text("Label20"), QString());
+    QVERIFY(window.get<QWidget>("Label20").isEnabled());
 }
 
 void SpectroscopyPaneTest::anUnknownGroupKeepsTheTitle()
@@ -298,6 +308,31 @@ void SpectroscopyPaneTest::anUnknownGroupKeepsTheTitle()
     window.click(Charts, 3);
     QCOMPARE(window.text("Label20"), "Aromatics");
     QCOMPARE(window.picture().height(), 100);
+}
+
+void SpectroscopyPaneTest::theTableOpensAtTheBandsOfTheChosenChart()
+{
+    Window window;
+    RowList &bands = window.store.lists.ListView3[27];
+    for (int row = 0; row < 200; ++row)
+        bands.append(row == 100 ? u"motif, primary" : row == 130 ? u"Aromatics" : u"others");
+    window.pane.show();
+    window.show();
+    window.addPicture("ir/2.gif");
+    window.addPicture("ir/5.gif");
+    const auto shownBand = [&](int chart) {
+        window.pane.selectMode(2);
+        window.click(Charts, chart);
+        window.pane.selectMode(3);
+        RowListView &table = window.list(27);
+        return table.indexAt({}).row() == table.selectedRow() ? table.selectedRow() : -1;
+    };
+    QCOMPARE(shownBand(1), 100);
+    bands.clear();
+    for (int row = 0; row < 200; ++row)
+        bands.append(row == 130 ? u"Aromatics" : u"others");
+    bands.filled();
+    QCOMPARE(shownBand(2), 130); // the heading of its group
 }
 
 void SpectroscopyPaneTest::theGraduationTakesEffectWithTheNextClick()
