@@ -104,7 +104,7 @@ ModulePanel *Form1::makePanel(PanelId id)
     case PanelId::Biochemistry:
         return new BiochemistryPane(m_module, m_store, m_desktop, m_paneArea);
     case PanelId::References:
-        return new ReferencesPane(m_desktop, m_paneArea);
+        return new ReferencesPane(m_module, m_desktop, m_paneArea);
     case PanelId::Polymers:
         return new PolymersPane(m_paneArea);
     case PanelId::Spectroscopy:

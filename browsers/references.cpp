@@ -6,11 +6,8 @@ using Kind = References::Entry::Kind;
 
 namespace {
 
-// Pages that have moved or whose host is not settled are looked for on the product's own site.
-QString onWebSite(const char *path)
-{
-    return QLatin1StringView(BuildSettings::WebSite) + QLatin1StringView(path);
-}
+// Drawn by this program, and so is their page.
+constexpr const char *InfraredCharts = "/vcorr.htm";
 
 } // namespace
 
@@ -29,13 +26,14 @@ const QList<References::Entry> &References::page()
         {9, Kind::Link, "Sigma-Aldrich", "https://www.sigmaaldrich.com/", 45},
 
         {1, Kind::Heading, "Spectroscopy"},
-        {16, Kind::Source, "- nmrshiftdb2, assigned spectra, CC BY-SA"},
+        {16, Kind::Source, "- nmrshiftdb2, CC BY-SA: Magn. Reson. Chem. 2015, 53, 582"},
         {17, Kind::Source,
          "- Encyclopedia of Physical Science and Technology, 3rd ed., Infrared Spectroscopy"},
         {12, Kind::Link, "Organic chemistry - University of Wisconsin",
          "https://www.chem.wisc.edu/areas/organic/index-chem.HTM", 46},
-        {31, Kind::Link, "Infrared correlation charts", onWebSite("/vcorr.htm"), 47},
-        {36, Kind::Link, "IR Absorptions for Representative Functional Groups", onWebSite("/"), 48},
+        {31, Kind::Link, "Infrared correlation charts", InfraredCharts, 47},
+        {36, Kind::Link, "IR Absorptions for Representative Functional Groups",
+         "https://www2.chemistry.msu.edu/faculty/reusch/virttxtjml/Spectrpy/InfraRed/infrared.htm", 48},
         {44, Kind::Link, "SDBS - Web Spectral Database for Organic Compounds",
          "https://sdbs.db.aist.go.jp/sdbs/cgi-bin/cre_index.cgi?lang=eng", 49},
 
@@ -49,7 +47,8 @@ const QList<References::Entry> &References::page()
         {24, Kind::Source, "- PHREEQC databases, USGS: minteq.v4, wateq4f, llnl, sit, ThermoChimie"},
         {25, Kind::Source, "- FPbase; McNamara-Boswell dye spectra"},
         {42, Kind::Source, "- Wikipedia, potentials, CC BY-SA"},
-        {23, Kind::Link, "AnalChem Ressources", onWebSite("/"), 50},
+        {23, Kind::Link, "AnalChem Ressources",
+         "https://chem.libretexts.org/Bookshelves/Analytical_Chemistry", 50},
         {26, Kind::Link, "Olympus - Microscopy Ressource Center",
          "https://www.olympusmicro.com/primer/techniques/fluorescence/fluorotable2.html", 51},
         {27, Kind::Link, "Carl-Zeiss - Fluorescence Dye",
@@ -66,7 +65,8 @@ const QList<References::Entry> &References::page()
         {33, Kind::Source, "- IUPAC standard atomic weights, 2021"},
         {34, Kind::Source, "- PubChem periodic table, National Library of Medicine"},
         {35, Kind::Source, "- Chinese Phys. C 2021, 45, 030001 (NUBASE2020); Nuclear Wallet Cards"},
-        {19, Kind::Link, "Alembra - Pictures of the elements", onWebSite("/"), 53},
+        {19, Kind::Link, "mendeleev - Configurations in the pictures", "https://mendeleev.readthedocs.io/",
+         53},
 
         {8, Kind::Heading, "Biochemistry"},
         {37, Kind::Source,
@@ -84,5 +84,5 @@ const QList<References::Entry> &References::page()
 
 QString References::donationPage()
 {
-    return onWebSite("/uk/don.php");
+    return QLatin1StringView(BuildSettings::WebSite) + QStringLiteral("/uk/don.php");
 }

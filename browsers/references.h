@@ -13,8 +13,9 @@ struct Entry
     int index; ///< of the label, `Label1(index)`
     Kind kind;
     QString text;
-    QString target = {}; ///< of a link: the address that it opens
-    int bullet = 0;      ///< of a link: index of the label with the hyphen before it
+    QString target =
+        {}; ///< of a link: the address that it opens; one that begins with "/" is in the program folder
+    int bullet = 0; ///< of a link: index of the label with the hyphen before it
 };
 
 /// In the order of the page, each heading before its sources.

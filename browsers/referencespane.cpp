@@ -1,14 +1,15 @@
 #include "browsers/referencespane.h"
 
 #include "core/desktop.h"
+#include "core/module1.h"
 #include "widgets/linklabel.h"
 
 #include <QList>
 
 using Kind = References::Entry::Kind;
 
-ReferencesPane::ReferencesPane(Desktop &desktop, QWidget *parent)
-    : ModulePanel("frmbiblio", parent), m_desktop(desktop)
+ReferencesPane::ReferencesPane(const Module1 &module1, Desktop &desktop, QWidget *parent)
+    : ModulePanel("frmbiblio", parent), m_module1(module1), m_desktop(desktop)
 {}
 
 void ReferencesPane::buildContents()
@@ -17,7 +18,7 @@ void ReferencesPane::buildContents()
     constexpr int Margin = 16;
     constexpr int ColumnWidth = 300;
     constexpr int ColumnGap = 14;
-    constexpr int LineGap = 5;
+    constexpr int LineGap = 4;
     constexpr int AboveHeading = 14;
     constexpr int BulletWidth = 9;
 
@@ -47,11 +48,19 @@ void ReferencesPane::buildContents()
 
 QLabel *ReferencesPane::makeLabel(const References::Entry &entry)
 {
-    if (entry.kind == Kind::Heading)
-        return &Label1.add(entry.index, Controls::heading({}, entry.text, this));
-    if (entry.kind == Kind::Source)
-        return &Label1.add(entry.index, Controls::label({}, entry.text, this));
-    auto *link = new LinkLabel(entry.text, entry.target, this);
+    if (entry.kind == Kind::Link)
+        return &Label1.add(entry.index, makeLink(entry));
+    QLabel *text = entry.kind == Kind::Heading ? Controls::heading({}, entry.text, this)
+                                               : Controls::label({}, entry.text, this);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return &Label1.add(entry.index, text);
+}
+
+LinkLabel *ReferencesPane::makeLink(const References::Entry &entry)
+{
+    const bool inFolder = entry.target.startsWith(QLatin1Char('/'));
+    auto *link =
+        new LinkLabel(entry.text, inFolder ? m_module1.AppFolder + entry.target : entry.target, this);
     connect(link, &LinkLabel::clicked, this, [this](const QString &target) { m_desktop.openTarget(target); });
-    return &Label1.add(entry.index, link);
+    return link;
 }

@@ -7,21 +7,26 @@
 #include <QLabel>
 
 class Desktop;
+class LinkLabel;
+struct Module1;
 
-/// `frmbiblio`: the sources of the data by subject, some of them links.
+/// `frmbiblio`: the sources of the data by subject, some of them links. Their texts can be selected and
+/// copied.
 class ReferencesPane final : public ModulePanel
 {
     Q_OBJECT
 
 public:
-    ReferencesPane(Desktop &desktop, QWidget *parent);
+    ReferencesPane(const Module1 &module1, Desktop &desktop, QWidget *parent);
 
 protected:
     void buildContents() override;
 
 private:
     QLabel *makeLabel(const References::Entry &entry);
+    LinkLabel *makeLink(const References::Entry &entry);
 
+    const Module1 &m_module1;
     Desktop &m_desktop;
     ControlArray<QLabel> Label1{"Label1"};
 };

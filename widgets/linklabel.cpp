@@ -1,5 +1,7 @@
 #include "widgets/linklabel.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,6 +11,7 @@ LinkLabel::LinkLabel(const QString &text, const QString &target, QWidget *parent
     : QLabel(text, parent), m_target(target)
 {
     setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
     setForegroundRole(QPalette::Link);
     QFont underlined = font();
     underlined.setUnderline(true);
@@ -21,12 +24,19 @@ LinkLabel::LinkLabel(const QString &text, const QString &target, QWidget *parent
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent *event)
 {
+    QLabel::mouseReleaseEvent(event);
+    if (hasSelectedText())
+        return; // the text was selected, not the link pressed
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT clicked(m_target);
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent *event)
 {
+    if (event->matches(QKeySequence::Copy) && !hasSelectedText()) {
+        QGuiApplication::clipboard()->setText(text());
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -1,9 +1,14 @@
 #include "browsers/referencespane.h"
 #include "browsers/textpanes.h"
 #include "core/buildsettings.h"
+#include "core/module1.h"
 #include "tests/support/scripteddesktop.h"
 #include "widgets/linklabel.h"
 
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QRegularExpression>
 #include <QTest>
 #include <QToolButton>
 #include <QUrl>
@@ -15,12 +20,18 @@ class ReferencesPaneTest : public QObject
 private Q_SLOTS:
     void linksOpenTheirPages_data();
     void linksOpenTheirPages();
+    void theInfraredChartsAreAPageOfTheProgram();
+    void textsAreSelectedAndCopied();
     void otherLabelsDoNothing();
     void linksAreReachedAndPressedByTheKeyboard();
     void everyLabelIsOnThePageOnce();
     void bothPicturesOpenTheDonationPage();
 
+    void initTestCase() { m_module.AppFolder = QStringLiteral(ALEMBRA_FOLDER); }
+
 private:
+    Module1 m_module;
+
     static QLabel &label(ReferencesPane &pane, int index)
     {
         return *pane.findChild<QLabel *>(Controls::indexedName("Label1", index));
@@ -35,7 +46,6 @@ void ReferencesPaneTest::linksOpenTheirPages_data()
     QTest::newRow("NMR charts") << 12 << "/areas/organic/index-chem.HTM";
     QTest::newRow("Olympus") << 26 << "/primer/techniques/fluorescence/fluorotable2.html";
     QTest::newRow("Zeiss") << 27 << "/us/us_en/spektral.php?f=fa";
-    QTest::newRow("infrared charts") << 31 << "/vcorr.htm";
     QTest::newRow("SDBS") << 44 << "/sdbs/cgi-bin/cre_index.cgi?lang=eng";
     for (const int index : {9, 19, 23, 30, 36})
         QTest::addRow("%d", index) << index << "";
@@ -46,7 +56,7 @@ void ReferencesPaneTest::linksOpenTheirPages()
     QFETCH(const int, index);
     QFETCH(const QString, end);
     ScriptedDesktop desktop;
-    ReferencesPane pane(desktop, nullptr);
+    ReferencesPane pane(m_module, desktop, nullptr);
     pane.show();
 
     QTest::mouseClick(&label(pane, index), Qt::LeftButton);
@@ -55,12 +65,48 @@ void ReferencesPaneTest::linksOpenTheirPages()
     const QUrl address(desktop.targets.constFirst(), QUrl::StrictMode);
     QVERIFY2(address.isValid() && !address.host().isEmpty(), qPrintable(desktop.targets.constFirst()));
     QVERIFY(desktop.targets.constFirst().endsWith(end));
+    QVERIFY(address.host() != QUrl(QLatin1StringView(BuildSettings::WebSite)).host()); // nothing is there
+}
+
+void ReferencesPaneTest::theInfraredChartsAreAPageOfTheProgram()
+{
+    ScriptedDesktop desktop;
+    ReferencesPane pane(m_module, desktop, nullptr);
+    pane.show();
+    QTest::mouseClick(&label(pane, 31), Qt::LeftButton);
+    QFile page(desktop.targets.value(0));
+    QVERIFY(page.fileName().endsWith("/vcorr.htm") && page.open(QIODevice::ReadOnly));
+    static const QRegularExpression Picture("src=\"([^\"]*)\"");
+    int pictures = 0;
+    for (const auto &match : Picture.globalMatch(QString::fromUtf8(page.readAll()))) {
+        QVERIFY2(QFile::exists(m_module.AppFolder + '/' + match.captured(1)), qPrintable(match.captured(1)));
+        ++pictures;
+    }
+    QCOMPARE(pictures, 6);
+}
+
+void ReferencesPaneTest::textsAreSelectedAndCopied()
+{
+    ScriptedDesktop desktop;
+    ReferencesPane pane(m_module, desktop, nullptr);
+    pane.show();
+    for (const int index : {6, 33, 44}) { // a heading, a source, a link
+        QLabel &text = label(pane, index);
+        QTest::mousePress(&text, Qt::LeftButton, {}, {1, text.height() / 2});
+        QTest::mouseMove(&text, {text.width() - 1, text.height() / 2});
+        QTest::mouseRelease(&text, Qt::LeftButton, {}, {text.width() - 1, text.height() / 2});
+        QTest::keyClick(&text, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(text.text().contains(QGuiApplication::clipboard()->text().trimmed()));
+        QVERIFY2(QGuiApplication::clipboard()->text().size() > 5, qPrintable(text.text()));
+        QGuiApplication::clipboard()->clear();
+    }
+    QVERIFY(desktop.targets.isEmpty());
 }
 
 void ReferencesPaneTest::otherLabelsDoNothing()
 {
     ScriptedDesktop desktop;
-    ReferencesPane pane(desktop, nullptr);
+    ReferencesPane pane(m_module, desktop, nullptr);
     pane.show();
     for (const int index : {0, 3, 21, 32, 45})
         QTest::mouseClick(&label(pane, index), Qt::LeftButton);
@@ -70,7 +116,7 @@ void ReferencesPaneTest::otherLabelsDoNothing()
 void ReferencesPaneTest::linksAreReachedAndPressedByTheKeyboard()
 {
     ScriptedDesktop desktop;
-    ReferencesPane pane(desktop, nullptr);
+    ReferencesPane pane(m_module, desktop, nullptr);
     pane.show();
     for (const LinkLabel *link : pane.findChildren<LinkLabel *>())
         QVERIFY(link->focusPolicy() & Qt::TabFocus);
