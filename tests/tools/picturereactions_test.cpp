@@ -47,7 +47,7 @@ private Q_SLOTS:
 void PictureReactionsTest::everyReactionHasItsEquationAndMechanism()
 {
     const int rows =
-        Table::read(Data + QStringLiteral("/tables/Reaction.tsv"), {QStringLiteral("orga")}).rowCount();
+        Table::read(Data + QStringLiteral("/tables/Reaction.tsv")).rowCount();
     for (int row = 1; row <= rows; ++row) {
         for (const QString &suffix : {QStringLiteral(".gif"), QStringLiteral("m.gif")}) {
             const QString name = Pictures + QStringLiteral("orga/%1").arg(row) + suffix;
@@ -110,13 +110,9 @@ void PictureReactionsTest::reportPicturesComeInColourAndInGreys()
 
 void PictureReactionsTest::everyCodonStandsForOneAcid()
 {
-    QStringList columns{QStringLiteral("aa")};
-    for (int i = 1; i <= 6; ++i)
-        columns << QStringLiteral("c%1").arg(i);
     const QHash<QString, QString> codons =
-        codonTable(Table::read(Data + QStringLiteral("/tables/Codegenetique.tsv"), columns),
-                   Table::read(Data + QStringLiteral("/tables/Acidesamines.tsv"),
-                               {QStringLiteral("aa"), QStringLiteral("cod")}));
+        codonTable(Table::read(Data + QStringLiteral("/tables/Codegenetique.tsv")),
+                   Table::read(Data + QStringLiteral("/tables/Acidesamines.tsv")));
     QCOMPARE(codons[QStringLiteral("AUG")], QStringLiteral("Met"));
     QCOMPARE(codons[QStringLiteral("UGA")], QStringLiteral("Stop"));
     QCOMPARE(codons[QStringLiteral("UGG")], QStringLiteral("Trp"));

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,7 +47,7 @@ struct WrongData
         file.close();
         try {
             draw(folder.path(), PictureFolder(folder.filePath(QStringLiteral("Data"))));
-        } catch (const PictureError &error) {
+        } catch (const BuildError &error) {
             return QString::fromUtf8(error.what());
         }
         return {};

@@ -56,11 +56,11 @@ void PicturesTest::everyElementHasTwoCards()
 void PicturesTest::everyCrystalStructureHasACell()
 {
     const Table table =
-        Table::read(Data + QStringLiteral("/tables/Elements.tsv"), {QStringLiteral("cristallo")});
+        Table::read(Data + QStringLiteral("/tables/Elements.tsv"));
     QSet<QByteArray> different;
     QSet<QString> names;
     for (int row = 0; row < table.rowCount(); ++row) {
-        const QString name = table.cell(row, QStringLiteral("cristallo"));
+        const QString name = table.cell(row, "cristallo");
         if (name == QLatin1String("-"))
             continue;
         const QString path = Pictures + QStringLiteral("cristal/%1.bmp").arg(name);
@@ -74,11 +74,11 @@ void PicturesTest::everyCrystalStructureHasACell()
 void PicturesTest::everySolventWithAStructureHasItTwice()
 {
     const Table solvents =
-        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"), {QStringLiteral("solvant")});
+        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
     int without = 0;
     for (int row = 0; row < solvents.rowCount(); ++row) {
         const QString folder = Pictures + QStringLiteral("chemicals/");
-        const QString name = solvents.cell(row, QStringLiteral("solvant"));
+        const QString name = solvents.cell(row, "solvant");
         const QImage named(folder + name + QStringLiteral(".bmp"));
         const QImage numbered(folder + QStringLiteral("%1.bmp").arg(row + 1));
         QCOMPARE(named.isNull(), name.startsWith(QLatin1String("Petroleum ether")));
@@ -96,10 +96,10 @@ void PicturesTest::everySolventWithAStructureHasItTwice()
 void PicturesTest::numbersThatTwoListsShareShowBothFormulas()
 {
     const Table solvents =
-        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"), {QStringLiteral("solvant")});
+        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
     for (int row = 0; row < 20; ++row) {
         const QString folder = Pictures + QStringLiteral("chemicals/");
-        const QString name = solvents.cell(row, QStringLiteral("solvant"));
+        const QString name = solvents.cell(row, "solvant");
         const QImage numbered(folder + QStringLiteral("%1.bmp").arg(row + 1));
         const QImage named(folder + name + QStringLiteral(".bmp"));
         QVERIFY2(darkPixels(numbered) > darkPixels(named) * 5 / 4, qPrintable(name));

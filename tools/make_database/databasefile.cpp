@@ -1,12 +1,12 @@
 #include "tools/make_database/databasefile.h"
 
 #include "store/jet/jetformat.h"
-#include "tools/make_database/builderror.h"
 #include "tools/make_database/bytewriter.h"
 #include "tools/make_database/indexleaf.h"
 #include "tools/make_database/pages.h"
 #include "tools/make_database/rows.h"
 #include "tools/make_database/systemtables.h"
+#include "tools/tables/builderror.h"
 
 #include <numeric>
 

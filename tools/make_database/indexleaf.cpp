@@ -1,8 +1,8 @@
 #include "tools/make_database/indexleaf.h"
 
 #include "store/jet/jetformat.h"
-#include "tools/make_database/builderror.h"
 #include "tools/make_database/bytewriter.h"
+#include "tools/tables/builderror.h"
 
 #include <algorithm>
 

@@ -5,9 +5,9 @@
 
 #include "store/databasepassword.h"
 #include "store/tablecatalog.h"
-#include "tools/make_database/builderror.h"
 #include "tools/make_database/databasefile.h"
 #include "tools/make_database/tablefile.h"
+#include "tools/tables/builderror.h"
 
 #include <QCoreApplication>
 #include <QDir>

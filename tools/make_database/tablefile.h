@@ -9,23 +9,21 @@ struct TableData
     QString name;
     QString file; ///< for messages
     QStringList columns;
-    QList<QStringList> rows; ///< each as long as the columns; row i stands in line i + 2 of the file
+    QList<QStringList> rows; ///< each as long as the columns; row i is line i + 2 of the file
 };
 
 /// What a table file must hold.
 struct TableRules
 {
     QString name;
-    QStringList columns;         ///< in this order
-    int rows = 0;                ///< 0: any number
-    bool anyCharacters = false;  ///< else those of Windows-1252, because reports print the table
-    qsizetype longestCell = 255; ///< in characters
+    QStringList columns;        ///< in this order
+    int rows = 0;               ///< 0: any number
+    bool anyCharacters = false; ///< else those of Windows-1252, because reports print the table
 };
 
 namespace TableFile {
 
-/// Reads a file of tab-separated UTF-8, line feed at the end of each line, header row of column names, no
-/// quoting. Throws BuildError at the first thing that breaks the rules.
+/// BuildError at the first thing that breaks the rules, a cell of more than 255 characters among them.
 TableData read(const QString &path, const TableRules &rules);
 
 } // namespace TableFile

@@ -3,7 +3,7 @@
 #include "tools/make_pictures/lattice.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QPolygonF>
 #include <QRadialGradient>
@@ -189,11 +189,11 @@ QImage drawCell(const Lattice &cell)
 
 void drawCrystals(const QString &data, const PictureFolder &pictures)
 {
-    const QString column = QStringLiteral("cristallo");
-    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"), {column});
+    constexpr const char *Column = "cristallo";
+    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"));
     for (int row = 0; row < table.rowCount(); ++row) {
-        const QString name = table.cell(row, column);
-        if (name == QLatin1String("-") || table.find(column, name) != row)
+        const QString name = table.cell(row, Column);
+        if (name == QLatin1String("-") || table.find(Column, name) != row)
             continue;
         const auto cell = std::find_if(lattices().begin(), lattices().end(),
                                        [&](const Lattice &lattice) { return lattice.name == name; });

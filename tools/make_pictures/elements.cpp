@@ -2,7 +2,7 @@
 
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QRegularExpression>
 
@@ -35,7 +35,7 @@ struct Element
     int row;
     QList<int> shells;
 
-    QString operator[](const char *column) const { return table.cell(row, QString::fromLatin1(column)); }
+    QString operator[](const char *column) const { return table.cell(row, column); }
     int number() const { return row + 1; }
 
     QColor colour() const
@@ -53,16 +53,16 @@ struct Element
 /// Puts the configuration of the noble gas for its symbol in brackets, as often as needed.
 QString writtenOut(const Table &table, int row)
 {
-    QString configuration = table.cell(row, QStringLiteral("elecconf"));
+    QString configuration = table.cell(row, "elecconf");
     static const QRegularExpression core(QStringLiteral("^\\[([A-Z][a-z]?)\\]"));
     for (int depth = 0; depth < 7; ++depth) {
         const QRegularExpressionMatch match = core.match(configuration);
         if (!match.hasMatch())
             break;
-        const int gas = table.find(QStringLiteral("symb"), match.captured(1));
+        const int gas = table.find("symb", match.captured(1));
         if (gas < 0 || gas >= row)
             table.fail(row, QStringLiteral("no noble gas %1 above").arg(match.captured()));
-        configuration.replace(0, match.capturedLength(), table.cell(gas, QStringLiteral("elecconf")));
+        configuration.replace(0, match.capturedLength(), table.cell(gas, "elecconf"));
     }
     return configuration;
 }
@@ -315,11 +315,7 @@ char blockOf(int atomicNumber)
 
 void drawElements(const QString &data, const PictureFolder &pictures)
 {
-    QStringList columns;
-    for (const char *column : {"atome", "symb", "nbato", "masseato", "elecconf", "densite", "melt", "boilt",
-                               "electroneg", "ionis", "rayon", "oxi", "etat", "famille", "cristallo"})
-        columns << QString::fromLatin1(column);
-    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"), columns);
+    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"));
     if (table.rowCount() < LastCard)
         table.fail(table.rowCount() - 1, QStringLiteral("the table ends before element %1").arg(LastCard));
     for (int row = 0; row < LastCard - 1; ++row) {

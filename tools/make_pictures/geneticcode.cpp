@@ -2,7 +2,7 @@
 
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QFontMetricsF>
 #include <QRegularExpression>
@@ -41,13 +41,13 @@ QColor colourOf(const QString &acid)
 /// "Ala (A)" gives "Ala".
 QString threeLetters(const Table &code, int row, const Table &acids)
 {
-    const QString name = code.cell(row, QStringLiteral("aa"));
+    const QString name = code.cell(row, "aa");
     if (name == QLatin1String("Stop"))
         return name;
-    const int acid = acids.find(QStringLiteral("aa"), name);
+    const int acid = acids.find("aa", name);
     if (acid < 0)
         code.fail(row, QStringLiteral("no amino acid \"%1\"").arg(name));
-    return acids.cell(acid, QStringLiteral("cod")).left(3);
+    return acids.cell(acid, "cod").left(3);
 }
 
 /// Lengths of the table for a given size of type.
@@ -161,7 +161,7 @@ QHash<QString, QString> codonTable(const Table &code, const Table &acids)
     for (int row = 0; row < code.rowCount(); ++row) {
         const QString acid = threeLetters(code, row, acids);
         for (int i = 1; i <= 6; ++i) {
-            const QString codon = code.cell(row, QStringLiteral("c%1").arg(i));
+            const QString codon = code.cell(row, QByteArray("c") + QByteArray::number(i));
             if (codon.isEmpty())
                 continue;
             if (!form.match(codon).hasMatch())
@@ -178,12 +178,8 @@ QHash<QString, QString> codonTable(const Table &code, const Table &acids)
 
 void drawGeneticCode(const QString &data, const PictureFolder &pictures)
 {
-    QStringList columns{QStringLiteral("aa")};
-    for (int i = 1; i <= 6; ++i)
-        columns << QStringLiteral("c%1").arg(i);
-    const Table code = Table::read(data + QStringLiteral("/tables/Codegenetique.tsv"), columns);
-    const Table acids = Table::read(data + QStringLiteral("/tables/Acidesamines.tsv"),
-                                    {QStringLiteral("aa"), QStringLiteral("cod")});
+    const Table code = Table::read(data + QStringLiteral("/tables/Codegenetique.tsv"));
+    const Table acids = Table::read(data + QStringLiteral("/tables/Acidesamines.tsv"));
     const QHash<QString, QString> codons = codonTable(code, acids);
     const QImage report = drawTable(codons, ReportType);
     pictures.write(QStringLiteral("img/gene_c.jpg"), report);

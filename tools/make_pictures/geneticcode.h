@@ -11,7 +11,7 @@ class Table;
 /// What each of the 64 codons stands for: the amino acid by its code of three letters, or "Stop".
 ///
 /// @p code: amino acids with their codons (aa, c1 to c6); a name may stand in more than one row. @p acids:
-/// their codes (aa, cod). Throws PictureError if a codon is missing, written wrongly or claimed twice.
+/// their codes (aa, cod). Throws BuildError if a codon is missing, written wrongly or claimed twice.
 QHash<QString, QString> codonTable(const Table &code, const Table &acids);
 
 /// Draws the table in colour and in greys.

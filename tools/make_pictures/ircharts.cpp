@@ -3,7 +3,7 @@
 #include "charts/chartgeometry.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QFontMetricsF>
 
@@ -46,10 +46,10 @@ QString within(const QString &group, const QString &motif)
 
 Band readBand(const Table &table, int row)
 {
-    const auto cell = [&](const char *column) { return table.cell(row, QString::fromLatin1(column)); };
+    const auto cell = [&](const char *column) { return table.cell(row, column); };
     Band band;
-    band.low = table.number(row, QStringLiteral("low"));
-    band.high = table.number(row, QStringLiteral("high"));
+    band.low = table.number(row, "low");
+    band.high = table.number(row, "high");
     band.bond = cell("bond_colour");
     band.colour = QColor(QLatin1Char('#') + cell("colour_rgb"));
     band.row = row;
@@ -66,12 +66,11 @@ QList<Section> readSections(const Table &motifs, const Table &bands, const QStri
 {
     QList<Section> sections;
     for (int row = 0; row < motifs.rowCount(); ++row) {
-        if (motifs.cell(row, QStringLiteral("groupe")) != group)
+        if (motifs.cell(row, "groupe") != group)
             continue;
-        Section section{motifs.cell(row, QStringLiteral("motif3")), {}};
+        Section section{motifs.cell(row, "motif3"), {}};
         for (int band = 0; band < bands.rowCount(); ++band) {
-            if (bands.cell(band, QStringLiteral("groupe")) == group &&
-                bands.cell(band, QStringLiteral("item")) == section.motif)
+            if (bands.cell(band, "groupe") == group && bands.cell(band, "item") == section.motif)
                 section.bands << readBand(bands, band);
         }
         if (section.bands.isEmpty())
@@ -205,13 +204,8 @@ QImage drawChart(const Table &bands, const QList<Section> &sections)
 
 void drawIrCharts(const QString &data, const PictureFolder &pictures)
 {
-    const Table motifs = Table::read(data + QStringLiteral("/drawing/ir_charts.tsv"),
-                                     {QStringLiteral("motif3"), QStringLiteral("groupe")});
-    QStringList columns;
-    for (const char *column : {"group", "molec", "wave", "low", "high", "intensity", "bond_colour",
-                               "colour_rgb", "groupe", "item"})
-        columns << QString::fromLatin1(column);
-    const Table bands = Table::read(data + QStringLiteral("/drawing/ir_bands.tsv"), columns);
+    const Table motifs = Table::read(data + QStringLiteral("/drawing/ir_charts.tsv"));
+    const Table bands = Table::read(data + QStringLiteral("/drawing/ir_bands.tsv"));
     for (int group = 1; group <= 6; ++group) {
         const QString number = QString::number(group);
         pictures.write(QStringLiteral("ir/%1.gif").arg(number),

@@ -11,7 +11,7 @@
 #include "tools/make_pictures/polarity.h"
 #include "tools/make_pictures/reactions.h"
 #include "tools/make_pictures/structures.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QGuiApplication>
 

@@ -5,7 +5,7 @@
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/shiftaxis.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QRegularExpression>
 
@@ -77,29 +77,28 @@ QString remarkOf(const QString &note)
 
 QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table &table)
 {
-    const auto at = [](const char *name) { return QString::fromLatin1(name); };
-    const Table notes = Table::read(data + at(nucleus.notes), {at("row"), at("note")});
+    const Table notes = Table::read(data + QString::fromLatin1(nucleus.notes));
     QList<Motif> motifs;
     for (int row = 0; row < table.rowCount(); ++row) {
         Motif motif;
         motif.row = row;
-        motif.name = table.cell(row, at(nucleus.motifColumn));
-        motif.group = table.cell(row, at("group"));
-        motif.smarts = table.cell(row, at("smarts"));
-        motif.lowText = minusSign(table.cell(row, at("low")));
-        motif.typicalText = minusSign(table.cell(row, at("typical")));
-        motif.highText = minusSign(table.cell(row, at("high")));
-        motif.range.low = table.number(row, at("low"));
-        motif.range.high = table.number(row, at("high"));
+        motif.name = table.cell(row, nucleus.motifColumn);
+        motif.group = table.cell(row, "group");
+        motif.smarts = table.cell(row, "smarts");
+        motif.lowText = minusSign(table.cell(row, "low"));
+        motif.typicalText = minusSign(table.cell(row, "typical"));
+        motif.highText = minusSign(table.cell(row, "high"));
+        motif.range.low = table.number(row, "low");
+        motif.range.high = table.number(row, "high");
         if (!motif.isOverview())
-            motif.range.typical = table.number(row, at("typical"));
-        if (!table.cell(row, at("n")).isEmpty())
-            motif.observations = int(table.number(row, at("n")));
+            motif.range.typical = table.number(row, "typical");
+        if (!table.cell(row, "n").isEmpty())
+            motif.observations = int(table.number(row, "n"));
         if (!motif.isOverview() &&
             !(motif.range.low <= motif.range.typical && motif.range.typical <= motif.range.high))
             table.fail(row, QStringLiteral("the typical shift lies outside its range"));
-        if (const int note = notes.find(at("row"), QString::number(row + 1)); note >= 0)
-            motif.remark = remarkOf(notes.cell(note, at("note")));
+        if (const int note = notes.find("row", QString::number(row + 1)); note >= 0)
+            motif.remark = remarkOf(notes.cell(note, "note"));
         motifs << motif;
     }
     return motifs;
@@ -269,15 +268,14 @@ QImage drawMotifChart(const Nucleus &nucleus, const QList<Motif> &motifs, const 
 /// One bar for each class of the overview on the whole scale.
 QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &overview)
 {
-    const auto at = [](const char *name) { return QString::fromLatin1(name); };
     constexpr double RowsTop = 48;
     const double rowHeight = std::min(24.0, (VisibleHeight - RowsTop - 26) / double(rows.size()));
     const double rowsBottom = RowsTop + rows.size() * rowHeight;
     double low = overview.range.low;
     double high = overview.range.high;
     for (const int row : rows) {
-        low = std::min(low, classes.number(row, at("low")));
-        high = std::max(high, classes.number(row, at("high")));
+        low = std::min(low, classes.number(row, "low"));
+        high = std::max(high, classes.number(row, "high"));
     }
     const ShiftAxis axis = ShiftAxis::around(low, high, BarsLeft - 30, BarsRight);
 
@@ -293,14 +291,14 @@ QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &o
     axis.paintGrid(painter, RowsTop, rowsBottom);
     for (int i = 0; i < rows.size(); ++i) {
         const double top = RowsTop + i * rowHeight;
-        const QString label = classes.cell(rows[i], at("label"));
-        const ShiftRange range{classes.number(rows[i], at("low")), classes.number(rows[i], at("typical")),
-                               classes.number(rows[i], at("high"))};
+        const QString label = classes.cell(rows[i], "label");
+        const ShiftRange range{classes.number(rows[i], "low"), classes.number(rows[i], "typical"),
+                               classes.number(rows[i], "high")};
         const double bar = std::min(11.0, rowHeight - 5);
         range.paint(painter, axis, top + (rowHeight - bar) / 2, bar, classColour(label));
         painter.setPen(Ink);
         paintFormulaLines(painter, label, 11, false, {NameLeft, top, BarsLeft - NameLeft - 36., rowHeight});
-        paintCount(painter, int(classes.number(rows[i], at("n"))), top, rowHeight);
+        paintCount(painter, int(classes.number(rows[i], "n")), top, rowHeight);
     }
     axis.paint(painter, rowsBottom);
     return picture;
@@ -310,8 +308,8 @@ QList<int> rowsOfOverview(const Table &classes, const Nucleus &nucleus, int posi
 {
     QList<int> rows;
     for (int row = 0; row < classes.rowCount(); ++row) {
-        if (classes.cell(row, QStringLiteral("nucleus")) == QLatin1String(nucleus.symbol) &&
-            classes.cell(row, QStringLiteral("chart_position")) == QString::number(position))
+        if (classes.cell(row, "nucleus") == QLatin1String(nucleus.symbol) &&
+            classes.cell(row, "chart_position") == QString::number(position))
             rows << row;
     }
     return rows;
@@ -319,14 +317,8 @@ QList<int> rowsOfOverview(const Table &classes, const Nucleus &nucleus, int posi
 
 void drawCharts(const Nucleus &nucleus, const QString &data, const PictureFolder &pictures)
 {
-    QStringList columns{QString::fromLatin1(nucleus.motifColumn)};
-    for (const char *column : {"smarts", "low", "typical", "high", "n", "group"})
-        columns << QString::fromLatin1(column);
-    const Table table = Table::read(data + QString::fromLatin1(nucleus.table), columns);
-    columns = {};
-    for (const char *column : {"nucleus", "chart_position", "label", "low", "typical", "high", "n"})
-        columns << QString::fromLatin1(column);
-    const Table classes = Table::read(data + QStringLiteral("/drawing/nmr_overview.tsv"), columns);
+    const Table table = Table::read(data + QString::fromLatin1(nucleus.table));
+    const Table classes = Table::read(data + QStringLiteral("/drawing/nmr_overview.tsv"));
 
     const QList<Motif> motifs = readMotifs(nucleus, data, table);
     int overviews = 0;

@@ -1,6 +1,6 @@
 #include "tools/make_pictures/painting.h"
 
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -17,7 +17,7 @@ constexpr char Typeface[] = "DejaVu Sans";
 void requireTypeface()
 {
     if (!QFontDatabase::families().contains(QLatin1String(Typeface)))
-        throw PictureError(QStringLiteral("the typeface %1 is not installed").arg(QLatin1String(Typeface)));
+        throw BuildError(QStringLiteral("the typeface %1 is not installed").arg(QLatin1String(Typeface)));
 }
 
 QFont textFont(int pixels, bool bold)

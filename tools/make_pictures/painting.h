@@ -11,7 +11,7 @@ inline const QColor Ink(0x20, 0x24, 0x28);     ///< texts and outlines
 inline const QColor SoftInk(0x5c, 0x64, 0x6c); ///< what stands back: captions, notes
 inline const QColor Grid(0xdd, 0xe1, 0xe6);    ///< grid lines
 
-/// Throws PictureError unless the typeface of all pictures, DejaVu Sans, is installed.
+/// Throws BuildError unless the typeface of all pictures, DejaVu Sans, is installed.
 void requireTypeface();
 
 QFont textFont(int pixels, bool bold = false);

@@ -1,6 +1,6 @@
 #include "tools/make_pictures/picturefolder.h"
 
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -83,7 +83,7 @@ QByteArray encodeByQt(const QImage &picture, const QByteArray &format)
     QImageWriter writer(&buffer, format);
     writer.setQuality(JpegQuality);
     if (!writer.write(picture))
-        throw PictureError(writer.errorString());
+        throw BuildError(writer.errorString());
     return bytes;
 }
 
@@ -110,7 +110,7 @@ QByteArray encodeGif(const QImage &picture)
     int error = 0;
     GifFileType *file = EGifOpen(&bytes, appendToBytes, &error);
     if (!file)
-        throw PictureError(QString::fromLatin1(GifErrorString(error)));
+        throw BuildError(QString::fromLatin1(GifErrorString(error)));
     const int width = indexed.width();
     bool ok = EGifPutScreenDesc(file, width, indexed.height(), 8, 0, palette.get()) == GIF_OK &&
               EGifPutImageDesc(file, 0, 0, width, indexed.height(), false, nullptr) == GIF_OK;
@@ -118,7 +118,7 @@ QByteArray encodeGif(const QImage &picture)
         ok = EGifPutLine(file, const_cast<GifPixelType *>(indexed.constScanLine(y)), width) == GIF_OK;
     const bool closed = EGifCloseFile(file, &error) == GIF_OK;
     if (!ok || !closed)
-        throw PictureError(QStringLiteral("the picture cannot be written as GIF"));
+        throw BuildError(QStringLiteral("the picture cannot be written as GIF"));
     return bytes;
 }
 
@@ -136,6 +136,6 @@ void PictureFolder::write(const QString &name, const QImage &picture) const
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw PictureError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw BuildError(QStringLiteral("%1: %2").arg(path, file.errorString()));
     ++m_written;
 }

@@ -14,7 +14,7 @@ public:
     explicit PictureFolder(QString root) : m_root(std::move(root)) {}
 
     /// Writes @p picture to @p name below the folder, in the format of its suffix: jpg, png, bmp or gif.
-    /// Folders are made as needed. Throws PictureError if that fails.
+    /// Folders are made as needed. Throws BuildError if that fails.
     void write(const QString &name, const QImage &picture) const;
 
     int written() const { return m_written; }

@@ -4,7 +4,7 @@
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/reactionline.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QFontMetricsF>
 
@@ -43,22 +43,18 @@ struct Reaction
 /// The reactions by their number, each with one equation and the steps 1, 2, 3 ... of its mechanism.
 QList<Reaction> readReactions(const Table &table)
 {
-    const auto cell = [&](int row, const char *column) {
-        return table.cell(row, QString::fromLatin1(column));
-    };
     QList<Reaction> reactions;
     for (int row = 0; row < table.rowCount(); ++row) {
-        const Step step{row, cell(row, "rxn_smiles"), cell(row, "words")};
-        if (cell(row, "kind") == QLatin1String("equation")) {
+        const Step step{row, table.cell(row, "rxn_smiles"), table.cell(row, "words")};
+        if (table.cell(row, "kind") == QLatin1String("equation")) {
             reactions << Reaction{step, {}};
         } else {
-            if (reactions.isEmpty() ||
-                int(table.number(row, QStringLiteral("step"))) != reactions.last().steps.size() + 1)
+            if (reactions.isEmpty() || int(table.number(row, "step")) != reactions.last().steps.size() + 1)
                 table.fail(row, QStringLiteral("the step is out of order"));
             reactions.last().steps << step;
         }
-        if (cell(row, "n") != QString::number(reactions.size()))
-            table.fail(row, QStringLiteral("reaction number %1 is out of order").arg(cell(row, "n")));
+        if (table.cell(row, "n") != QString::number(reactions.size()))
+            table.fail(row, QStringLiteral("reaction number %1 is out of order").arg(table.cell(row, "n")));
     }
     return reactions;
 }
@@ -190,10 +186,7 @@ QImage drawMechanism(const Table &table, const Reaction &reaction)
 
 void drawReactions(const QString &data, const PictureFolder &pictures)
 {
-    QStringList columns;
-    for (const char *column : {"n", "kind", "step", "rxn_smiles", "words"})
-        columns << QString::fromLatin1(column);
-    const Table table = Table::read(data + QStringLiteral("/drawing/structures_reactions.tsv"), columns);
+    const Table table = Table::read(data + QStringLiteral("/drawing/structures_reactions.tsv"));
     const QList<Reaction> reactions = readReactions(table);
     for (int i = 0; i < reactions.size(); ++i) {
         if (reactions[i].steps.isEmpty())

@@ -3,7 +3,7 @@
 #include "tools/make_pictures/formula.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
-#include "tools/make_pictures/table.h"
+#include "tools/tables/table.h"
 
 #include <QFontMetrics>
 
@@ -33,17 +33,17 @@ struct Compound
 /// Row by row the compound, or nothing where the table gives no structure.
 QList<std::optional<Compound>> readCompounds(const QString &file, const QString &kind)
 {
-    const Table table = Table::read(file, {QStringLiteral("name"), QStringLiteral("smiles")});
+    const Table table = Table::read(file);
     QList<std::optional<Compound>> compounds;
     for (int row = 0; row < table.rowCount(); ++row) {
         compounds << std::nullopt;
-        const QString smiles = table.cell(row, QStringLiteral("smiles"));
+        const QString smiles = table.cell(row, "smiles");
         if (smiles.isEmpty())
             continue;
         const std::optional<Formula> formula = Formula::fromSmiles(smiles, Scale);
         if (!formula)
             table.fail(row, QStringLiteral("\"%1\" is not a structure").arg(smiles));
-        compounds.last() = Compound{table.cell(row, QStringLiteral("name")), kind, *formula};
+        compounds.last() = Compound{table.cell(row, "name"), kind, *formula};
     }
     return compounds;
 }
