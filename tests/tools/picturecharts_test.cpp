@@ -69,21 +69,17 @@ private Q_SLOTS:
 void PictureChartsTest::everyShiftRowHasItsChart_data()
 {
     QTest::addColumn<QString>("table");
-    QTest::addColumn<QString>("column");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<int>("overviews");
     QTest::newRow("protons") << "/tables/RMN1Hspectro.tsv"
-                             << "motif"
                              << "nmr/1h/" << 4;
     QTest::newRow("carbons") << "/tables/RMN13Cspectro.tsv"
-                             << "motif2"
                              << "nmr/13c/" << 1;
 }
 
 void PictureChartsTest::everyShiftRowHasItsChart()
 {
     QFETCH(QString, table);
-    QFETCH(QString, column);
     QFETCH(QString, folder);
     QFETCH(int, overviews);
     const int rows = Table::read(Data + table).rowCount();
@@ -100,11 +96,9 @@ void PictureChartsTest::everyShiftRowHasItsChart()
 
 void PictureChartsTest::everyInfraredGroupHasItsChart()
 {
-    const Table table =
-        Table::read(Data + QStringLiteral("/tables/IRgraphe.tsv"));
+    const Table table = Table::read(Data + QStringLiteral("/tables/IRgraphe.tsv"));
     for (int row = 0; row < table.rowCount(); ++row) {
-        const QImage chart(Pictures +
-                           QStringLiteral("ir/%1.gif").arg(table.cell(row, "groupe")));
+        const QImage chart(Pictures + QStringLiteral("ir/%1.gif").arg(table.cell(row, "groupe")));
         QCOMPARE(chart.width(), ChartGeometry::Width);
     }
 }

@@ -46,8 +46,7 @@ private Q_SLOTS:
 
 void PictureReactionsTest::everyReactionHasItsEquationAndMechanism()
 {
-    const int rows =
-        Table::read(Data + QStringLiteral("/tables/Reaction.tsv")).rowCount();
+    const int rows = Table::read(Data + QStringLiteral("/tables/Reaction.tsv")).rowCount();
     for (int row = 1; row <= rows; ++row) {
         for (const QString &suffix : {QStringLiteral(".gif"), QStringLiteral("m.gif")}) {
             const QString name = Pictures + QStringLiteral("orga/%1").arg(row) + suffix;

@@ -55,8 +55,7 @@ void PicturesTest::everyElementHasTwoCards()
 
 void PicturesTest::everyCrystalStructureHasACell()
 {
-    const Table table =
-        Table::read(Data + QStringLiteral("/tables/Elements.tsv"));
+    const Table table = Table::read(Data + QStringLiteral("/tables/Elements.tsv"));
     QSet<QByteArray> different;
     QSet<QString> names;
     for (int row = 0; row < table.rowCount(); ++row) {
@@ -73,8 +72,7 @@ void PicturesTest::everyCrystalStructureHasACell()
 
 void PicturesTest::everySolventWithAStructureHasItTwice()
 {
-    const Table solvents =
-        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
+    const Table solvents = Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
     int without = 0;
     for (int row = 0; row < solvents.rowCount(); ++row) {
         const QString folder = Pictures + QStringLiteral("chemicals/");
@@ -95,8 +93,7 @@ void PicturesTest::everySolventWithAStructureHasItTwice()
 
 void PicturesTest::numbersThatTwoListsShareShowBothFormulas()
 {
-    const Table solvents =
-        Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
+    const Table solvents = Table::read(Data + QStringLiteral("/tables/Solvants.tsv"));
     for (int row = 0; row < 20; ++row) {
         const QString folder = Pictures + QStringLiteral("chemicals/");
         const QString name = solvents.cell(row, "solvant");
