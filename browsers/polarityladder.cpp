@@ -1,34 +1,12 @@
 #include "browsers/polarityladder.h"
 
+#include "browsers/polarities.h"
+
 #include <QGridLayout>
 #include <QPainter>
 #include <QPainterPath>
 
 namespace {
-
-struct Rung
-{
-    QString group;
-    QString example;
-};
-
-// From non polar to polar.
-const QList<Rung> &rungs()
-{
-    static const QList<Rung> table{
-        {"Alkanes", "Petroleum ether, Hexane"},
-        {"Aromatics", "Toluene, benzene"},
-        {"Ethers", "Diethyl ether"},
-        {"Alkyl halides", "Tetrachloromethane, chloroform"},
-        {"Esters", "Ethyl acetate"},
-        {"Aldehydes and cétones", "Acetone, methylethyl ketone"},
-        {"Amines", "Pyridine, triethylamine"},
-        {"Alcohols", "Methanol, ethanol, 2-propanol, butanol"},
-        {"Amides", "Dimethylformamide"},
-        {"Carboxylic acids", "Ethanoic acid"},
-    };
-    return table;
-}
 
 constexpr int FirstGroup = 3; // Label10(3) to Label10(12), the examples follow
 constexpr int FirstExample = 13;
@@ -57,9 +35,9 @@ PolarityLadder::PolarityLadder(QWidget *parent) : QFrame(parent)
     place(27, QStringLiteral("Group"), row, 1, true);
     place(26, QStringLiteral("Example"), row++, 2, true);
     place(0, QStringLiteral("Non polar"), row++, 0);
-    for (int rung = 0; rung < rungs().size(); ++rung, ++row) {
-        place(FirstGroup + rung, rungs()[rung].group, row, 1);
-        place(FirstExample + rung, rungs()[rung].example, row, 2);
+    for (int rung = 0; rung < int(Polarities.size()); ++rung, ++row) {
+        place(FirstGroup + rung, Polarities[size_t(rung)].group, row, 1);
+        place(FirstExample + rung, Polarities[size_t(rung)].examples, row, 2);
     }
     Label13 = Controls::label(QStringLiteral("Label13"), QStringLiteral("Water"), this);
     grid->addWidget(Label13, row, 1);

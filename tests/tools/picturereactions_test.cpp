@@ -2,7 +2,6 @@
 
 #include "charts/chartgeometry.h"
 #include "tests/tools/pictures_data.h"
-#include "tools/make_pictures/geneticcode.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/reactionline.h"
 #include "tools/make_pictures/reactions.h"
@@ -36,7 +35,6 @@ private Q_SLOTS:
     void halfReactionsAreNone();
     void phenylsOnPhosphorusAreShort();
     void reportPicturesComeInColourAndInGreys();
-    void everyCodonStandsForOneAcid();
     void countsAreSubscriptsAndPositionsAreNot();
     void wrongDataIsRefusedWithFileAndLine_data();
     void wrongDataIsRefusedWithFileAndLine();
@@ -107,17 +105,6 @@ void PictureReactionsTest::reportPicturesComeInColourAndInGreys()
     QCOMPARE(QImage(Pictures + QStringLiteral("img/polarite_c.jpg")).size(), QSize(313, 441));
 }
 
-void PictureReactionsTest::everyCodonStandsForOneAcid()
-{
-    const QHash<QString, QString> codons =
-        codonTable(Table::read(Data + QStringLiteral("/tables/Codegenetique.tsv")),
-                   Table::read(Data + QStringLiteral("/tables/Acidesamines.tsv")));
-    QCOMPARE(codons[QStringLiteral("AUG")], QStringLiteral("Met"));
-    QCOMPARE(codons[QStringLiteral("UGA")], QStringLiteral("Stop"));
-    QCOMPARE(codons[QStringLiteral("UGG")], QStringLiteral("Trp"));
-    QCOMPARE(int(std::count(codons.cbegin(), codons.cend(), QStringLiteral("Leu"))), 6);
-}
-
 void PictureReactionsTest::countsAreSubscriptsAndPositionsAreNot()
 {
     const auto narrower = [](const char *text) {
@@ -150,11 +137,6 @@ void PictureReactionsTest::wrongDataIsRefusedWithFileAndLine_data()
     row("reaction left out", reactions, "2\tAppel reaction\tequation", "3\tAppel reaction\tequation",
         drawReactions, 6);
     row("structure that is none", reactions, "CC=O.[OH-]>>", "CC(=O.[OH-]>>", drawReactions, 3);
-    const char *code = "tables/Codegenetique.tsv";
-    row("codon with a wrong letter", code, "AAU\tAAC", "AAT\tAAC", drawGeneticCode, 4);
-    row("codon claimed twice", code, "GAU\tGAC", "GAU\tAAC", drawGeneticCode, 5);
-    row("codon missing", code, "UGU\tUGC", "UGU\t", drawGeneticCode, 24);
-    row("unknown amino acid", code, "Glycine\t", "Glycin\t", drawGeneticCode, 9);
 }
 
 void PictureReactionsTest::wrongDataIsRefusedWithFileAndLine()

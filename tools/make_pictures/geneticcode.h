@@ -1,18 +1,8 @@
-// img/gene_c.jpg, img/gene_ng.jpg and img/gene.png: the table of the genetic code, for the reports and for
-// the pane.
+// img/gene_c.jpg, img/gene_ng.jpg: the table of the genetic code, for the reports.
 #pragma once
 
-#include <QHash>
-#include <QString>
-
 class PictureFolder;
-class Table;
+class QString;
 
-/// What each of the 64 codons stands for: the amino acid by its code of three letters, or "Stop".
-///
-/// @p code: amino acids with their codons (aa, c1 to c6); a name may stand in more than one row. @p acids:
-/// their codes (aa, cod). Throws BuildError if a codon is missing, written wrongly or claimed twice.
-QHash<QString, QString> codonTable(const Table &code, const Table &acids);
-
-/// Draws the table in colour and in greys.
+/// Draws the table in colour and in greys. Takes nothing from @p data.
 void drawGeneticCode(const QString &data, const PictureFolder &pictures);

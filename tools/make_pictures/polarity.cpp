@@ -1,35 +1,14 @@
 #include "tools/make_pictures/polarity.h"
 
+#include "browsers/polarities.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 
 #include <QLinearGradient>
 
-#include <array>
 #include <cmath>
 
 namespace {
-
-struct SolventClass
-{
-    const char *name;
-    const char *examples;
-};
-
-// By rising polarity, as in the Solvents pane.
-constexpr std::array Classes{
-    SolventClass{"Alkanes", "Petroleum ether, hexane"},
-    SolventClass{"Aromatics", "Toluene, benzene"},
-    SolventClass{"Ethers", "Diethyl ether"},
-    SolventClass{"Alkyl halides", "Tetrachloromethane, chloroform"},
-    SolventClass{"Esters", "Ethyl acetate"},
-    SolventClass{"Aldehydes and ketones", "Acetone, methyl ethyl ketone"},
-    SolventClass{"Amines", "Pyridine, triethylamine"},
-    SolventClass{"Alcohols", "Methanol, ethanol, 2-propanol, butanol"},
-    SolventClass{"Amides", "Dimethylformamide"},
-    SolventClass{"Carboxylic acids", "Ethanoic acid"},
-    SolventClass{"Water", ""},
-};
 
 constexpr int Width = 313; // the size that the reports state
 constexpr int Height = 441;
@@ -65,6 +44,28 @@ void paintArrow(QPainter &painter)
                      QStringLiteral("Polar"));
 }
 
+void paintRung(QPainter &painter, int rung, const Polarity &polarity)
+{
+    constexpr int Rungs = int(Polarities.size()) + 1;
+    constexpr double RungHeight = double(Bottom - Top) / Rungs;
+    const QRectF row(48, Top + rung * RungHeight, Width - 54, RungHeight - 3);
+    const QColor colour = between(double(rung) / (Rungs - 1));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tint(colour, 0.3));
+    painter.drawRoundedRect(row, 3, 3);
+    painter.setBrush(colour);
+    painter.drawRect(QRectF(row.left(), row.top(), 5, row.height()));
+
+    const QString examples = QString::fromUtf8(polarity.examples);
+    const QRectF text = row.adjusted(12, 1, -2, -1);
+    painter.setPen(Ink);
+    painter.setFont(textFont(12, true));
+    painter.drawText(text, Qt::AlignLeft | (examples.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop),
+                     QString::fromUtf8(polarity.group));
+    painter.setFont(textFont(11));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignBottom, examples);
+}
+
 QImage drawLadder()
 {
     QImage picture = blankPicture(Width, Height);
@@ -75,25 +76,9 @@ QImage drawLadder()
     painter.drawText(QRectF(0, 6, Width, 20), Qt::AlignCenter, QStringLiteral("Relative polarities"));
     paintArrow(painter);
 
-    const double rowHeight = double(Bottom - Top) / Classes.size();
-    for (std::size_t i = 0; i < Classes.size(); ++i) {
-        const QRectF row(48, Top + double(i) * rowHeight, Width - 54, rowHeight - 3);
-        const QColor colour = between(double(i) / (Classes.size() - 1));
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(tint(colour, 0.3));
-        painter.drawRoundedRect(row, 3, 3);
-        painter.setBrush(colour);
-        painter.drawRect(QRectF(row.left(), row.top(), 5, row.height()));
-
-        const QString examples = QString::fromLatin1(Classes[i].examples);
-        const QRectF text = row.adjusted(12, 1, -2, -1);
-        painter.setPen(Ink);
-        painter.setFont(textFont(12, true));
-        painter.drawText(text, Qt::AlignLeft | (examples.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop),
-                         QString::fromLatin1(Classes[i].name));
-        painter.setFont(textFont(11));
-        painter.drawText(text, Qt::AlignLeft | Qt::AlignBottom, examples);
-    }
+    for (std::size_t rung = 0; rung < Polarities.size(); ++rung)
+        paintRung(painter, int(rung), Polarities[rung]);
+    paintRung(painter, int(Polarities.size()), {"Water", ""});
     return picture;
 }
 
