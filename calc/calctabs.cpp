@@ -1,5 +1,6 @@
 #include "calc/calctabs.h"
 
+#include "calc/calculation.h"
 #include "core/numbers.h"
 #include "core/optionslots.h"
 
@@ -15,27 +16,48 @@ constexpr FieldSet FractionFields{Xn1, Xn2, Xm1, Xm2, M1, M2};
 // A click on tab 4, 5 or 6 empties the fields of tab 5 and no others: what stands on 4 and 6 outlives a visit
 // to other tabs.
 constexpr CalcTab Tabs[]{
-    {"Amount of substance", "n = m / M", {"n (mol)", "m (g)", "M (g/mol)"}, ThreeFields, ThreeFields, false},
-    {"Concentration", "C = n / V", {"C (mol/L)", "n (mol)", "V (L)"}, ThreeFields, ThreeFields, false},
-    {"Volumic mass", "m = rau . V", {"m (g)", "rau (g/cm3)", "V (mL)"}, ThreeFields, ThreeFields, false},
+    {"Amount of substance",
+     "n = m / M",
+     {"n (mol)", "m (g)", "M (g/mol)"},
+     ThreeFields,
+     ThreeFields,
+     false,
+     AmountSolver},
+    {"Concentration",
+     "C = n / V",
+     {"C (mol/L)", "n (mol)", "V (L)"},
+     ThreeFields,
+     ThreeFields,
+     false,
+     AmountSolver},
+    {"Volumic mass",
+     "m = rau . V",
+     {"m (g)", "rau (g/cm3)", "V (mL)"},
+     ThreeFields,
+     ThreeFields,
+     false,
+     VolumicMassSolver},
     {"Dilution",
      "Ci . Vi = Cf . Vf  et  T = Cf / Ci = Vi / Vf",
      {},
      {Ci, Vi, Cf, Vf, T},
      FractionFields,
-     false},
+     false,
+     DilutionSolver},
     {"Massic / molar fraction",
      "Xm1 = (Xn1 . M1) / [Xn1 . M1 + (1 - Xn1) . M2]",
      {},
      FractionFields,
      FractionFields,
-     false},
+     false,
+     FractionSolver},
     {"Temperature / Pressure",
      "P = P* . exp [ - (   vap H / R) . (1 / T - 1 / T*) ]     * = atmospheric",
      {},
      {Tc, P, TcStar, PStar},
      FractionFields,
-     true},
+     true,
+     VapourPressureSolver},
 };
 
 constexpr CalcLabel Labels[]{

@@ -5,9 +5,10 @@
 #include <span>
 
 class OptionSlots;
+struct TabSolver;
 
-/// A tab of `TabStrip4`: what it is called and what it shows. Everything of the calculator that a tab does
-/// not name is hidden on it.
+/// A tab of `TabStrip4`: what it is called, what it shows and how it calculates. Everything of the calculator
+/// that a tab does not name is hidden on it. A tab without its solver does not compile.
 struct CalcTab
 {
     const char *caption;
@@ -16,6 +17,7 @@ struct CalcTab
     FieldSet fields;
     FieldSet emptied;   ///< by every click on the tab
     bool asksForLiquid; ///< shows `Option10` and `lbln(0)`
+    const TabSolver &solver;
 };
 
 /// A field with its label, and its place in the grid of the fields that show together.

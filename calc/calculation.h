@@ -44,7 +44,8 @@ struct Pattern
     void (*act)(Calculation &);
 };
 
-/// What a tab does at a click: first it counts, then it checks, then the first pattern that fits decides.
+/// What a tab does at a click on "Calculate": first it counts, then it checks, then the first pattern that
+/// fits decides.
 struct TabSolver
 {
     FieldSet counted;

@@ -1,3 +1,4 @@
+#include "calc/calctabs.h"
 #include "calc/calculation.h"
 
 #include "core/numbers.h"
@@ -5,9 +6,6 @@
 using namespace CalcFields;
 
 namespace {
-
-const std::array<const TabSolver *, 6> Solvers{&AmountSolver,   &AmountSolver,   &VolumicMassSolver,
-                                               &DilutionSolver, &FractionSolver, &VapourPressureSolver};
 
 void run(const TabSolver &solver, Calculation &calculation)
 {
@@ -52,7 +50,7 @@ Outcome Solver::solve(int tab, const FieldTexts &texts, std::optional<double> va
 {
     Calculation calculation(texts, vaporisationEntropy);
     try {
-        run(*Solvers.at(size_t(tab - 1)), calculation);
+        run(CalcTabs::tabs()[size_t(tab - 1)].solver, calculation);
     } catch (const RuntimeError &error) {
         // Any other failure, a text that is no number or the logarithm of zero, ends the click without a
         // word.
