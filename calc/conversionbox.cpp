@@ -18,22 +18,17 @@ constexpr int MaxLength = 25;
 QStringList captions()
 {
     QStringList captions;
-    for (const Quantity &quantity : UnitConverter::quantities())
+    for (const Quantity &quantity : Units::quantities())
         captions << QString::fromLatin1(quantity.caption);
     return captions;
-}
-
-const Quantity &quantity(int tab)
-{
-    return UnitConverter::quantities()[size_t(tab - 1)];
 }
 
 } // namespace
 
 ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent)
     : QWidget(parent), m_module(module), m_desktop(desktop), m_converter([this](int tab) {
-          return UnitPair{list(quantity(tab).inputList).currentRow(),
-                          list(quantity(tab).resultList).currentRow()};
+          return UnitPair{list(Units::quantity(tab).inputList).currentRow(),
+                          list(Units::quantity(tab).resultList).currentRow()};
       }),
       TabStrip3(new TabStrip(QStringLiteral("TabStrip3"), captions(), TabStrip::Down, this)),
       TextBoxM1(Controls::named(new TextBoxM(TextBoxM::SignedNumber, Decimals, MaxLength, this),
@@ -55,7 +50,7 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
 
 void ConversionBox::buildLists(const UnitLists &units)
 {
-    for (const Quantity &each : UnitConverter::quantities()) {
+    for (const Quantity &each : Units::quantities()) {
         buildList(each.inputList, units.names(each.inputList), each.startInput);
         buildList(each.resultList, units.names(each.resultList), each.startResult);
     }
@@ -70,7 +65,7 @@ void ConversionBox::buildLists(const UnitLists &units)
         column->addSpacing(3);
         column->addWidget(label);
         column->addWidget(box);
-        for (const Quantity &each : UnitConverter::quantities())
+        for (const Quantity &each : Units::quantities())
             column->addWidget(&list(each.*which), 1);
     };
     addHalf(QStringLiteral("From"), TextBoxM1, &Quantity::inputList);
@@ -99,7 +94,7 @@ void ConversionBox::clickTab(int tab)
         const QListWidgetItem *item = list(number).currentItem();
         return item ? item->text() : QString();
     };
-    m_converter.selectTab(tab, unit(quantity(tab).inputList), unit(quantity(tab).resultList));
+    m_converter.selectTab(tab, unit(Units::quantity(tab).inputList), unit(Units::quantity(tab).resultList));
     TextBoxM1->setFocus();
     showLists(tab);
     reset();
@@ -108,7 +103,8 @@ void ConversionBox::clickTab(int tab)
 void ConversionBox::showLists(int tab)
 {
     for (int number = 1; number <= int(m_lists.size()); ++number)
-        list(number).setVisible(number == quantity(tab).inputList || number == quantity(tab).resultList);
+        list(number).setVisible(number == Units::quantity(tab).inputList ||
+                                number == Units::quantity(tab).resultList);
     scrollToUnits();
 }
 
@@ -116,7 +112,7 @@ void ConversionBox::showLists(int tab)
 void ConversionBox::scrollToUnits()
 {
     layout()->activate();
-    const Quantity &shown = quantity(TabStrip3->selectedTab());
+    const Quantity &shown = Units::quantity(TabStrip3->selectedTab());
     for (const int number : {shown.inputList, shown.resultList})
         list(number).scrollToItem(list(number).currentItem(), QAbstractItemView::PositionAtCenter);
 }

@@ -1,21 +1,10 @@
 #pragma once
 
+#include "calc/units.h"
+
 #include <QString>
-#include <array>
 #include <functional>
 #include <optional>
-#include <span>
-
-/// A tab of `TabStrip3` with its pair of unit lists.
-struct Quantity
-{
-    const char *caption;
-    const char *mode; ///< its `ConversionMode`
-    int inputList;    ///< number n of `Listn`
-    int resultList;
-    int startInput; ///< positions selected at the start, from 0
-    int startResult;
-};
 
 /// The selected positions of a pair of lists, from 0; -1 without a selection.
 struct UnitPair
@@ -36,9 +25,6 @@ QString BracketText(const QString &text, QChar open, QChar close);
 class UnitConverter final
 {
 public:
-    /// In the order of the tabs, tab 1 first.
-    static std::span<const Quantity> quantities();
-
     /// @p selection tells the selected positions of the lists of a tab (1 to 8) when they are needed.
     explicit UnitConverter(std::function<UnitPair(int tab)> selection) : m_selection(std::move(selection)) {}
 
@@ -60,9 +46,7 @@ private:
     QString convertTemperature(const QString &input) const;
 
     std::function<UnitPair(int)> m_selection;
-    QString m_mode; ///< empty until the first tab click or key release
-    QString m_inputSymbol;
-    QString m_resultSymbol;
-    std::array<double, 16> m_factors{}; ///< `FactorTable`
+    QString m_mode;                          ///< empty until the first tab click or key release
+    std::span<const UnitByFactor> m_factors; ///< `FactorTable`
     UnitPair m_pair{0, 0};
 };

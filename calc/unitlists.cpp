@@ -1,31 +1,18 @@
 #include "calc/unitlists.h"
 
+#include "calc/units.h"
 #include "core/runtimeerror.h"
-
-namespace {
-
-struct SlotRange
-{
-    int first;
-    int last;
-    int inputList;
-};
-
-// The slots between these hold settings. The last one is the fourth energy, behind the three of slots 25
-// to 27.
-constexpr SlotRange UnitSlots[]{{1, 13, 1},   {14, 24, 3},  {25, 27, 5},  {28, 30, 7}, {31, 43, 9},
-                                {44, 52, 11}, {59, 62, 13}, {63, 73, 15}, {87, 87, 5}};
-
-} // namespace
 
 void UnitLists::fill(const OptionSlots &OptionSlots, int &UnitItemCount)
 {
-    for (const SlotRange &range : UnitSlots) {
-        QStringList &names = m_pairs[size_t(range.inputList / 2)];
-        for (int slot = range.first; slot <= range.last; ++slot) {
-            names << OptionSlots(slot).toText();
-            ++UnitItemCount;
-        }
+    for (const Quantity &quantity : Units::quantities()) {
+        QStringList &names = m_pairs[size_t(quantity.inputList / 2)];
+        const auto addNames = [&](const auto &units) {
+            for (const auto &unit : units)
+                names << OptionSlots(unit.slot).toText();
+        };
+        std::visit(addNames, quantity.units);
+        UnitItemCount += int(names.size());
     }
 }
 

@@ -12,7 +12,7 @@ class UnitLists final
 public:
     static constexpr int Count = 16;
 
-    /// Adds the names of the unit slots in slot order and counts each one in @p UnitItemCount. A slot that
+    /// Adds the names of the units in list order and counts each one in @p UnitItemCount. A slot that
     /// the options file left empty is an empty name: positions stay what they mean.
     void fill(const OptionSlots &OptionSlots, int &UnitItemCount);
 

@@ -231,7 +231,7 @@ void HelpTest::conversionsAreWhatTheProgramShows()
     int count = 0;
     lists.fill(options, count);
     static const QRegularExpression Equation(QStringLiteral("^(\\d+) (.+) = ([\\d.]+) ([^(]+?)(?: \\(.*)?$"));
-    const auto quantities = UnitConverter::quantities();
+    const auto quantities = Units::quantities();
     QList<QStringList> rows = Page(QStringLiteral("conversions.html")).rows;
     rows.removeIf([](const QStringList &cells) { return cells.isEmpty(); });
     QCOMPARE(size_t(rows.size()), quantities.size());

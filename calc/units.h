@@ -1,0 +1,45 @@
+#pragma once
+
+#include <span>
+#include <variant>
+
+/// A unit that converts by its factor.
+struct UnitByFactor
+{
+    int slot;      ///< option slot of its name
+    double factor; ///< base units in one of it
+};
+
+/// A unit that converts by formulas, which the difference of two codes selects.
+struct UnitByCode
+{
+    int slot; ///< option slot of its name
+    int code;
+};
+
+/// A tab of `TabStrip3` with its pair of unit lists.
+struct Quantity
+{
+    const char *caption;
+    const char *mode; ///< its `ConversionMode`
+    int inputList;    ///< number n of `Listn`
+    int resultList;
+    int startInput; ///< positions selected at the start, from 0
+    int startResult;
+    std::variant<std::span<const UnitByFactor>, std::span<const UnitByCode>> units; ///< in list order
+};
+
+/// The quantities and units of the conversions. The options file has the names of the units, here is what
+/// they mean.
+namespace Units {
+
+/// Numbers of the tabs.
+enum Tab { Length = 1, Surface, Volume, Mass, Temperature, Pressure, Energy, Radioactivity };
+
+/// In the order of the tabs.
+std::span<const Quantity> quantities();
+
+/// The quantity of a tab.
+const Quantity &quantity(int tab);
+
+} // namespace Units
