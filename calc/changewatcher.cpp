@@ -41,6 +41,13 @@ bool isZeroBeingTyped(const QString &text)
     return text == QLatin1String("0.") || text == QLatin1Char('0') + Numbers::decimalPoint();
 }
 
+// The echo of what is being typed: 1 - 0.94 is not 0.06 to the last digit, and the 0.06 must stay as it is.
+bool isComplement(const QString &text, const QString &partner)
+{
+    const std::optional<double> fraction = Numbers::read(partner);
+    return fraction && text == Numbers::write(1 - *fraction);
+}
+
 ChangeWatcher::Reaction keepSumOfOne(Field changed, Field partner, const FieldTexts &texts)
 {
     const QString &text = texts[changed];
@@ -50,6 +57,8 @@ ChangeWatcher::Reaction keepSumOfOne(Field changed, Field partner, const FieldTe
     if (isZeroBeingTyped(texts[partner]))
         return {};
     const double fraction = number(text);
+    if (fraction <= 1 && isComplement(text, texts[partner]))
+        return {};
     if (fraction <= 1)
         return {{}, {{partner, Numbers::write(1 - fraction)}}};
     return {QString::fromLatin1(OutOfBounds), {{changed, {}}, {partner, {}}}};

@@ -65,6 +65,10 @@ void ChangeWatcherTest::typingAFractionFillsItsPartnerStepByStep()
     fields.type(Xn1, QStringLiteral("0.35"));
     QCOMPARE(fields.log,
              (QStringList{"Xn1=0", "Xn2=1", "Xn1=0.", "Xn1=0.3", "Xn2=0.7", "Xn1=0.35", "Xn2=0.65"}));
+    // 1 - 0.94 is 0.0600000000000001, which must not take the place of the 0.06 under the cursor.
+    fields.type(Xm1, QStringLiteral("0.065"));
+    QCOMPARE(fields.log.mid(7), (QStringList{"Xm1=0", "Xm2=1", "Xm1=0.", "Xm1=0.0", "Xm1=0.06", "Xm2=0.94",
+                                             "Xm1=0.065", "Xm2=0.935"}));
 }
 
 void ChangeWatcherTest::everyPairWorksBothWays_data()
