@@ -1,19 +1,17 @@
 #include "widgets/textboxm.h"
 
+#include "core/numberentry.h"
 #include "core/numbers.h"
+#include "widgets/fieldhint.h"
 
-#include <QLocale>
-#include <QSignalBlocker>
+#include <QAction>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QStyle>
 #include <QValidator>
 #include <algorithm>
 
 namespace {
-
-bool isMinus(QChar c)
-{
-    static const QString minus = QLocale::system().negativeSign();
-    return c == QLatin1Char('-') || minus == c;
-}
 
 /// True if @p text is @p whole with one stretch taken out: what Delete, Backspace and Cut can leave.
 bool isReductionOf(const QString &text, const QString &whole)
@@ -44,73 +42,53 @@ public:
 
     State validate(QString &text, int &position) const override
     {
-        if (text.isEmpty() || text == m_box.m_text)
+        // The line edit has nothing to undo after a text of the program's, and something to redo after an
+        // undo, which only brings back what was there.
+        const bool isEdit = m_box.isUndoAvailable() && !m_box.isRedoAvailable();
+        if (!isEdit || text.isEmpty() || text == m_box.m_text)
             return Acceptable;
-        QString entry = m_box.m_tipodedato == AnyText ? text : completed(text.trimmed());
-        if (fits(entry)) {
-            adopt(text, position, entry);
-            return Acceptable;
-        }
-        if (!isReductionOf(text, m_box.m_text))
+        const std::optional<QString> entry = judge(text);
+        if (!entry)
             return Invalid;
-        entry = withoutBareExponent(text);
-        if (m_box.m_tipodedato != AnyText && !Numbers::read(entry))
-            return Invalid;
-        adopt(text, position, entry);
+        position = std::clamp(position + int(entry->size() - text.size()), 0, int(entry->size()));
+        text = *entry;
         return Acceptable;
     }
 
 private:
-    // Never an entry that is no number and cannot be told from one: a separator alone gets its zero.
-    static QString completed(QString entry)
+    std::optional<QString> judge(const QString &text) const
     {
-        const QString point = Numbers::decimalPoint();
-        entry.replace(QLatin1Char('.'), point);
-        const bool noDigit = std::none_of(entry.begin(), entry.end(), [](QChar c) { return c.isDigit(); });
-        if (noDigit && entry.endsWith(point))
-            entry.insert(entry.size() - point.size(), QLatin1Char('0'));
-        return entry;
-    }
-
-    bool fits(const QString &entry) const
-    {
-        if (m_box.m_maxlength > 0 && entry.size() > m_box.m_maxlength)
-            return false;
         if (m_box.m_tipodedato == AnyText)
-            return true;
-        const bool minus = !entry.isEmpty() && isMinus(entry.front());
-        if (minus && m_box.m_tipodedato != SignedNumber)
-            return false;
-        return (minus && entry.size() == 1) ||
-               (isDecimal(entry.sliced(minus ? 1 : 0)) && Numbers::read(entry));
+            return m_box.m_maxlength > 0 && text.size() > m_box.m_maxlength ? std::nullopt
+                                                                            : std::optional(text);
+        if (isReductionOf(text, m_box.m_text))
+            return reduced(text);
+        if (!m_box.isTyping())
+            return m_box.numberEntry().pasted(text);
+        // An "E" alone is no number yet, and each key leaves one.
+        return m_box.m_key.front().isLetter() ? std::nullopt : m_box.numberEntry().typed(text);
     }
 
-    // Digits with at most one separator; signs and exponents are no part of it.
-    bool isDecimal(const QString &digits) const
+    std::optional<QString> reduced(const QString &text) const
     {
-        const QStringList parts = digits.split(Numbers::decimalPoint());
-        const auto isDigits = [](const QString &part) {
-            return std::all_of(part.begin(), part.end(), [](QChar c) { return c.isDigit(); });
-        };
-        if (parts.size() > 2 || !std::all_of(parts.begin(), parts.end(), isDigits))
-            return false;
-        return parts.size() == 1 || (m_box.m_decimales > 0 && parts.last().size() <= m_box.m_decimales);
-    }
-
-    static void adopt(QString &text, int &position, const QString &entry)
-    {
-        position = std::clamp(position + int(entry.size() - text.size()), 0, int(entry.size()));
-        text = entry;
+        if (const std::optional<QString> entry = m_box.numberEntry().typed(text))
+            return entry;
+        const QString entry = withoutBareExponent(text);
+        return Numbers::read(entry) ? std::optional(entry) : std::nullopt;
     }
 
     const TextBoxM &m_box;
 };
 
-TextBoxM::TextBoxM(QWidget *parent) : QLineEdit(parent), m_limits(new Limits(this))
+TextBoxM::TextBoxM(QWidget *parent) : QLineEdit(parent)
 {
-    setValidator(m_limits);
+    setValidator(new Limits(this));
     // The first to hear of a change, before any handler that writes into the field again.
-    connect(this, &QLineEdit::textChanged, this, &TextBoxM::rememberText);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_text = text;
+        clearMark();
+    });
+    connect(this, &QLineEdit::inputRejected, this, &TextBoxM::showRefusal);
 }
 
 TextBoxM::TextBoxM(Entry tipodedato, int decimales, int maxlength, QWidget *parent) : TextBoxM(parent)
@@ -120,19 +98,65 @@ TextBoxM::TextBoxM(Entry tipodedato, int decimales, int maxlength, QWidget *pare
     m_maxlength = maxlength;
 }
 
-void TextBoxM::rememberText(const QString &text)
+void TextBoxM::keyPressEvent(QKeyEvent *event)
 {
-    const bool judgedWell = hasAcceptableInput();
-    m_text = text;
-    if (judgedWell)
+    const QScopedValueRollback key(m_key, event->text());
+    QLineEdit::keyPressEvent(event);
+}
+
+void TextBoxM::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QScopedValueRollback key(m_key, event->commitString());
+    QLineEdit::inputMethodEvent(event);
+}
+
+void TextBoxM::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    clearMark();
+    if (m_hint)
+        m_hint->hide();
+}
+
+NumberEntry TextBoxM::numberEntry() const
+{
+    return {m_tipodedato == SignedNumber, m_decimales, m_maxlength};
+}
+
+QString TextBoxM::limits() const
+{
+    QStringList most;
+    if (m_tipodedato != AnyText && m_decimales > 0)
+        most << QStringLiteral("%1 decimals").arg(m_decimales);
+    if (m_maxlength > 0)
+        most << QStringLiteral("%1 characters").arg(m_maxlength);
+    QStringList lines(isTyping() ? QStringLiteral("\"%1\" is not taken here.").arg(m_key)
+                                 : QStringLiteral("The text is not taken here."));
+    if (m_tipodedato != AnyText) {
+        const double example = m_decimales > 0 ? 12.5 : 12;
+        lines << QStringLiteral("Type a number such as %1, or paste one such as 6E23.")
+                     .arg(Numbers::write(m_tipodedato == SignedNumber ? -example : example));
+    }
+    if (!most.isEmpty())
+        lines << QStringLiteral("At most %1.").arg(most.join(QStringLiteral(" and ")));
+    return lines.join(QLatin1Char('\n'));
+}
+
+void TextBoxM::showRefusal()
+{
+    if (!m_mark) {
+        m_mark = addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition);
+        m_hint = new FieldHint(*this);
+    }
+    m_mark->setVisible(true);
+    setAccessibleDescription(limits());
+    m_hint->showText(limits());
+}
+
+void TextBoxM::clearMark()
+{
+    if (!m_mark || !m_mark->isVisible())
         return;
-    // A text of the program's that nobody could type. The line edit took it, but having met an invalid text
-    // it would let the next key press pass unjudged; so it gets the text once more, as the one known to be
-    // right.
-    const QSignalBlocker silence(this);
-    const int position = cursorPosition();
-    setText({});
-    m_text = text;
-    setText(text);
-    setCursorPosition(position);
+    m_mark->setVisible(false);
+    setAccessibleDescription({});
 }

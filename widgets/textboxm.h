@@ -2,14 +2,16 @@
 
 #include <QLineEdit>
 
+class FieldHint;
+struct NumberEntry;
+
 /// An entry field that knows what may be typed into it: free text, or a decimal number by the user's locale.
 ///
-/// The limits bind typing and pasting alone. What the program writes with setText() stands whole, whatever
-/// its length or notation ("1.66053906892E-27"); from such a text the user may take away, as long as a number
-/// is left.
-///
-/// Where the locale writes a comma, a "." becomes it, for the sake of numeric keypads. Where it writes ".", a
-/// "," is refused: nobody can tell a thousand from a decimal, and 1,5 must never become 15.
+/// The limits bind typing and pasting alone. What the program writes with setText() stays whole, whatever its
+/// length or notation ("1.66053906892E-27"); from such a text the user may take away, as long as a number is
+/// left. A key or a text that is refused leaves the field as it is, marks it and shows a hint beside it that
+/// says what the field takes. The mark goes with the next change, the hint after some seconds, and both when
+/// the focus leaves the field.
 class TextBoxM final : public QLineEdit
 {
     Q_OBJECT
@@ -29,22 +31,33 @@ public:
     int tipodedato() const { return m_tipodedato; }
     void setTipodedato(int tipodedato) { m_tipodedato = tipodedato; }
 
-    /// Highest number of digits behind the decimal separator; 0 or less refuses the separator.
+    /// Most digits after the decimal sign; 0 or less refuses the sign.
     int decimales() const { return m_decimales; }
     void setDecimales(int decimales) { m_decimales = decimales; }
 
-    /// Highest number of characters; 0 is no limit.
+    /// Most characters; 0 is no limit.
     int maxlength() const { return m_maxlength; }
     void setMaxlength(int maxlength) { m_maxlength = maxlength; }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     class Limits;
 
-    void rememberText(const QString &text);
+    NumberEntry numberEntry() const;
+    bool isTyping() const { return m_key.size() == 1 && m_key.front().isPrint(); }
+    QString limits() const;
+    void showRefusal();
+    void clearMark();
 
     int m_tipodedato = AnyText;
     int m_decimales = 0;
     int m_maxlength = 0;
-    Limits *m_limits;
-    QString m_text; ///< what stood here before the edit that is being judged
+    QString m_text;            ///< before the edit that is being judged
+    QString m_key;             ///< what the key that is being handled types
+    QAction *m_mark = nullptr; ///< both are made by the first refusal
+    FieldHint *m_hint = nullptr;
 };

@@ -1,5 +1,7 @@
+#include "widgets/fieldhint.h"
 #include "widgets/textboxm.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QProcess>
@@ -16,6 +18,8 @@ private Q_SLOTS:
     void typing();
     void pasting_data();
     void pasting();
+    void aRefusalIsMarkedUntilTheNextAcceptedKey();
+    void undoBringsAWrittenTextBackWhole();
     void whatTheProgramWritesIsNeverCut();
     void fromAWrittenTextTheUserMayTakeAwayWhileANumberIsLeft_data();
     void fromAWrittenTextTheUserMayTakeAwayWhileANumberIsLeft();
@@ -48,6 +52,8 @@ void TextBoxMTest::typing_data()
                                                    << "0.";
     QTest::newRow("then digits follow") << number << 10 << 23 << ".5"
                                         << "0.5";
+    QTest::newRow("the other separator") << number << 10 << 23 << "1,5"
+                                         << "1.5";
     QTest::newRow("second separator") << number << 10 << 23 << "1.2.3"
                                       << "1.23";
     QTest::newRow("letters, blanks, exponents") << number << 10 << 23 << "1a 2E3+"
@@ -95,20 +101,47 @@ void TextBoxMTest::pasting_data()
                            << "1.5"
                            << "1,5";
     QTest::newRow("comma") << "1,5"
-                           << "7"
+                           << "1.5"
                            << "1,5";
+    QTest::newRow("comma that may be one of thousands") << "-1,234"
+                                                        << "7"
+                                                        << "-1,234";
+    QTest::newRow("point that may be one of thousands") << "12.345"
+                                                        << "12.345"
+                                                        << "7";
+    QTest::newRow("three decimals of less than 1") << "0,125"
+                                                   << "0.125"
+                                                   << "0,125";
     QTest::newRow("English groups") << "1,234.5"
                                     << "7"
                                     << "7";
     QTest::newRow("German groups") << "1.234,5"
                                    << "7"
                                    << "7";
+    QTest::newRow("groups by blanks") << "1 234"
+                                      << "7"
+                                      << "7";
     QTest::newRow("cell of a table") << " 12.5\n"
                                      << "12.5"
                                      << "12,5";
-    QTest::newRow("exponent") << "1E5"
-                              << "7"
-                              << "7";
+    QTest::newRow("constant") << "6.02214076E23"
+                              << "6.02214076E23"
+                              << "6,02214076E23";
+    QTest::newRow("constant with many decimals") << "-2.42631023538e-12"
+                                                 << "-2.4263102354E-12"
+                                                 << "-2,4263102354E-12";
+    QTest::newRow("result of 15 digits") << "0.666666666666667"
+                                         << "0.6666666667"
+                                         << "0,6666666667";
+    QTest::newRow("rounding carries") << "9.99999999999999"
+                                      << "10.0000000000"
+                                      << "10,0000000000";
+    QTest::newRow("rounded to the length") << "12345678901234567890.123"
+                                           << "12345678901234567890.12"
+                                           << "12345678901234567890,12";
+    QTest::newRow("nothing is left") << "0.00000000001"
+                                     << "7"
+                                     << "7";
     QTest::newRow("words") << "infinite"
                            << "7"
                            << "7";
@@ -130,6 +163,44 @@ void TextBoxMTest::pasting()
     box.paste();
 
     QCOMPARE(box.text(), comma() ? withComma : withPoint);
+    QCOMPARE(!box.accessibleDescription().isEmpty(), box.text() == QLatin1String("7"));
+}
+
+void TextBoxMTest::aRefusalIsMarkedUntilTheNextAcceptedKey()
+{
+    TextBoxM box(TextBoxM::UnsignedNumber, 10, 23);
+    const auto marked = [&] {
+        const bool hasIcon = !box.actions().isEmpty() && box.actions().constFirst()->isVisible();
+        return hasIcon && box.accessibleDescription().contains(QLatin1String("10 decimals"));
+    };
+    box.show();
+    QTest::keyClicks(&box, QStringLiteral("1"));
+    QVERIFY(!marked());
+    QTest::keyClicks(&box, QStringLiteral("e"));
+    QVERIFY(marked());
+    const auto *hint = box.findChild<FieldHint *>();
+    QVERIFY(hint->isVisible());
+    QCOMPARE(hint->text(), box.accessibleDescription());
+    QVERIFY(hint->text().startsWith(QLatin1String("\"e\" is not taken")));
+    QTest::keyClicks(&box, QStringLiteral("5"));
+    QVERIFY(!marked());
+    QVERIFY(box.accessibleDescription().isEmpty());
+
+    QTest::keyClicks(&box, QStringLiteral("-"));
+    QVERIFY(marked());
+    QFocusEvent leaving(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&box, &leaving);
+    QVERIFY(!marked() && hint->isHidden());
+    QCOMPARE(box.text(), QStringLiteral("15"));
+}
+
+void TextBoxMTest::undoBringsAWrittenTextBackWhole()
+{
+    TextBoxM box(TextBoxM::UnsignedNumber, 2, 5);
+    box.setText(local("0.123456789"));
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(box.text(), local("0.123456789"));
 }
 
 void TextBoxMTest::whatTheProgramWritesIsNeverCut()
