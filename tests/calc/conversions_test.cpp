@@ -1,7 +1,10 @@
+#include "calc/units.h"
 #include "calcwindow.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QRegularExpression>
+#include <QTreeView>
 
 /// The conversions, constants and units of the pane.
 class ConversionsTest final : public QObject
@@ -11,6 +14,7 @@ class ConversionsTest final : public QObject
 private Q_SLOTS:
     void conversionsFollowTheKeysAndTheLists();
     void aPastedNumberConvertsAtOnce();
+    void aNameThatSaysHowMuchOneIsSaysWhatTheConversionGives();
     void theResultOfAConversionTakesNoKeys();
     void aUnitWithoutItsSymbolEndsInTheReport();
     void constantsAndUnitsShowOneListATab();
@@ -45,6 +49,11 @@ void ConversionsTest::conversionsFollowTheKeysAndTheLists()
     QTest::keyClick(&window.field(input), Qt::Key_Delete);
     QCOMPARE(window.text(result), QStringLiteral("0"));
 
+    for (const char *next : {"List7", "TextBoxM2", "List8"}) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(window.focusWidget()->objectName(), QLatin1StringView(next));
+    }
+
     window.clickTab(QStringLiteral("TabStrip3"), 1);
     QCOMPARE(window.get<QListWidget>(QStringLiteral("List1")).currentRow(), 12);
 }
@@ -56,6 +65,34 @@ void ConversionsTest::aPastedNumberConvertsAtOnce()
     window.field(QStringLiteral("TextBoxM1")).paste();
     QCOMPARE(window.text(QStringLiteral("TextBoxM1")), QStringLiteral("2.5"));
     QCOMPARE(window.text(QStringLiteral("TextBoxM2")), QStringLiteral("2500"));
+}
+
+void ConversionsTest::aNameThatSaysHowMuchOneIsSaysWhatTheConversionGives()
+{
+    CalcWindow window;
+    static const QRegularExpression Form(QStringLiteral(" of ([0-9.E-]+) (\\w+) \\("));
+    int found = 0;
+    for (int tab = 1; tab <= 8; ++tab) {
+        window.clickTab(QStringLiteral("TabStrip3"), tab);
+        window.type(QStringLiteral("TextBoxM1"), QStringLiteral("1"));
+        const QStringList names = window.units.names(Units::quantity(tab).inputList);
+        for (const QString &name : names) {
+            const QRegularExpressionMatch match = Form.match(name);
+            if (!match.hasMatch())
+                continue;
+            const auto select = [&](int list, const QString &unit) {
+                const auto row = names.indexOf(names.filter(unit).value(0));
+                QVERIFY2(row >= 0, qPrintable(unit));
+                window.clickUnit(QStringLiteral("List%1").arg(list), int(row));
+            };
+            select(Units::quantity(tab).inputList, name);
+            select(Units::quantity(tab).resultList, QStringLiteral("(%1)").arg(match.captured(2)));
+            const double result = window.text(QStringLiteral("TextBoxM2")).toDouble();
+            QVERIFY2(std::abs(result / match.captured(1).toDouble() - 1) < 1E-7, qPrintable(name));
+            ++found;
+        }
+    }
+    QCOMPARE(found, 12);
 }
 
 void ConversionsTest::theResultOfAConversionTakesNoKeys()
@@ -96,6 +133,9 @@ void ConversionsTest::constantsAndUnitsShowOneListATab()
         QCOMPARE(shown(QStringLiteral("ListView7"), 7), QList<int>{tab - 1});
         QCOMPARE(window.isShown(QStringLiteral("Label2(29)")), tab != 1);
         QCOMPARE(window.isShown(QStringLiteral("Label2(38)")), tab != 1 && tab != 6);
+        const auto &list = window.get<QTreeView>(QStringLiteral("ListView7(%1)").arg(tab - 1));
+        QCOMPARE(list.isColumnHidden(3), tab == 1); // no column without its title
+        QCOMPARE(list.isColumnHidden(4), tab == 1 || tab == 6);
     }
 }
 
