@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace {
@@ -22,6 +23,29 @@ QStringList captions()
         captions << QString::fromLatin1(quantity.caption);
     return captions;
 }
+
+/// The unit lists show a name that is too long with its symbol: "millimeter of merc… (mmHg)".
+class UnitNames final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const qsizetype symbol = option->text.lastIndexOf(QLatin1StringView(" ("));
+        const int margin = option->widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+        const int room = option->rect.width() - 2 * margin;
+        const QFontMetrics &metrics = option->fontMetrics;
+        if (symbol < 0 || metrics.horizontalAdvance(option->text) <= room)
+            return;
+        const QString kept = option->text.sliced(symbol);
+        option->text = metrics.elidedText(option->text.first(symbol), Qt::ElideRight,
+                                          room - metrics.horizontalAdvance(kept)) +
+                       kept;
+    }
+};
 
 } // namespace
 
@@ -59,14 +83,19 @@ void ConversionBox::buildLists(const UnitLists &units)
     column->setSpacing(3);
     column->addWidget(Controls::heading({}, QStringLiteral("Conversions"), this));
     column->addWidget(TabStrip3);
+    QWidget *before = TabStrip3; // in the order of the Tab key, which is that of the eye
+    const auto addNext = [&](QWidget *next, int stretch) {
+        column->addWidget(next, stretch);
+        setTabOrder(std::exchange(before, next), next);
+    };
     const auto addHalf = [&](const QString &caption, TextBoxM *box, int Quantity::*which) {
         QLabel *label = Controls::label({}, caption, this);
         label->setBuddy(box);
         column->addSpacing(3);
         column->addWidget(label);
-        column->addWidget(box);
+        addNext(box, 0);
         for (const Quantity &each : Units::quantities())
-            column->addWidget(&list(each.*which), 1);
+            addNext(&list(each.*which), 1);
     };
     addHalf(QStringLiteral("From"), TextBoxM1, &Quantity::inputList);
     addHalf(QStringLiteral("To"), TextBoxM2, &Quantity::resultList);
@@ -78,7 +107,8 @@ QListWidget &ConversionBox::buildList(int number, const QStringList &names, int 
     m_lists[size_t(number - 1)] = list;
     list->addItems(names);
     for (int row = 0; row < list->count(); ++row)
-        list->item(row)->setToolTip(names[row]); // for fonts that leave a name no room
+        list->item(row)->setToolTip(names[row]);
+    list->setItemDelegate(new UnitNames(list));
     list->setCurrentRow(start);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setAccessibleName(number % 2 == 1 ? QStringLiteral("Unit of the number")
