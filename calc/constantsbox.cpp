@@ -8,9 +8,24 @@ namespace {
 
 constexpr int Gap = 6;
 
-// Indices of the titles that some tabs have no data for.
+// The titles that some tabs have no data for, and their columns.
 constexpr int Dimension = 29;
 constexpr int DimensionInUnits = 38;
+constexpr int DimensionColumn = 3;
+constexpr int DimensionInUnitsColumn = 4;
+
+constexpr int BaseUnits = 1;
+constexpr int MolecularPhysics = 6;
+
+bool hasDimensions(int tab)
+{
+    return tab != BaseUnits;
+}
+
+bool hasDimensionsInUnits(int tab)
+{
+    return tab != BaseUnits && tab != MolecularPhysics;
+}
 
 /// A tab strip across the top of @p place, behind a heading where it needs one; what is left of the place is
 /// for the lists.
@@ -81,14 +96,16 @@ void ConstantsBox::buildUnits(RowLists &lists, const QRect &place)
               room, *strip);
     auto *frmunit2 = new TitleFrame(QStringLiteral("frmunit2"), this, TitleFrame::OneLine);
     frmunit2->addTitles(ListView7[0], Label2, {37, 36, 35, Dimension, DimensionInUnits});
+    for (const auto &[index, view] : ListView7) {
+        view->setColumnHidden(DimensionColumn, !hasDimensions(index + 1));
+        view->setColumnHidden(DimensionInUnitsColumn, !hasDimensionsInUnits(index + 1));
+    }
     connect(strip, &TabStrip::tabClicked, this, &ConstantsBox::showUnitTitles);
     showUnitTitles(1);
 }
 
 void ConstantsBox::showUnitTitles(int tab)
 {
-    constexpr int BaseUnits = 1;
-    constexpr int MolecularPhysics = 6;
-    Label2[Dimension].setVisible(tab != BaseUnits);
-    Label2[DimensionInUnits].setVisible(tab != BaseUnits && tab != MolecularPhysics);
+    Label2[Dimension].setVisible(hasDimensions(tab));
+    Label2[DimensionInUnits].setVisible(hasDimensionsInUnits(tab));
 }
