@@ -55,8 +55,9 @@ SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     line->setContentsMargins(4, 0, 0, 0);
     line->setSpacing(16);
     column->addLayout(line, 1);
-    buildFields(*line);
+    // Before the fields, for the eye and the Tab key: a choice of the liquid empties them.
     buildLiquids(*line);
+    buildFields(*line);
     line->addStretch(1);
     buildButtons(*line);
 
