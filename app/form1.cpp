@@ -210,7 +210,7 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
 
 void Form1::loadMenus()
 {
-    m_commandBars.load(MenuLayout::read(m_module.AppFolder + QStringLiteral("/menuc_uk.xcb")));
+    m_commandBars.load(MenuLayout::read(m_module.shippedFile(QStringLiteral("menuc_uk.xcb"))));
     m_ownActions.place();
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
@@ -267,7 +267,7 @@ void Form1::run(const Command &command)
     case CommandKind::SpectroscopyMode:
         return showSpectroscopy(command.argument);
     case CommandKind::Help:
-        return m_desktop.openTarget(m_module.AppFolder + QStringLiteral("/alembra_help_uk.chm"));
+        return m_desktop.openTarget(m_module.shippedFile(QStringLiteral("alembra_help_uk.chm")));
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
     case CommandKind::Options:

@@ -4,6 +4,7 @@
 #include "app/frmload.h"
 #include "app/optionshost.h"
 #include "app/singleinstance.h"
+#include "app/userfolder.h"
 #include "core/desktop.h"
 #include "core/module1.h"
 #include "sidewindows/frmtip.h"
@@ -16,6 +17,7 @@
 #include "widgets/smallscale.h"
 
 #include <QApplication>
+#include <QDir>
 
 namespace {
 
@@ -34,18 +36,34 @@ bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
                                           "has finished its work, or end it, and start Alembra again."));
 }
 
+void renewUserFolder(Desktop &desktop, const QString &folder, const QString &shippedFolder)
+{
+    if (!UserFolder::renew(folder, shippedFolder))
+        return;
+    desktop.messageBox(
+        QStringLiteral(
+            "There is a new database. Yours was changed, so it stays as it is.\n\nTo use the new one, choose "
+            "Restore in the options, on the tab Database. Save a copy of yours before."),
+        Desktop::Information);
+}
+
 } // namespace
 
-int Main(Desktop &desktop, const QString &appFolder)
+int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolder)
 {
     SmallScale::install();
+    if (!QDir().mkpath(appFolder))
+        throw RuntimeError(ErrorNumber::PathAccess, appFolder);
     SingleInstance instance(appFolder);
     if (previousInstanceAnswers(instance, desktop))
         return 0;
     instance.listen();
+    if (!shippedFolder.isEmpty())
+        renewUserFolder(desktop, appFolder, shippedFolder);
 
     Module1 module;
     module.AppFolder = appFolder;
+    module.ShippedFolder = shippedFolder;
     DataStore store;
     DatabaseConnection connection;
     DatabaseRecovery recovery(desktop, connection, appFolder);

@@ -9,5 +9,6 @@ class Desktop;
 /// Returns the status of the process. Errors that meet no trap leave as RuntimeError, for the caller to
 /// report.
 ///
-/// @p appFolder is the program folder, "/" as separator, without one at its end.
-int Main(Desktop &desktop, const QString &appFolder);
+/// @p appFolder is the folder of the user's files, @p shippedFolder that of the executable where it is
+/// another; both with "/" as separator, without one at the end.
+int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolder = {});

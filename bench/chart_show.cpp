@@ -34,7 +34,7 @@ public:
         for (int row = 0; row < rows.rowCount(); ++row) {
             const QString group = rows.subItem(row, 1);
             if (std::exchange(last, group) != group)
-                clickOn(list, row, IrCharts::file(QStringLiteral(ALEMBRA_FOLDER), group));
+                clickOn(list, row, IrCharts::file(group));
         }
     }
 
@@ -43,13 +43,13 @@ public:
         m_form.executeCommand(ShowProtonNmr);
         auto &list = Frames::control<RowListView>(m_form, "ListView3(15)");
         for (const int row : {0, 20})
-            clickOn(list, row,
-                    ProtonCharts.file(QStringLiteral(ALEMBRA_FOLDER), ProtonCharts.number(row + 1)));
+            clickOn(list, row, ProtonCharts.file(ProtonCharts.number(row + 1)));
     }
 
 private:
-    void clickOn(RowListView &list, int row, const QString &file)
+    void clickOn(RowListView &list, int row, const QString &chart)
     {
+        const QString file = QStringLiteral(ALEMBRA_FOLDER "/") + chart;
         if (QImage(file).isNull())
             throw std::runtime_error("no picture: " + file.toStdString());
         list.selectRow(row);

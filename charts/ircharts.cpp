@@ -36,9 +36,9 @@ int bandsOf(const RowList &bands, QStringView motif, const QString &title)
     return -1;
 }
 
-QString file(const QString &AppFolder, const QString &ChartKey)
+QString file(const QString &ChartKey)
 {
-    return QStringLiteral("%1/Data/ir/%2.gif").arg(AppFolder, ChartKey);
+    return QStringLiteral("Data/ir/%1.gif").arg(ChartKey);
 }
 
 const Graduation &graduation(const OptionSlots &slots)

@@ -20,8 +20,8 @@ std::optional<QString> title(const QString &ChartKey);
 /// else the heading @p title. -1 if there is none.
 int bandsOf(const RowList &bands, QStringView motif, const QString &title);
 
-/// "<AppFolder>/Data/ir/1.gif"
-QString file(const QString &AppFolder, const QString &ChartKey);
+/// "Data/ir/1.gif"
+QString file(const QString &ChartKey);
 
 /// `Label24`: wave numbers. `Label27`: the wavelengths at the same places. Each mark stands over its tick.
 inline constexpr const char *WaveNumbers = "4000         3500        3000         2500        2000         "

@@ -18,11 +18,11 @@ struct NmrCharts
         return position <= overviewRows ? position + 998 : position - overviewRows;
     }
 
-    /// "<AppFolder>/Data/nmr/1h/1000.gif"
-    QString file(const QString &AppFolder, int number) const
+    /// "Data/nmr/1h/1000.gif"
+    QString file(int number) const
     {
-        return QStringLiteral("%1/Data/nmr/%2/%3.gif")
-            .arg(AppFolder, QLatin1StringView(folder), QString::number(number + 1));
+        return QStringLiteral("Data/nmr/%1/%2.gif")
+            .arg(QLatin1StringView(folder), QString::number(number + 1));
     }
 };
 

@@ -9,11 +9,11 @@ namespace ReactionCharts {
 inline constexpr int PaintLeft = 100;
 inline constexpr int Top = 500;
 
-/// "<AppFolder>/Data/orga/1.gif", or "1m.gif" for the mechanism, by the row's one-based position.
-inline QString file(const QString &AppFolder, int position, bool mechanism)
+/// "Data/orga/1.gif", or "1m.gif" for the mechanism, by the row's one-based position.
+inline QString file(int position, bool mechanism)
 {
-    return QStringLiteral("%1/Data/orga/%2%3.gif")
-        .arg(AppFolder, QString::number(position), mechanism ? QStringLiteral("m") : QString());
+    return QStringLiteral("Data/orga/%1%2.gif")
+        .arg(QString::number(position), mechanism ? QStringLiteral("m") : QString());
 }
 
 /// `Picture4`.Left that centres a picture of @p pictureWidth, in its own units, in a frame of @p frameWidth

@@ -169,7 +169,7 @@ void ReactionsPane::showReaction(int row)
     ChartKey = row + 1;
     const bool mechanism = !optorga[Equation].isChecked();
     SourceImage2->setPicture(
-        PictureFile::load(ReactionCharts::file(m_module1.AppFolder, ChartKey, mechanism)));
+        PictureFile::load(m_module1.shippedFile(ReactionCharts::file(ChartKey, mechanism))));
     Picture4->clear();
     Picture4->paint(SourceImage2->picture(), ReactionCharts::PaintLeft);
     setScrollRange();

@@ -257,7 +257,7 @@ void SpectroscopyPane::showNmrChart(const NmrCharts &charts, int row)
     ChartKey = QString::number(number);
     if (charts.fillsText3)
         Text3->setText(QString::number(m_module1.SelectedChart + 1));
-    loadChart(charts.file(m_module1.AppFolder, number));
+    loadChart(m_module1.shippedFile(charts.file(number)));
     Picture3->paint(SourceImage->picture(), charts.paintLeft);
     setScrollRange();
     Picture3->setTop(0);
@@ -273,7 +273,7 @@ void SpectroscopyPane::showIrChart(int row)
     Label20->setEnabled(true);
     m_bandsWanted = row;
     showIrScale();
-    loadChart(IrCharts::file(m_module1.AppFolder, ChartKey));
+    loadChart(m_module1.shippedFile(IrCharts::file(ChartKey)));
     const auto &places = SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places;
     Picture3->moveTo(places->Picture3Left, places->Picture3Top);
     Picture3->paint(SourceImage->picture(), IrCharts::PaintLeft);

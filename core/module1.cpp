@@ -2,6 +2,8 @@
 
 #include "core/buildsettings.h"
 
+#include <QFileInfo>
+
 namespace {
 
 QString optionsFile(const QString &folder)
@@ -22,6 +24,12 @@ QString Module1::ReadOptions(const QString &request, const QString &folder)
 void Module1::WriteOptions() const
 {
     OptionSlots.write(optionsFile(AppFolder));
+}
+
+const QString &Module1::folderOf(const QString &file) const
+{
+    const bool isUsers = ShippedFolder.isEmpty() || QFileInfo::exists(AppFolder + QLatin1Char('/') + file);
+    return isUsers ? AppFolder : ShippedFolder;
 }
 
 QString Module1::version()

@@ -7,8 +7,12 @@
 /// The program-wide values. One is made in `Main` and lives for the run; everybody else gets a reference.
 struct Module1
 {
-    /// The folder of the executable, "/" as separator, without one at its end.
+    /// The folder of the user's files, options and database: that of the executable unless the command line
+    /// names another. "/" as separator, without one at its end.
     QString AppFolder;
+
+    /// The folder of the executable where it is not `AppFolder`, otherwise empty.
+    QString ShippedFolder;
 
     ::OptionSlots OptionSlots;
 
@@ -31,6 +35,13 @@ struct Module1
 
     /// Writes the options file back. A failure is the RuntimeError of OptionSlots::write.
     void WriteOptions() const;
+
+    /// The folder that holds the shipped @p file ("Data/ir/1.gif"): `AppFolder` if the user put one there,
+    /// otherwise that of the executable.
+    const QString &folderOf(const QString &file) const;
+
+    /// The path of the shipped @p file, by folderOf().
+    QString shippedFile(const QString &file) const { return folderOf(file) + QLatin1Char('/') + file; }
 
     /// "1.1.0"
     static QString version();

@@ -97,7 +97,7 @@ void ElementPanel::fillIsotopes(int row)
 // Named by the atomic number as stored, not by the row.
 QString ElementPanel::picturePathOf(const QString &file) const
 {
-    return m_module1.AppFolder + QStringLiteral("/Data/elements/") + file;
+    return m_module1.shippedFile(QStringLiteral("Data/elements/") + file);
 }
 
 ElementPanel::Zoom ElementPanel::zoom()
@@ -117,7 +117,7 @@ ElementPanel::Zoom ElementPanel::zoom()
 
 QString ElementPanel::crystalPicturePath() const
 {
-    return m_module1.AppFolder + QStringLiteral("/Data/cristal/") + CrystalName + QStringLiteral(".bmp");
+    return m_module1.shippedFile(QStringLiteral("Data/cristal/") + CrystalName + QStringLiteral(".bmp"));
 }
 
 void ElementPanel::applyPictureOption()

@@ -26,7 +26,7 @@ qint64 FileFigures::fileLength(const QString &path)
     return existingFile(path).size();
 }
 
-qint64 FileFigures::folderSize(const QString &path, const QString &leavingOut)
+qint64 FileFigures::folderSize(const QString &path)
 {
     const QDir folder(path);
     if (!folder.exists())
@@ -37,7 +37,7 @@ qint64 FileFigures::folderSize(const QString &path, const QString &leavingOut)
     for (const QFileInfo &entry : entries) {
         if (!entry.isDir())
             size += entry.size();
-        else if (!entry.isSymLink() && entry.fileName() != leavingOut)
+        else if (!entry.isSymLink())
             size += folderSize(entry.filePath());
     }
     return size;

@@ -8,9 +8,9 @@ namespace FileFigures {
 /// Bytes. A file that is not there is RuntimeError 53.
 qint64 fileLength(const QString &path);
 
-/// Bytes of all files in the folder and below, without the folder @p leavingOut right below it. A linked file
-/// counts, a linked folder does not. RuntimeError 76 if the folder is not there.
-qint64 folderSize(const QString &path, const QString &leavingOut = {});
+/// Bytes of all files in the folder and below. A linked file counts, a linked folder does not. RuntimeError
+/// 76 if the folder is not there.
+qint64 folderSize(const QString &path);
 
 /// "1.5 Ko": bytes by 1024, in as many decimals as it takes.
 QString kilobytes(qint64 bytes);

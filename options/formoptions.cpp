@@ -41,7 +41,7 @@ Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QW
     setWindowTitle(QStringLiteral("Options"));
     applyGridLines();
     for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // those that the tabs will measure
-        FileFigures::fileLength(m_module.AppFolder + QLatin1Char('/') + QLatin1StringView(file));
+        FileFigures::fileLength(m_module.shippedFile(QLatin1StringView(file)));
 }
 
 void Formoptions::setVisible(bool visible)

@@ -108,11 +108,18 @@ void StatisticsTab::showPage(int shown)
 void StatisticsTab::load()
 {
     using namespace FileFigures;
-    const QString folder = m_module.AppFolder;
-    const qint64 dataSize = folderSize(folder + QStringLiteral("/Data"));
-    // The start waits for this: each file is looked at once.
-    Label27->setText(megabytes(dataSize + folderSize(folder, QStringLiteral("Data"))));
-    Label28->setText(kilobytes(fileLength(folder + QStringLiteral("/Alembra_uk"))));
+    // What the program takes is in both folders, where there are two.
+    QStringList folders{m_module.AppFolder};
+    if (!m_module.ShippedFolder.isEmpty())
+        folders << m_module.ShippedFolder;
+    qint64 size = 0;
+    qint64 dataSize = 0;
+    for (const QString &folder : std::as_const(folders)) {
+        size += folderSize(folder);
+        dataSize += folderSize(folder + QStringLiteral("/Data"));
+    }
+    Label27->setText(megabytes(size));
+    Label28->setText(kilobytes(fileLength(m_module.shippedFile(QStringLiteral("Alembra_uk")))));
     Label29->setText(megabytes(dataSize));
-    Label26->setText(kilobytes(fileLength(folder + QStringLiteral("/Data/Database_uk.mdb"))));
+    Label26->setText(kilobytes(fileLength(m_module.AppFolder + QStringLiteral("/Data/Database_uk.mdb"))));
 }

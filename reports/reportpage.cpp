@@ -154,7 +154,8 @@ void ReportPage::closeTable()
 
 QString ReportPage::imageSource(const QString &relative) const
 {
-    return "file:///" + QString(m_module.AppFolder + relative).replace(QLatin1Char(' '), "%20");
+    const QString file = relative.sliced(1).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return "file:///" + QString(m_module.folderOf(file) + relative).replace(QLatin1Char(' '), "%20");
 }
 
 void ReportPage::rule()

@@ -48,8 +48,8 @@ public:
     void endRow();
     void closeTable();
 
-    /// "file:///", `AppFolder` and @p relative ("\Data\..."), with %20 for blanks: the value of an unquoted
-    /// `src`. Backslashes stay; browsers read them as separators in such an address.
+    /// "file:///", the folder that holds the picture and @p relative ("\Data\..."), with %20 for blanks: the
+    /// value of an unquoted `src`. Backslashes stay; browsers read them as separators in such an address.
     QString imageSource(const QString &relative) const;
 
     void rule();

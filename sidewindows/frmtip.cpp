@@ -27,7 +27,7 @@ frmTip::frmTip(Module1 &module1, Desktop &desktop, std::function<void(bool)> set
     buildWindow();
     connect(chkLoadTipsAtStartup, &QCheckBox::toggled, this, &frmTip::storeWish);
     chkLoadTipsAtStartup->setChecked(true);
-    if (!LoadTips(module1.AppFolder + QLatin1Char('/') + TipFile)) {
+    if (!LoadTips(module1.shippedFile(TipFile))) {
         lblTipText->setText(QStringLiteral("That the %1 file was not found? \n\n"
                                            "Create a text file named %1 using NotePad with 1 tip per line. "
                                            "Then place it in the same directory as the application. ")

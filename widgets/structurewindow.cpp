@@ -20,7 +20,7 @@ void openStructureWindow(Module1 &module1, QWidget &form1, int row, const QStrin
     window->Label1->setText(text);
     try {
         window->setPicture(
-            PictureFile::load(QStringLiteral("%1/Data/chemicals/%2.bmp").arg(module1.AppFolder).arg(row)));
+            PictureFile::load(module1.shippedFile(QStringLiteral("Data/chemicals/%1.bmp").arg(row))));
     } catch (const RuntimeError &error) {
         // Many rows have no formula, which the window says. A picture that is there and cannot be shown is
         // not worth an interruption: the double click then does nothing.

@@ -29,12 +29,12 @@ void ChartsTest::overviewsAreNumberedApartFromMotifs_data()
     QTest::addColumn<int>("position");
     QTest::addColumn<QString>("file");
 
-    QTest::newRow("first overview of protons") << true << 1 << "/app/Data/nmr/1h/1000.gif";
-    QTest::newRow("last overview of protons") << true << 4 << "/app/Data/nmr/1h/1003.gif";
-    QTest::newRow("first motif of protons") << true << 5 << "/app/Data/nmr/1h/2.gif";
-    QTest::newRow("last motif of protons") << true << 250 << "/app/Data/nmr/1h/247.gif";
-    QTest::newRow("the overview of carbons") << false << 1 << "/app/Data/nmr/13c/1000.gif";
-    QTest::newRow("first motif of carbons") << false << 2 << "/app/Data/nmr/13c/2.gif";
+    QTest::newRow("first overview of protons") << true << 1 << "Data/nmr/1h/1000.gif";
+    QTest::newRow("last overview of protons") << true << 4 << "Data/nmr/1h/1003.gif";
+    QTest::newRow("first motif of protons") << true << 5 << "Data/nmr/1h/2.gif";
+    QTest::newRow("last motif of protons") << true << 250 << "Data/nmr/1h/247.gif";
+    QTest::newRow("the overview of carbons") << false << 1 << "Data/nmr/13c/1000.gif";
+    QTest::newRow("first motif of carbons") << false << 2 << "Data/nmr/13c/2.gif";
 }
 
 void ChartsTest::overviewsAreNumberedApartFromMotifs()
@@ -43,12 +43,11 @@ void ChartsTest::overviewsAreNumberedApartFromMotifs()
     QFETCH(const int, position);
     QFETCH(const QString, file);
     const NmrCharts &charts = protons ? ProtonCharts : CarbonCharts;
-    QCOMPARE(charts.file(QStringLiteral("/app"), charts.number(position)), file);
+    QCOMPARE(charts.file(charts.number(position)), file);
 }
 
 void ChartsTest::everyRowAsksForAFileThatIsThere()
 {
-    const QString folder = QStringLiteral(ALEMBRA_FOLDER);
     DataStore store;
     TsvSource::load(19, QStringLiteral("RMN1Hspectro"), store);
     TsvSource::load(20, QStringLiteral("RMN13Cspectro"), store);
@@ -57,19 +56,19 @@ void ChartsTest::everyRowAsksForAFileThatIsThere()
     QStringList files;
     for (const NmrCharts &charts : {ProtonCharts, CarbonCharts}) {
         for (int row = 0; row < store.lists.ListView3[charts.list].rowCount(); ++row)
-            files << charts.file(folder, charts.number(row + 1));
+            files << charts.file(charts.number(row + 1));
     }
     for (int row = 0; row < store.lists.ListView3[5].rowCount(); ++row) {
         const QString group = store.lists.ListView3[5].subItem(row, 1);
         QVERIFY2(IrCharts::title(group), qPrintable(group));
-        files << IrCharts::file(folder, group);
+        files << IrCharts::file(group);
     }
     for (int row = 0; row < store.lists.ListView3[31].rowCount(); ++row)
-        files << ReactionCharts::file(folder, row + 1, false) << ReactionCharts::file(folder, row + 1, true);
+        files << ReactionCharts::file(row + 1, false) << ReactionCharts::file(row + 1, true);
 
     QVERIFY(files.size() > 800);
     for (const QString &file : files)
-        QVERIFY2(QFileInfo(file).isFile(), qPrintable(file));
+        QVERIFY2(QFileInfo(QStringLiteral(ALEMBRA_FOLDER "/") + file).isFile(), qPrintable(file));
 }
 
 void ChartsTest::scrollingBeginsAtTheTallPicture()

@@ -15,6 +15,11 @@ protected:
     // Runs the program and @p walk in its event loop, then quits it. The status of the process.
     int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
     {
+        return run(folder.root(), {}, walk);
+    }
+
+    int run(const QString &appFolder, const QString &shippedFolder, const std::function<void(Form1 &)> &walk)
+    {
         QTimer::singleShot(0, this, [&] {
             Form1 *form = mainWindow();
             if (form)
@@ -23,7 +28,7 @@ protected:
                 form->executeCommand(1005);
         });
         try {
-            return Main(m_desktop, folder.root());
+            return Main(m_desktop, appFolder, shippedFolder);
         } catch (const ProcessEnded &end) {
             return end.status;
         }
