@@ -13,8 +13,8 @@ biochemistry laboratory: the periodic table with data and isotopes, tables on
 solvents, solutions and biomolecules, NMR and infrared charts, named reactions,
 solution calculators, unit conversions, physical constants and SI units.
 
-Tables can be searched and written as HTML reports. Every user has a program
-folder of their own, with their options and their copy of the database.")
+Tables can be searched and written as HTML reports. Every user has options and
+a copy of the database of their own.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
@@ -30,8 +30,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
-# A font with the letters of formulas, a way to open links, and windows for the launcher's messages.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils, zenity | kdialog | x11-utils")
+# A font with the letters of formulas, and a way to open links.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils")
 # The help file's viewers, and the native platform of desktops without X.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "kchmviewer | xchm, qt6-wayland")
 
