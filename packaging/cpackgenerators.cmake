@@ -1,3 +1,12 @@
+# The time of each file in a package is that of the release, so that two builds give the same bytes.
+if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
+    file(STRINGS "${CMAKE_CURRENT_LIST_DIR}/changelog.debian.in" date REGEX "^ -- ")
+    string(REGEX REPLACE "^ -- .*  " "" date "${date}")
+    execute_process(COMMAND date --date "${date}" +%s OUTPUT_VARIABLE seconds OUTPUT_STRIP_TRAILING_WHITESPACE
+                    COMMAND_ERROR_IS_FATAL ANY)
+    set(ENV{SOURCE_DATE_EPOCH} "${seconds}")
+endif()
+
 # The archive holds the portable folder, the Debian package the system's. Read by CPack once for each generator.
 
 if(CPACK_GENERATOR STREQUAL "DEB")

@@ -132,7 +132,9 @@ void HelpTest::holdsEveryPageContentsIndexAndFullText()
                                                         QStringLiteral("*.hhc"), QStringLiteral("*.hhk")});
     for (const QString &file : sources)
         QVERIFY2(contentOf(folder.filePath(file)) == contentOf(Source + file), qPrintable(file));
-    QVERIFY(!contentOf(folder.filePath(QStringLiteral("$WWKeywordLinks/BTree"))).isEmpty());
+    // No time: the same pages give the same bytes.
+    QCOMPARE(contentOf(QStringLiteral(ALEMBRA_FOLDER "/alembra_help_uk.chm")).mid(16, 4), QByteArray(4, '\0'));
+    QCOMPARE(contentOf(folder.filePath(QStringLiteral("#SYSTEM"))).mid(8, 4), QByteArray(4, '\0'));
     // The number of pages in the full-text index, a 32-bit number at offset 4.
     const QByteArray fullText = contentOf(folder.filePath(QStringLiteral("$FIftiMain")));
     QVERIFY(fullText.size() > 8);
