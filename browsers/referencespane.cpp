@@ -59,8 +59,8 @@ QLabel *ReferencesPane::makeLabel(const References::Entry &entry)
 LinkLabel *ReferencesPane::makeLink(const References::Entry &entry)
 {
     const bool inFolder = entry.target.startsWith(QLatin1Char('/'));
-    auto *link =
-        new LinkLabel(entry.text, inFolder ? m_module1.AppFolder + entry.target : entry.target, this);
+    auto *link = new LinkLabel(entry.text,
+                               inFolder ? m_module1.shippedFile(entry.target.sliced(1)) : entry.target, this);
     connect(link, &LinkLabel::clicked, this, [this](const QString &target) { m_desktop.openTarget(target); });
     return link;
 }
