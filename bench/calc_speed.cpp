@@ -28,7 +28,7 @@ void bareNumbers(int read, int written)
 void conversions(Measure &measure)
 {
     UnitConverter converter([](int) { return UnitPair{1, 2}; });
-    const auto tabs = int(UnitConverter::quantities().size());
+    const auto tabs = int(Units::quantities().size());
     measure.compare(
         QStringLiteral("conversion of a number on each tab / reading, writing"),
         [tabs] { bareNumbers(tabs, tabs); },
