@@ -267,7 +267,7 @@ void Form1::run(const Command &command)
     case CommandKind::SpectroscopyMode:
         return showSpectroscopy(command.argument);
     case CommandKind::Help:
-        return m_desktop.openTarget(m_module.shippedFile(QStringLiteral("alembra_help_uk.chm")));
+        return m_help.open();
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
     case CommandKind::Options:

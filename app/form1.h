@@ -2,6 +2,7 @@
 
 #include "app/commandbars.h"
 #include "app/copyactions.h"
+#include "app/helpopener.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
 #include "app/trayicon.h"
@@ -97,6 +98,7 @@ private:
     CommandBars m_commandBars{*this};
     OwnActions m_ownActions{*this};
     CopyActions m_copyActions{m_ownActions, *this};
+    HelpOpener m_help{m_module, m_desktop, m_ownActions.action("actHelpPages")};
     TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;

@@ -28,6 +28,7 @@ constexpr std::array Entries{
     Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", CommandId::Find},
     Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", CommandId::Find},
     Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, CommandId::Find},
+    Entry{"&Help", "actHelpPages", "Help &pages", "Shift+F1", "help", CommandId::WebSite},
 };
 
 QString plain(QString caption)

@@ -38,6 +38,10 @@ public:
     /// silent.
     virtual void openTarget(const QString &target) = 0;
 
+    /// What the desktop says of a program for the kind of file that @p path is.
+    enum class Viewer { None, Known, Unknown };
+    virtual Viewer viewerOf(const QString &path) = 0;
+
     virtual void beep() = 0;
 
     /// Lets the event loop run for @p milliseconds without burning the processor.

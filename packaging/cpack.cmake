@@ -30,9 +30,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
-# A font with the letters of formulas, and a way to open links.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils")
-# The help file's viewers, and the native platform of desktops without X.
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "kchmviewer | xchm, qt6-wayland")
+# A font with the letters of formulas, a way to open links, and a viewer of the help file: without one the program shows
+# the pages itself.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils, xchm | kchmviewer")
+# The native platform of desktops without X.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 
 include(CPack)

@@ -6,10 +6,15 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QMimeDatabase>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
 #include <cstdlib>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -93,6 +98,26 @@ void QtDesktop::openTarget(const QString &target)
     const QUrl url = urlOf(target);
     if (url.isValid())
         QDesktopServices::openUrl(url);
+}
+
+// Asks the companion of what opens files. A stranger in its place may know more than the companion does.
+Desktop::Viewer QtDesktop::viewerOf(const QString &path)
+{
+    const QFileInfo opener(QStandardPaths::findExecutable(u"xdg-open"_s));
+    const QString companion = opener.dir().filePath(u"xdg-mime"_s);
+    if (!opener.exists() || !QFileInfo(companion).isExecutable())
+        return Viewer::Unknown;
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
+    for (const QString &name : QStringList(type.name()) + type.aliases()) {
+        constexpr int AnswerMilliseconds = 3000;
+        QProcess query;
+        query.start(companion, {u"query"_s, u"default"_s, name});
+        if (!query.waitForFinished(AnswerMilliseconds))
+            return Viewer::Unknown;
+        if (!query.readAllStandardOutput().trimmed().isEmpty())
+            return Viewer::Known;
+    }
+    return Viewer::None;
 }
 
 void QtDesktop::beep()

@@ -4,6 +4,7 @@
 #include "calc/solver.h"
 #include "calc/unitconverter.h"
 #include "calc/unitlists.h"
+#include "sidewindows/helpbook.h"
 
 #include <QDir>
 #include <QFile>
@@ -113,6 +114,7 @@ private Q_SLOTS:
     void pagesAreWholeAndLinkToPages();
     void contentsNameEveryPageOnce();
     void indexLeadsToPagesInAlphabeticalOrder();
+    void theProgramHoldsTheSamePages();
     void everyCalculatorHasAnExampleAsTheProgramSolvesIt_data();
     void everyCalculatorHasAnExampleAsTheProgramSolvesIt();
     void conversionsAreWhatTheProgramShows();
@@ -183,6 +185,26 @@ void HelpTest::indexLeadsToPagesInAlphabeticalOrder()
         QVERIFY2(!name.contains(QLatin1Char(',')), qPrintable(name)); // the compiler garbles such entries
         last = name;
     }
+}
+
+void HelpTest::theProgramHoldsTheSamePages()
+{
+    const auto pagesOf = [](const QList<HelpBook::Topic> &topics) {
+        QStringList found;
+        for (const HelpBook::Topic &topic : topics)
+            found << topic.page;
+        return found;
+    };
+    QCOMPARE(pagesOf(HelpBook::contents()), targets(QStringLiteral("alembra_help_uk.hhc")));
+    QCOMPARE(pagesOf(HelpBook::index()), targets(QStringLiteral("alembra_help_uk.hhk")));
+    for (const HelpBook::Topic &topic : HelpBook::contents()) {
+        QVERIFY2(contentOf(u':' + HelpBook::address(topic.page).path()) == contentOf(Source + topic.page),
+                 qPrintable(topic.page));
+        if (topic.page.startsWith(QStringLiteral("calc_")))
+            QCOMPARE(topic.level, 1);
+    }
+    QCOMPARE(pagesOf(HelpBook::search(QStringLiteral("tryptophan UGG"))),
+             QStringList(QStringLiteral("geneticcode.html")));
 }
 
 void HelpTest::everyCalculatorHasAnExampleAsTheProgramSolvesIt_data()

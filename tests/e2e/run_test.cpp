@@ -13,6 +13,7 @@
 #include <QSettings>
 #include <QTabBar>
 #include <QTest>
+#include <QTextEdit>
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
 class RunTest final : public WholeRun
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void damagedDatabaseAsksBeforeAnyWindow();
     void missingTableAsksUnderTheSplash();
     void missingColumnIsPassedOver();
+    void theHelpOpensWithAndWithoutAViewer();
     void theLastTablesAreReadOnDemand();
     void readingOnDemandFailsLikeTheStart();
 
@@ -386,6 +388,44 @@ void RunTest::missingColumnIsPassedOver()
         QVERIFY(form.findChild<RowListView *>(QStringLiteral("ListView8"))->model()->rowCount() > 0);
     });
     QCOMPARE(m_desktop.boxes.size(), 0);
+}
+
+void RunTest::theHelpOpensWithAndWithoutAViewer()
+{
+    const ProgramFolder folder;
+    m_desktop.targets.clear();
+    run(folder, [&](Form1 &form) {
+        const auto window = [] {
+            for (QWidget *each : QApplication::topLevelWidgets()) {
+                if (each->objectName() == QStringLiteral("frmHelpPages") && each->isVisible())
+                    return each;
+            }
+            return static_cast<QWidget *>(nullptr);
+        };
+        const auto open = [&](Desktop::Viewer viewer) {
+            m_desktop.viewer = viewer;
+            form.executeCommand(1123);
+        };
+        open(Desktop::Viewer::Known);
+        QCOMPARE(m_desktop.targets, QStringList(folder.path(QStringLiteral("alembra_help_uk.chm"))));
+        QVERIFY(!window());
+        open(Desktop::Viewer::None);
+        QCOMPARE(m_desktop.targets.size(), 1);
+        QVERIFY(window() && form.isEnabled());
+        auto *page = window()->findChild<QTextEdit *>(QStringLiteral("brwHelp"));
+        QVERIFY(page->toPlainText().startsWith(QStringLiteral("Alembra")));
+        auto *words = window()->findChild<QWidget *>(QStringLiteral("txtHelpSearch"));
+        QTest::keyClicks(words, QStringLiteral("tryptophan UGG"));
+        QTest::keyClick(words, Qt::Key_Return);
+        QVERIFY(page->toPlainText().startsWith(QStringLiteral("Genetic code")));
+        QVERIFY(QTest::qWaitForWindowActive(window()));
+        QTest::keyClick(window(), Qt::Key_Escape);
+        QVERIFY(!window());
+        form.findChild<QAction *>(QStringLiteral("actHelpPages"))->trigger();
+        QVERIFY(window());
+        open(Desktop::Viewer::Unknown);
+        QCOMPARE(m_desktop.targets.size(), 2);
+    });
 }
 
 void RunTest::theLastTablesAreReadOnDemand()

@@ -22,6 +22,7 @@ public:
     QStringList savePaths;            ///< for the coming save dialogs; none left: cancelled
     QList<SaveRequest> saveRequests;
     QStringList targets;
+    Viewer viewer = Viewer::Known;
     int beeps = 0;
     int paused = 0; ///< milliseconds
 
@@ -40,6 +41,7 @@ public:
         return savePaths.takeFirst();
     }
     void openTarget(const QString &target) override { targets.append(target); }
+    Viewer viewerOf(const QString &) override { return viewer; }
     void beep() override { ++beeps; }
     void pause(int milliseconds) override { paused += milliseconds; }
     [[noreturn]] void endProcess(int status) override { throw ProcessEnded{status}; }

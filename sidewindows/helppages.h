@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+class QLineEdit;
+class QListWidget;
+class QTextBrowser;
+class QTreeWidget;
+
+/// `frmHelpPages`: the pages of the help, with contents, index and search.
+///
+/// Unlike the other small windows it stays beside the main window, which goes on working. It is deleted when
+/// it is closed.
+class HelpPages final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    HelpPages();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    QWidget *buildContents();
+    QWidget *buildIndex();
+    QWidget *buildSearch();
+    QWidget *buildPage();
+    QListWidget *makeList(const QString &name, const QString &accessibleName, QLineEdit &field);
+    void open(const QString &page);
+    void markInContents();
+
+    QTextBrowser *m_page;
+    QTreeWidget *m_contents;
+};
