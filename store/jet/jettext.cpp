@@ -7,10 +7,8 @@
 #include <QLocale>
 #include <QTime>
 #include <QUuid>
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 
 using namespace Jet;
 
@@ -27,35 +25,19 @@ void appendPlain(JetBytes bytes, QString &text)
         text += QChar(bytes.u16(at));
 }
 
-// The characters of one byte at the begin of @p bytes: up to the next zero byte, or all.
-QByteArrayView narrowRun(QByteArrayView bytes)
-{
-    const void *zero = std::memchr(bytes.data(), 0, size_t(bytes.size()));
-    return zero ? bytes.first(static_cast<const char *>(zero) - bytes.data()) : bytes;
-}
-
-// Behind the mark, one byte is one character; a zero byte switches to two bytes for each character and the
-// next one back. So there are never more characters than bytes.
+// After the mark, one byte is one character. A zero byte switches to two bytes for each character, the next
+// one back.
 void appendPacked(JetBytes bytes, QString &text)
 {
-    const qsizetype before = text.size();
-    text.resize(before + bytes.size());
-    QChar *end = text.data() + before;
     bool wide = false;
-    for (qsizetype at = 0; at < bytes.size();) {
-        if (bytes.view()[at] == 0) {
+    for (qsizetype at = 0; at < bytes.size(); ++at) {
+        if (bytes.view()[at] == 0)
             wide = !wide;
-            ++at;
-        } else if (wide) {
-            *end++ = QChar(bytes.u16(at));
-            at += 2;
-        } else {
-            const QByteArrayView run = narrowRun(bytes.view().sliced(at));
-            end = std::transform(run.begin(), run.end(), end, [](char byte) { return QLatin1Char(byte); });
-            at += run.size();
-        }
+        else if (wide)
+            text += QChar(bytes.u16(at++));
+        else
+            text += QLatin1Char(bytes.view()[at]);
     }
-    text.truncate(end - text.constData());
 }
 
 void appendAny(const JetColumn &column, JetBytes bytes, QString &text)
