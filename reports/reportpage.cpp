@@ -128,7 +128,7 @@ void ReportPage::headerRow(const QStringList &head)
 void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;
-    rowClass = rowClass == QLatin1StringView("teven") ? "tnoteven" : "teven";
+    rowClass = rowClass == u"teven" ? QStringLiteral("tnoteven") : QStringLiteral("teven");
     m_bytes += "</tr>\r\n<tr class=";
     CodePage::append(rowClass, m_bytes);
     m_bytes += ">\r\n";
