@@ -13,7 +13,6 @@
 static void registerIcons()
 {
     Q_INIT_RESOURCE(icons);
-    Q_INIT_RESOURCE(drawnicons);
 }
 
 namespace {
