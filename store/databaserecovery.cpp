@@ -5,6 +5,8 @@
 #include "store/databaseconnection.h"
 #include "store/databasepassword.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char *Database = "/Data/Database_uk.mdb";
@@ -68,16 +70,16 @@ void DatabaseRecovery::offerAfterMissingTable()
 
 bool DatabaseRecovery::userWantsOriginal()
 {
-    const auto question = QStringLiteral(
-        "Impossible to connect to the database! Do you want to reinstall the original database?");
+    const auto question =
+        u"Impossible to connect to the database! Do you want to reinstall the original database?"_s;
     return m_desktop.messageBox(question, Desktop::Critical + Desktop::YesNo) == Desktop::Yes;
 }
 
 void DatabaseRecovery::reinstallAs(const QString &destination)
 {
     copyFileOver(path(Original), destination);
-    m_desktop.messageBox(QStringLiteral("The original database was successfully reinstalled! Changes will be "
-                                        "effective after restating the program."),
+    m_desktop.messageBox(u"The original database was successfully reinstalled! Changes will be "
+                         "effective after restating the program."_s,
                          Desktop::Information);
     m_desktop.endProcess(0);
 }

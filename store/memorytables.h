@@ -12,8 +12,9 @@ class TextTable final
 public:
     QString &operator()(int row, int column)
     {
+        using namespace Qt::StringLiterals;
         if (row < 0 || row >= Rows || column < 0 || column >= Columns)
-            throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("(%1, %2)").arg(row).arg(column));
+            throw RuntimeError(ErrorNumber::Subscript, u"(%1, %2)"_s.arg(row).arg(column));
         return m_cells[size_t(row) * Columns + size_t(column)];
     }
     const QString &operator()(int row, int column) const

@@ -3,6 +3,8 @@
 #include "core/runtimeerror.h"
 #include "store/selectstatement.h"
 
+using namespace Qt::StringLiterals;
+
 Recordset::Recordset(const QString &statement, const DatabaseConnection &connection)
 {
     const JetFile &file = connection.file();
@@ -13,7 +15,7 @@ Recordset::Recordset(const QString &statement, const DatabaseConnection &connect
     for (const QString &name : select->columns) {
         const JetColumn *column = table.find(name);
         if (column == nullptr)
-            throw RuntimeError(ErrorNumber::ColumnNotFound, select->table + QLatin1Char('.') + name);
+            throw RuntimeError(ErrorNumber::ColumnNotFound, select->table + u'.' + name);
         m_columns.append(*column);
     }
     m_fields.resize(m_columns.size());
@@ -39,7 +41,7 @@ QStringView Recordset::field(int index) const
     if (m_atEnd)
         throw RuntimeError(ErrorNumber::PastEnd);
     if (index < 0 || index >= m_fields.size())
-        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("field %1").arg(index));
+        throw RuntimeError(ErrorNumber::Subscript, u"field %1"_s.arg(index));
     if (m_fields[index].isNull)
         throw RuntimeError(ErrorNumber::InvalidNull, m_columns[index].name);
     const qsizetype begin = index == 0 ? 0 : m_fields[index - 1].end;

@@ -2,10 +2,12 @@
 
 #include "core/runtimeerror.h"
 
+using namespace Qt::StringLiterals;
+
 QStringView RowList::cell(int row, int number) const
 {
     if (row < 0 || row >= rowCount())
-        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("row %1").arg(row + 1));
+        throw RuntimeError(ErrorNumber::Subscript, u"row %1"_s.arg(row + 1));
     const qsizetype cell = m_firstCells[row] + number;
     const qsizetype nextRow = row + 1 < rowCount() ? m_firstCells[row + 1] : m_ends.size();
     if (number < 0 || cell >= nextRow)

@@ -13,8 +13,9 @@ public:
     /// An index outside the array is RuntimeError 9.
     RowList &operator[](int index)
     {
+        using namespace Qt::StringLiterals;
         if (index < 0 || size_t(index) >= Count)
-            throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("list %1").arg(index));
+            throw RuntimeError(ErrorNumber::Subscript, u"list %1"_s.arg(index));
         return m_lists[size_t(index)];
     }
     const RowList &operator[](int index) const { return const_cast<RowListArray &>(*this)[index]; }

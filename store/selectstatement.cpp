@@ -6,9 +6,8 @@ namespace {
 
 bool isName(const QString &text)
 {
-    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) {
-        return c.isLetterOrNumber() || c == QLatin1Char('_');
-    });
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber() || c == u'_'; });
 }
 
 } // namespace
@@ -23,7 +22,7 @@ std::optional<SelectStatement> SelectStatement::parse(const QString &text)
         return std::nullopt;
 
     SelectStatement statement{{}, plain.mid(from + From.size())};
-    for (const QString &column : plain.mid(Select.size(), from - Select.size()).split(QLatin1Char(',')))
+    for (const QString &column : plain.mid(Select.size(), from - Select.size()).split(u','))
         statement.columns.append(column.trimmed());
     if (!isName(statement.table) || !std::all_of(statement.columns.begin(), statement.columns.end(), isName))
         return std::nullopt;

@@ -5,6 +5,8 @@
 #include "store/rowsource.h"
 #include "store/selectstatement.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using TableCatalog::Step;
@@ -180,7 +182,7 @@ SelectStatement parsed(int step)
 const Step &TableCatalog::at(int step)
 {
     if (step < FirstStep || step > LastStep)
-        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("load step %1").arg(step));
+        throw RuntimeError(ErrorNumber::Subscript, u"load step %1"_s.arg(step));
     return steps()[step - FirstStep];
 }
 

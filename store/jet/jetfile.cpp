@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 MaxFileSize = qint64(512) * 1024 * 1024;
@@ -19,7 +21,7 @@ QByteArray readWhole(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         throw FileErrors::of(file);
     if (file.size() > MaxFileSize)
-        throw RuntimeError(ErrorNumber::DatabaseFailure, QStringLiteral("the file is too large"));
+        throw RuntimeError(ErrorNumber::DatabaseFailure, u"the file is too large"_s);
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         throw FileErrors::of(file);
@@ -50,7 +52,7 @@ JetFile JetFile::open(const QString &path, const QString &password)
     try {
         return fromBytes(std::move(bytes), password);
     } catch (const RuntimeError &error) {
-        throw RuntimeError(error.number(), path + QStringLiteral(": ") + error.subject());
+        throw RuntimeError(error.number(), path + u": "_s + error.subject());
     }
 }
 
@@ -59,8 +61,7 @@ JetFile JetFile::fromBytes(QByteArray bytes, const QString &password)
     auto pages = std::make_shared<const JetPages>(std::move(bytes));
     const QString needed = pages->password();
     if (!needed.isEmpty() && needed != password)
-        throw RuntimeError(ErrorNumber::DatabaseFailure,
-                           QStringLiteral("the password is not that of the file"));
+        throw RuntimeError(ErrorNumber::DatabaseFailure, u"the password is not that of the file"_s);
     JetFile file(std::move(pages));
     file.readCatalogue();
     return file;

@@ -10,6 +10,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 using namespace Jet;
 
 namespace {
@@ -53,15 +55,15 @@ void appendAny(const JetColumn &column, JetBytes bytes, QString &text)
 QString withPoint(QString digits, int scale, bool negative)
 {
     if (scale > 0) {
-        digits = digits.rightJustified(scale + 1, QLatin1Char('0'));
-        while (scale > 0 && digits.endsWith(QLatin1Char('0'))) {
+        digits = digits.rightJustified(scale + 1, u'0');
+        while (scale > 0 && digits.endsWith(u'0')) {
             digits.chop(1);
             --scale;
         }
         if (scale > 0)
             digits.insert(digits.size() - scale, Numbers::decimalPoint());
     }
-    return negative && digits != QLatin1StringView("0") ? QLatin1Char('-') + digits : digits;
+    return negative && digits != u"0" ? u'-' + digits : digits;
 }
 
 QString currencyText(qint64 tenThousandths)
@@ -88,7 +90,7 @@ QString decimalText(JetBytes bytes, int scale)
         digits.prepend(QChar(u'0' + char16_t(rest)));
     }
     if (digits.isEmpty())
-        digits = QStringLiteral("0");
+        digits = u"0"_s;
     return withPoint(digits, scale, (bytes.u8(0) & 0x80) != 0);
 }
 
@@ -119,10 +121,10 @@ QString dateText(double days)
     const QLocale locale = QLocale::system();
     const QString date =
         locale.toString(QDate(1899, 12, 30).addDays(qint64(day) + seconds / 86400), QLocale::ShortFormat);
-    const QString time = locale.toString(QTime(0, 0).addSecs(seconds % 86400), QStringLiteral("HH:mm:ss"));
+    const QString time = locale.toString(QTime(0, 0).addSecs(seconds % 86400), u"HH:mm:ss"_s);
     if (day == 0)
         return time;
-    return seconds % 86400 == 0 ? date : date + QLatin1Char(' ') + time;
+    return seconds % 86400 == 0 ? date : date + u' ' + time;
 }
 
 // What was not stored as text.
@@ -159,7 +161,7 @@ QString otherText(const JetColumn &column, JetBytes cell)
 
 QString JetTexts::fromBoolean(bool value)
 {
-    return value ? QStringLiteral("True") : QStringLiteral("False");
+    return value ? u"True"_s : u"False"_s;
 }
 
 void JetTexts::append(const JetColumn &column, JetBytes cell, QString &text)
