@@ -4,11 +4,13 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString optionsFile(const QString &folder)
 {
-    return folder + QStringLiteral("/options_uk.ini");
+    return folder + u"/options_uk.ini"_s;
 }
 
 } // namespace
@@ -28,14 +30,13 @@ void Module1::WriteOptions() const
 
 const QString &Module1::folderOf(const QString &file) const
 {
-    const bool isUsers = ShippedFolder.isEmpty() || QFileInfo::exists(AppFolder + QLatin1Char('/') + file);
+    const bool isUsers = ShippedFolder.isEmpty() || QFileInfo::exists(AppFolder + u'/' + file);
     return isUsers ? AppFolder : ShippedFolder;
 }
 
 QString Module1::version()
 {
-    return QStringLiteral("%1.%2.%3")
-        .arg(BuildSettings::VersionMajor)
+    return u"%1.%2.%3"_s.arg(BuildSettings::VersionMajor)
         .arg(BuildSettings::VersionMinor)
         .arg(BuildSettings::VersionRevision);
 }

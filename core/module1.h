@@ -41,7 +41,7 @@ struct Module1
     const QString &folderOf(const QString &file) const;
 
     /// The path of the shipped @p file, by folderOf().
-    QString shippedFile(const QString &file) const { return folderOf(file) + QLatin1Char('/') + file; }
+    QString shippedFile(const QString &file) const { return folderOf(file) + u'/' + file; }
 
     /// "1.1.0"
     static QString version();

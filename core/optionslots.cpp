@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Takes delimited values from a text one at a time: a comma or a line's end closes a value.
@@ -20,7 +22,7 @@ public:
     Value next()
     {
         skipBlanks();
-        Value value = m_rest.startsWith(QLatin1Char('"')) ? quoted() : bare();
+        Value value = m_rest.startsWith(u'"') ? quoted() : bare();
         skipBlanks();
         skipDelimiter();
         return value;
@@ -29,7 +31,7 @@ public:
 private:
     void skipBlanks()
     {
-        while (m_rest.startsWith(QLatin1Char(' ')) || m_rest.startsWith(QLatin1Char('\t')))
+        while (m_rest.startsWith(u' ') || m_rest.startsWith(u'\t'))
             m_rest = m_rest.sliced(1);
     }
 
@@ -41,16 +43,13 @@ private:
             m_rest = m_rest.sliced(1);
     }
 
-    static bool isDelimiter(QChar c)
-    {
-        return c == QLatin1Char(',') || c == QLatin1Char('\r') || c == QLatin1Char('\n');
-    }
+    static bool isDelimiter(QChar c) { return c == u',' || c == u'\r' || c == u'\n'; }
 
     // Up to the next quote, or to the end of the file where there is none.
     Value quoted()
     {
         m_rest = m_rest.sliced(1);
-        const qsizetype end = m_rest.indexOf(QLatin1Char('"'));
+        const qsizetype end = m_rest.indexOf(u'"');
         const QStringView text = end < 0 ? m_rest : m_rest.first(end);
         m_rest = end < 0 ? QStringView() : m_rest.sliced(end + 1);
         return text.toString();
@@ -75,14 +74,13 @@ private:
 
 QByteArray delimited(const Value &value)
 {
-    return CodePage::encode(value.isText() ? QLatin1Char('"') + value.toText() + QLatin1Char('"')
-                                           : value.toText());
+    return CodePage::encode(value.isText() ? u'"' + value.toText() + u'"' : value.toText());
 }
 
 void requireIndex(int index)
 {
     if (index < 0 || index > OptionSlots::LastIndex)
-        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("OptionSlots(%1)").arg(index));
+        throw RuntimeError(ErrorNumber::Subscript, u"OptionSlots(%1)"_s.arg(index));
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Wording
@@ -41,7 +43,7 @@ QString wording(int number)
         if (entry.number == number)
             return QString::fromLatin1(entry.text);
     }
-    return QStringLiteral("Application-defined or object-defined error");
+    return u"Application-defined or object-defined error"_s;
 }
 
 } // namespace
@@ -52,8 +54,8 @@ RuntimeError::RuntimeError(int number, QString subject)
 
 QString RuntimeError::report() const
 {
-    QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(m_number).arg(wording(m_number));
+    QString text = u"Run-time error '%1':\n\n%2"_s.arg(m_number).arg(wording(m_number));
     if (!m_subject.isEmpty())
-        text += QLatin1Char('\n') + m_subject;
+        text += u'\n' + m_subject;
     return text;
 }

@@ -17,11 +17,11 @@ constexpr std::array<char16_t, 26> LowerCase{
 
 QChar sign(QChar c)
 {
-    if (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
+    if (c >= u'A' && c <= u'Z')
         return UpperCase[c.unicode() - u'A'];
-    if (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+    if (c >= u'a' && c <= u'z')
         return LowerCase[c.unicode() - u'a'];
-    return c == QLatin1Char('-') ? u'−' : c;
+    return c == u'-' ? u'−' : c;
 }
 
 } // namespace

@@ -4,32 +4,33 @@
 
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 QString VersionRecord::applicationTitle()
 {
-    return QStringLiteral("Alembra");
+    return u"Alembra"_s;
 }
 
 QString VersionRecord::comments()
 {
-    return QStringLiteral("Alembra, the swiss army knife of the lab worker, is the essential software of the "
-                          "scientist, containing numerous data very useful in a laboratory.");
+    return u"Alembra, the swiss army knife of the lab worker, is the essential software of the "
+           "scientist, containing numerous data very useful in a laboratory."_s;
 }
 
 QString VersionRecord::fileDescription()
 {
-    return QStringLiteral("Reference tables, charts and calculators for the chemistry and biochemistry "
-                          "laboratory.");
+    return u"Reference tables, charts and calculators for the chemistry and biochemistry "
+           "laboratory."_s;
 }
 
 QString VersionRecord::legalNotice()
 {
-    return QStringLiteral("© %1 the Alembra developers. Code: MIT licence. Data: see LICENSES.md.")
-        .arg(noticeYears());
+    return u"© %1 the Alembra developers. Code: MIT licence. Data: see LICENSES.md."_s.arg(noticeYears());
 }
 
 QString VersionRecord::noticeYears()
 {
-    return QStringLiteral("2026");
+    return u"2026"_s;
 }
 
 QString VersionRecord::contactAddress()
@@ -37,5 +38,5 @@ QString VersionRecord::contactAddress()
     QString host = QUrl(QString::fromLatin1(BuildSettings::WebSite)).host();
     if (host.startsWith(QLatin1StringView("www.")))
         host.remove(0, 4);
-    return QStringLiteral("contact@") + host;
+    return u"contact@"_s + host;
 }
