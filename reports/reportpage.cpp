@@ -4,6 +4,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct StyleRule
@@ -74,15 +76,13 @@ void ReportPage::captions(const QString &section, const QString &subsection)
 {
     line(CaptionTable);
     line("<tr>");
-    line(
-        QStringLiteral(R"(<td><p align="Left"><font size=2> <strong>)"
-                       R"(<font%1 size="4" face="Verdana, Arial, Helvetica, sans - serif">Alembra %2<br><br>)"
-                       R"(<font size="2"><font%1 size="3">%3</font></font></font>)"
-                       R"(<font size="3" face="Verdana, Arial, Helvetica, sans - serif">)")
-            .arg(fontColour(), Module1::version(), section));
+    line(uR"(<td><p align="Left"><font size=2> <strong>)"
+         R"(<font%1 size="4" face="Verdana, Arial, Helvetica, sans - serif">Alembra %2<br><br>)"
+         R"(<font size="2"><font%1 size="3">%3</font></font></font>)"
+         R"(<font size="3" face="Verdana, Arial, Helvetica, sans - serif">)"_s.arg(
+             fontColour(), Module1::version(), section));
     if (!subsection.isEmpty())
-        line(QStringLiteral(
-                 R"(<font%1 size="2" face="Verdana, Arial, Helvetica, sans - serif"><em>%2</em></font><br>)")
+        line(uR"(<font%1 size="2" face="Verdana, Arial, Helvetica, sans - serif"><em>%2</em></font><br>)"_s
                  .arg(fontColour(), subsection));
     line(CaptionTableEnd);
 }
@@ -97,10 +97,10 @@ void ReportPage::sectionHeading(const QString &heading, HeadingBreak lineBreak)
     const bool broken = lineBreak == HeadingBreak::Always || theme() == ReportTheme::Grayscale;
     line(CaptionTable);
     line("<tr>");
-    line(QStringLiteral(R"(<td><p align="Left"><strong>)"
-                        R"(<font%1 size="1" face="Verdana, Arial, Helvetica, sans - serif">%2%3</font>)"
-                        R"(<font size="3" face="Verdana, Arial, Helvetica, sans - serif">)")
-             .arg(fontColour(), heading, broken ? "<br>" : ""));
+    line(uR"(<td><p align="Left"><strong>)"
+         R"(<font%1 size="1" face="Verdana, Arial, Helvetica, sans - serif">%2%3</font>)"
+         R"(<font size="3" face="Verdana, Arial, Helvetica, sans - serif">)"_s.arg(fontColour(), heading,
+                                                                                   broken ? "<br>" : ""));
     line(CaptionTableEnd);
 }
 
@@ -128,7 +128,7 @@ void ReportPage::headerRow(const QStringList &head)
 void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;
-    rowClass = rowClass == u"teven" ? QStringLiteral("tnoteven") : QStringLiteral("teven");
+    rowClass = rowClass == u"teven" ? u"tnoteven"_s : u"teven"_s;
     m_bytes += "</tr>\r\n<tr class=";
     CodePage::append(rowClass, m_bytes);
     m_bytes += ">\r\n";
@@ -154,8 +154,8 @@ void ReportPage::closeTable()
 
 QString ReportPage::imageSource(const QString &relative) const
 {
-    const QString file = relative.sliced(1).replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return "file:///" + QString(m_module.folderOf(file) + relative).replace(QLatin1Char(' '), "%20");
+    const QString file = relative.sliced(1).replace(u'\\', u'/');
+    return "file:///" + QString(m_module.folderOf(file) + relative).replace(u' ', "%20");
 }
 
 void ReportPage::rule()

@@ -2,10 +2,12 @@
 
 #include "reports/reportpage.h"
 
+using namespace Qt::StringLiterals;
+
 QString titleCell(const ReportColumn &column, const QString &attribute)
 {
-    return QStringLiteral(R"(<td width="%1%"%2><b>%3</b></td>)")
-        .arg(QString::number(column.width), attribute, column.title);
+    return uR"(<td width="%1%"%2><b>%3</b></td>)"_s.arg(QString::number(column.width), attribute,
+                                                        column.title);
 }
 
 QStringList titleCells(const QList<ReportColumn> &columns)
