@@ -9,6 +9,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char **argv)
 {
     constexpr int Ticks = 37;
@@ -23,9 +25,9 @@ int main(int argc, char **argv)
         splash.setMaximum(5 * Ticks);
         for (int tick = 1; tick < Ticks; ++tick)
             splash.ProgressTick();
-        window.setWindowTitle(QStringLiteral("Bare window"));
-        window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Quit"));
-        window.setCentralWidget(new QLabel(QStringLiteral("Nothing")));
+        window.setWindowTitle(u"Bare window"_s);
+        window.menuBar()->addMenu(u"&File"_s)->addAction(u"&Quit"_s);
+        window.setCentralWidget(new QLabel(u"Nothing"_s));
         window.resize(980, 640);
         window.show();
         splash.close();

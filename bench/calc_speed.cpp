@@ -6,6 +6,8 @@
 #include "calc/unitconverter.h"
 #include "core/numbers.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace CalcFields;
 
 namespace {
@@ -14,7 +16,7 @@ constexpr double ConversionTarget = 1.5;
 constexpr double SolverTarget = 2;
 
 // Made before anything is measured.
-const QString Input = QStringLiteral("123.456"); // clazy:exclude=non-pod-global-static
+const QString Input = u"123.456"_s; // clazy:exclude=non-pod-global-static
 constexpr double Result = 123.456 / 7;
 
 void bareNumbers(int read, int written)
@@ -30,8 +32,7 @@ void conversions(Measure &measure)
     UnitConverter converter([](int) { return UnitPair{1, 2}; });
     const auto tabs = int(Units::quantities().size());
     measure.compare(
-        QStringLiteral("conversion of a number on each tab / reading, writing"),
-        [tabs] { bareNumbers(tabs, tabs); },
+        u"conversion of a number on each tab / reading, writing"_s, [tabs] { bareNumbers(tabs, tabs); },
         [&] {
             for (int tab = 1; tab <= tabs; ++tab)
                 converter.keyReleased(tab, Input);
@@ -47,7 +48,7 @@ void clicks(Measure &measure)
     if (changes == 0)
         throw std::runtime_error("no dilution was calculated");
     measure.compare(
-        QStringLiteral("calculation of a dilution / reading, writing"), [=] { bareNumbers(3, changes); },
+        u"calculation of a dilution / reading, writing"_s, [=] { bareNumbers(3, changes); },
         [&] { Solver::solve(4, dilution); }, SolverTarget);
 }
 

@@ -9,6 +9,8 @@
 
 #include <QImage>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double ClickTarget = 1.3;
@@ -54,7 +56,7 @@ private:
             throw std::runtime_error("no picture: " + file.toStdString());
         list.selectRow(row);
         m_measure.compare(
-            QStringLiteral("click for chart %1 / decoding").arg(file.section(QLatin1Char('/'), -2)),
+            u"click for chart %1 / decoding"_s.arg(file.section(u'/', -2)),
             [&] { static_cast<void>(QImage(file)); },
             [&] { Frames::untilPainted(m_picture, [&] { Q_EMIT list.rowClicked(row); }); }, ClickTarget);
     }

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double LoadTarget = 1.5; // a page, its rows and their cells are each looked at once on the way
@@ -22,7 +24,7 @@ QList<QList<QByteArray>> cells()
 {
     QList<QList<QByteArray>> rows;
     DatabaseConnection connection;
-    connection.Open(ProgramData::database(), QStringLiteral("Admin"), DatabasePassword);
+    connection.Open(ProgramData::database(), u"Admin"_s, DatabasePassword);
     for (int step = TableCatalog::FirstStep; step <= ProgramData::LastLoaded; ++step) {
         const qsizetype columns = TableCatalog::columns(step).size();
         for (Recordset records(TableCatalog::statement(step), connection); !records.atEnd();
@@ -58,7 +60,7 @@ QString makeDatabase(const QTemporaryDir &folder, TableData table, int times)
     const QList<QStringList> rows = table.rows;
     for (int time = 1; time < times; ++time)
         table.rows += rows;
-    QFile file(folder.filePath(QStringLiteral("%1.mdb").arg(times)));
+    QFile file(folder.filePath(u"%1.mdb"_s.arg(times)));
     const QByteArray bytes = DatabaseFile::make({table}, DatabasePassword);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         throw std::runtime_error(file.errorString().toStdString());
@@ -70,7 +72,7 @@ void growth(Measure &measure)
     const QTemporaryDir folder;
     TableRules rules;
     rules.name = TableCatalog::table(ImpurityShifts);
-    rules.columns = TableCatalog::columns(ImpurityShifts) + QStringList{QStringLiteral("source")};
+    rules.columns = TableCatalog::columns(ImpurityShifts) + QStringList{u"source"_s};
     const TableData table =
         TableFile::read(QStringLiteral(ALEMBRA_SOURCE "/data/tables/%1.tsv").arg(rules.name), rules);
     QList<Measure::Size> sizes;
@@ -84,7 +86,7 @@ void growth(Measure &measure)
                                        throw std::runtime_error("rows got lost");
                                }};
     }
-    measure.growth(QStringLiteral("load of a table"), sizes, GrowthTarget);
+    measure.growth(u"load of a table"_s, sizes, GrowthTarget);
 }
 
 } // namespace
@@ -95,7 +97,7 @@ int main(int argc, char **argv)
     return measureAll([](Measure &measure) {
         const auto rows = cells();
         measure.compare(
-            QStringLiteral("load of the database / file and its texts"), [&] { bareDecode(rows); },
+            u"load of the database / file and its texts"_s, [&] { bareDecode(rows); },
             [] { ProgramData::load(ProgramData::database()); }, LoadTarget);
         growth(measure);
     });

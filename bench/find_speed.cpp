@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double GatherTarget = 1.3;
@@ -19,7 +21,7 @@ int main()
 {
     return measureAll([](Measure &measure) {
         const auto data = ProgramData::load(ProgramData::database(), Solvents, Solvents);
-        const QString key = QStringLiteral("ACE");
+        const QString key = u"ACE"_s;
         std::array<RowList, 3> lists;
         RowList hits;
         QList<Measure::Size> sizes;
@@ -36,10 +38,9 @@ int main()
             for (int row = 0; row < lists[0].rowCount(); ++row)
                 found += lists[0].cell(row, 0).contains(key, Qt::CaseInsensitive) ? 1 : 0;
         };
-        measure.compare(QStringLiteral("gathering of hits / comparison"), bare, sizes[0].action,
-                        GatherTarget);
+        measure.compare(u"gathering of hits / comparison"_s, bare, sizes[0].action, GatherTarget);
         if (found == 0)
             throw std::runtime_error("nothing was found");
-        measure.growth(QStringLiteral("search"), sizes, GrowthTarget);
+        measure.growth(u"search"_s, sizes, GrowthTarget);
     });
 }

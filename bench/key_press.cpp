@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double SearchTarget = 1.5;
@@ -57,9 +59,8 @@ void search(Form1 &form, Measure &measure)
     form.executeCommand(ShowSolvents);
     form.executeCommand(Find);
     auto &list = Frames::control<RowListView>(form, "ListView1");
-    measure.add(QStringLiteral("key in the search text / repaint of the list"),
-                presses(Frames::control<QLineEdit>(form, "TextBoxM6"), Qt::Key_A, QStringLiteral("a"),
-                        {list.viewport()}),
+    measure.add(u"key in the search text / repaint of the list"_s,
+                presses(Frames::control<QLineEdit>(form, "TextBoxM6"), Qt::Key_A, u"a"_s, {list.viewport()}),
                 SearchTarget);
 }
 
@@ -68,8 +69,8 @@ void conversion(Form1 &form, Measure &measure)
     form.executeCommand(ShowCalculations);
     auto &number = Frames::control<QLineEdit>(form, "TextBoxM1");
     auto &result = Frames::control<QLineEdit>(form, "TextBoxM2");
-    measure.add(QStringLiteral("key in the conversions / repaint of the fields"),
-                presses(number, Qt::Key_7, QStringLiteral("7"), {&number, &result}), ConversionTarget);
+    measure.add(u"key in the conversions / repaint of the fields"_s,
+                presses(number, Qt::Key_7, u"7"_s, {&number, &result}), ConversionTarget);
     if (result.text().isEmpty())
         throw std::runtime_error("nothing was converted");
 }

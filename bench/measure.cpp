@@ -5,6 +5,8 @@
 #include <cmath>
 #include <ctime>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double Shortest = 0.3; // ms; the clock takes a ten-thousandth of that
@@ -122,9 +124,8 @@ void Measure::growth(const QString &what, const QList<Size> &sizes, double targe
     for (const QList<double> &ofSize : times)
         medians << median(ofSize);
     const double exponent = slope(logarithms(rows), logarithms(medians));
-    print(QStringLiteral("%1: %2 rows").arg(what, numbers.join(QStringLiteral(", "))), medians.first(),
-          medians.last(), QStringLiteral("n^%1").arg(exponent, 0, 'f', 2), exponent > target, target,
-          exponents);
+    print(u"%1: %2 rows"_s.arg(what, numbers.join(u", "_s)), medians.first(), medians.last(),
+          u"n^%1"_s.arg(exponent, 0, 'f', 2), exponent > target, target, exponents);
 }
 
 // bench/start_to_idle.py prints lines of the same form.
@@ -135,16 +136,15 @@ void Measure::print(const QString &what, double floor, double measured, const QS
     std::sort(ratios.begin(), ratios.end());
     const bool quick = measured < 0.1;
     const double scale = quick ? 1e3 : 1;
-    QTextStream(stdout) << QStringLiteral("%1%2%3%4%5%6   %7 to %8%9\n")
-                               .arg(what, -52)
-                               .arg(quick ? QStringLiteral("µs") : QStringLiteral("ms"), -4)
+    QTextStream(stdout) << u"%1%2%3%4%5%6   %7 to %8%9\n"_s.arg(what, -52)
+                               .arg(quick ? u"µs"_s : u"ms"_s, -4)
                                .arg(floor * scale, 10, 'f', 3)
                                .arg(measured * scale, 10, 'f', 3)
                                .arg(ratio, 8)
                                .arg(target, 8, 'f', 2)
                                .arg(ratios[ratios.size() / 4], 0, 'f', 2)
                                .arg(ratios[ratios.size() * 3 / 4], 0, 'f', 2)
-                               .arg(missed ? QStringLiteral("   MISSED") : QString());
+                               .arg(missed ? u"   MISSED"_s : QString());
 }
 
 int measureAll(const std::function<void(Measure &)> &body)

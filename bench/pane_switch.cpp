@@ -3,6 +3,8 @@
 
 #include "bench/frames.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Tool bar, status bar and the pane that goes take as long for every pane: a third of a millisecond, which is
@@ -67,7 +69,7 @@ int main(int argc, char **argv)
         QList<Measure::Sample> rounds(Rounds, {0, 0});
         for (const Pane &pane : Shown) {
             const QList<Measure::Sample> samples = switchesTo(pane, form);
-            measure.add(QStringLiteral("switch to %1 / repaint").arg(QLatin1StringView(pane.frame)), samples,
+            measure.add(u"switch to %1 / repaint"_s.arg(QLatin1StringView(pane.frame)), samples,
                         SwitchTarget);
             for (qsizetype i = 0; i < samples.size(); ++i) {
                 Measure::Sample &round = rounds[i % Rounds];
@@ -75,7 +77,7 @@ int main(int argc, char **argv)
                 round.measured += samples[i].measured;
             }
         }
-        measure.add(QStringLiteral("all %1 switches / repaints").arg(Shown.size() * (Shown.size() - 1)),
-                    rounds, AllTarget);
+        measure.add(u"all %1 switches / repaints"_s.arg(Shown.size() * (Shown.size() - 1)), rounds,
+                    AllTarget);
     });
 }

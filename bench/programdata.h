@@ -24,7 +24,8 @@ inline std::unique_ptr<DataStore> load(const QString &database, int firstStep = 
                                        int lastStep = LastLoaded)
 {
     DatabaseConnection connection;
-    connection.Open(database, QStringLiteral("Admin"), DatabasePassword);
+    using namespace Qt::StringLiterals;
+    connection.Open(database, u"Admin"_s, DatabasePassword);
     auto data = std::make_unique<DataStore>();
     TableLoader loader(
         *data, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },

@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double SaveTarget = 3;
@@ -38,7 +40,7 @@ QByteArray report(const DataStore &data)
 
 void save(const QByteArray &bytes, const QTemporaryDir &folder)
 {
-    QFile file(folder.filePath(QStringLiteral("report.htm")));
+    QFile file(folder.filePath(u"report.htm"_s));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
         throw std::runtime_error(file.errorString().toStdString());
 }
@@ -60,8 +62,8 @@ int main()
         }
         const QByteArray bytes = report(stores[0]);
         measure.compare(
-            QStringLiteral("report of the solutions / saving its bytes"), [&] { save(bytes, folder); },
-            sizes[0].action, SaveTarget);
-        measure.growth(QStringLiteral("report"), sizes, GrowthTarget);
+            u"report of the solutions / saving its bytes"_s, [&] { save(bytes, folder); }, sizes[0].action,
+            SaveTarget);
+        measure.growth(u"report"_s, sizes, GrowthTarget);
     });
 }
