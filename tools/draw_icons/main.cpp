@@ -11,6 +11,8 @@
 #include <QSvgRenderer>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool save(const QImage &image, const QString &path)
@@ -53,7 +55,7 @@ int main(int argc, char *argv[])
     }
     const QDir folder(arguments.takeFirst());
     const QString format = arguments.takeFirst();
-    const QStringList sizes = arguments.takeFirst().split(QLatin1Char(','));
+    const QStringList sizes = arguments.takeFirst().split(u',');
     for (const QString &path : arguments) {
         QSvgRenderer icon(path);
         if (!icon.isValid()) {
@@ -61,8 +63,7 @@ int main(int argc, char *argv[])
             return 1;
         }
         for (const QString &size : sizes) {
-            const QString name =
-                QStringLiteral("%1-%2.%3").arg(QFileInfo(path).completeBaseName(), size, format);
+            const QString name = u"%1-%2.%3"_s.arg(QFileInfo(path).completeBaseName(), size, format);
             if (!draw(icon, size.toInt(), folder.filePath(name)))
                 return 1;
         }

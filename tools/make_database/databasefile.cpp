@@ -10,6 +10,8 @@
 
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray headerPage(const QString &password)
@@ -98,10 +100,9 @@ QList<QByteArray> rowsOf(const TableData &table)
     for (const QStringList &cells : table.rows) {
         rows.append(Rows::ofTexts(cells));
         if (rows.last().size() > Pages::LongestRow) {
-            throw BuildError(table.file, rows.size() + 1,
-                             QStringLiteral("the row needs %1 bytes, %2 is the limit")
-                                 .arg(rows.last().size())
-                                 .arg(Pages::LongestRow));
+            throw BuildError(
+                table.file, rows.size() + 1,
+                u"the row needs %1 bytes, %2 is the limit"_s.arg(rows.last().size()).arg(Pages::LongestRow));
         }
     }
     return rows;

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Numbers that the engine writes everywhere.
@@ -92,7 +94,7 @@ QByteArray TableLayout::page() const
     const qsizetype end = HeadSize + page.size();
     const qsizetype free = Jet::PageSize - 8 - end;
     if (free < 0)
-        throw BuildError(QStringLiteral("the definition of a table does not fit on one page"));
+        throw BuildError(u"the definition of a table does not fit on one page"_s);
     ByteWriter whole;
     whole.u8(Jet::DefinitionPage).u8(1).u16(quint16(free)).u32(0).u32(quint32(end)).bytes(page.data());
     return whole.zeros(Jet::PageSize - end).data();

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype BitsAt = 27;
@@ -27,7 +29,7 @@ char sortCode(QChar c)
     const QChar upper = c.toUpper();
     if (upper >= u'A' && upper <= u'Z')
         return LetterCodes[upper.unicode() - u'A'];
-    throw BuildError(QStringLiteral("a table name may hold letters and digits only, not \"%1\"").arg(c));
+    throw BuildError(u"a table name may hold letters and digits only, not \"%1\""_s.arg(c));
 }
 
 } // namespace
@@ -61,7 +63,7 @@ QByteArray IndexLeaf::page(quint32 owner) const
     std::sort(sorted.begin(), sorted.end(), [](const QByteArray &a, const QByteArray &b) { return a < b; });
     const QByteArray entries = sorted.join();
     if (entries.size() > Room)
-        throw BuildError(QStringLiteral("too many tables: an index needs a second page"));
+        throw BuildError(u"too many tables: an index needs a second page"_s);
 
     ByteWriter page;
     page.u8(Jet::IndexLeafPage).u8(1).u16(quint16(Room - entries.size())).u32(owner);

@@ -14,6 +14,8 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Reports are 8-bit texts of Windows-1252; chart names are the only texts of the database that none prints.
@@ -29,16 +31,16 @@ QList<TableData> readTables(const QDir &folder)
     for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step) {
         TableRules rules;
         rules.name = TableCatalog::table(step);
-        rules.columns = TableCatalog::columns(step) + QStringList{QStringLiteral("source")};
+        rules.columns = TableCatalog::columns(step) + QStringList{u"source"_s};
         rules.rows = TableCatalog::rowCount(step);
         rules.anyCharacters = isNeverPrinted(rules.name);
-        files.append(rules.name + QStringLiteral(".tsv"));
+        files.append(rules.name + u".tsv"_s);
         tables.append(TableFile::read(folder.filePath(files.last()), rules));
     }
     // A misspelt file name must not pass as a table that nobody missed.
     for (const QString &file : folder.entryList(QDir::Files)) {
         if (!files.contains(file))
-            throw BuildError(folder.filePath(file), 1, QStringLiteral("no table of the program"));
+            throw BuildError(folder.filePath(file), 1, u"no table of the program"_s);
     }
     return tables;
 }
@@ -47,7 +49,7 @@ void write(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw BuildError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw BuildError(u"%1: %2"_s.arg(path, file.errorString()));
 }
 
 } // namespace

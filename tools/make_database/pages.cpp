@@ -4,6 +4,8 @@
 #include "tools/make_database/bytewriter.h"
 #include "tools/tables/builderror.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype MaxRows = 255;
@@ -61,7 +63,7 @@ QByteArray Pages::usageMap(const QList<quint32> &pages)
     QByteArray bitmap(PagesInMap / 8, '\0');
     for (const quint32 page : pages) {
         if (page >= PagesInMap)
-            throw BuildError(QStringLiteral("the tables need more than 2 MiB"));
+            throw BuildError(u"the tables need more than 2 MiB"_s);
         bitmap[page / 8] = char(bitmap[page / 8] | 1 << page % 8);
     }
     return ByteWriter().u8(0).u32(0).bytes(bitmap).data();

@@ -5,6 +5,8 @@
 
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Jet::Type;
@@ -122,7 +124,7 @@ TableLayout SystemTables::objectsLayout(quint32 rows)
     layout.rowCount = rows;
     layout.indexes = {{{1, 2}, 0x81, ObjectsByNamePage, mapAt(0x10), rows},
                       {{0}, 0x81, ObjectsByIdPage, mapAt(0x11), rows}};
-    layout.indexNames = {{QStringLiteral("Id"), 1, true}, {QStringLiteral("ParentIdName"), 0, false}};
+    layout.indexNames = {{u"Id"_s, 1, true}, {u"ParentIdName"_s, 0, false}};
     layout.longColumns = {longColumn(9, 0x04),  longColumn(8, 0x02),  longColumn(13, 0x08),
                           longColumn(16, 0x0E), longColumn(15, 0x0C), longColumn(14, 0x0A),
                           longColumn(12, 0x06)};
@@ -134,7 +136,7 @@ TableLayout SystemTables::permissionsLayout(quint32 rows, quint32 objects)
     TableLayout layout = layoutOf(PermissionsColumns, 0x12);
     layout.rowCount = rows;
     layout.indexes = {{{0}, 0x88, PermissionsPage, mapAt(0x14), objects}};
-    layout.indexNames = {{QStringLiteral("ObjectId"), 0, false}};
+    layout.indexNames = {{u"ObjectId"_s, 0, false}};
     return layout;
 }
 
@@ -142,7 +144,7 @@ TableLayout SystemTables::queriesLayout()
 {
     TableLayout layout = layoutOf(QueriesColumns, 0x15);
     layout.indexes = {{{0, 1, 2}, 0x81, QueriesPage, mapAt(0x19)}};
-    layout.indexNames = {{QStringLiteral("ObjectIdAttribute"), 0, true}};
+    layout.indexNames = {{u"ObjectIdAttribute"_s, 0, true}};
     layout.longColumns = {longColumn(5, 0x17)};
     return layout;
 }
@@ -153,9 +155,8 @@ TableLayout SystemTables::relationshipsLayout()
     layout.indexes = {{{0}, 0x82, FirstRelationshipsPage, mapAt(0x1C)},
                       {{4}, 0x82, FirstRelationshipsPage + 1, mapAt(0x1D)},
                       {{6}, 0x82, LastRelationshipsPage, mapAt(0x1E)}};
-    layout.indexNames = {{QStringLiteral("szObject"), 1, false},
-                         {QStringLiteral("szReferencedObject"), 2, false},
-                         {QStringLiteral("szRelationship"), 0, false}};
+    layout.indexNames = {
+        {u"szObject"_s, 1, false}, {u"szReferencedObject"_s, 2, false}, {u"szRelationship"_s, 0, false}};
     return layout;
 }
 
@@ -183,14 +184,14 @@ QList<SystemTables::Object> SystemTables::fixedObjects()
 {
     constexpr quint32 System = 0x80000000;
     return {
-        {TablesFolder, RootFolder, QStringLiteral("Tables"), 3, System, false},
-        {DatabasesFolder, RootFolder, QStringLiteral("Databases"), 3, System, false},
-        {RelationshipsFolder, RootFolder, QStringLiteral("Relationships"), 3, System, false},
-        {Database, DatabasesFolder, QStringLiteral("MSysDb"), 2, System, true},
-        {Objects, TablesFolder, QStringLiteral("MSysObjects"), 1, System, false},
-        {Permissions, TablesFolder, QStringLiteral("MSysACEs"), 1, System, false},
-        {Queries, TablesFolder, QStringLiteral("MSysQueries"), 1, System, false},
-        {Relationships, TablesFolder, QStringLiteral("MSysRelationships"), 1, System, false},
+        {TablesFolder, RootFolder, u"Tables"_s, 3, System, false},
+        {DatabasesFolder, RootFolder, u"Databases"_s, 3, System, false},
+        {RelationshipsFolder, RootFolder, u"Relationships"_s, 3, System, false},
+        {Database, DatabasesFolder, u"MSysDb"_s, 2, System, true},
+        {Objects, TablesFolder, u"MSysObjects"_s, 1, System, false},
+        {Permissions, TablesFolder, u"MSysACEs"_s, 1, System, false},
+        {Queries, TablesFolder, u"MSysQueries"_s, 1, System, false},
+        {Relationships, TablesFolder, u"MSysRelationships"_s, 1, System, false},
     };
 }
 

@@ -14,6 +14,8 @@
 #include <functional>
 #include <numbers>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Side = 360;
@@ -171,14 +173,14 @@ QImage drawCell(const Lattice &cell)
     QImage picture = large.scaled(Side, Side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     painter.begin(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintAxis(painter, view, cell.a, QStringLiteral("a"));
-    paintAxis(painter, view, cell.b, QStringLiteral("b"));
-    paintAxis(painter, view, cell.c, QStringLiteral("c"));
+    paintAxis(painter, view, cell.a, u"a"_s);
+    paintAxis(painter, view, cell.b, u"b"_s);
+    paintAxis(painter, view, cell.c, u"c"_s);
 
     painter.setPen(Ink);
     painter.setFont(textFont(14));
     painter.drawText(QRectF(0, CellArea + 6, Side, 22), Qt::AlignCenter,
-                     cell.edges + QStringLiteral("     ") + cell.angles);
+                     cell.edges + u"     "_s + cell.angles);
     painter.setPen(SoftInk);
     painter.setFont(textFont(11));
     painter.drawText(QRectF(4, CellArea + 28, Side - 8, 36), Qt::AlignHCenter | Qt::TextWordWrap, cell.note);
@@ -190,7 +192,7 @@ QImage drawCell(const Lattice &cell)
 void drawCrystals(const QString &data, const PictureFolder &pictures)
 {
     constexpr const char *Column = "cristallo";
-    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"));
+    const Table table = Table::read(data + u"/tables/Elements.tsv"_s);
     for (int row = 0; row < table.rowCount(); ++row) {
         const QString name = table.cell(row, Column);
         if (name == QLatin1String("-") || table.find(Column, name) != row)
@@ -198,7 +200,7 @@ void drawCrystals(const QString &data, const PictureFolder &pictures)
         const auto cell = std::find_if(lattices().begin(), lattices().end(),
                                        [&](const Lattice &lattice) { return lattice.name == name; });
         if (cell == lattices().end())
-            table.fail(row, QStringLiteral("no cell is known for the crystal structure \"%1\"").arg(name));
-        pictures.write(QStringLiteral("cristal/%1.bmp").arg(name), drawCell(*cell));
+            table.fail(row, u"no cell is known for the crystal structure \"%1\""_s.arg(name));
+        pictures.write(u"cristal/%1.bmp"_s.arg(name), drawCell(*cell));
     }
 }

@@ -12,6 +12,8 @@
 #include <numbers>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct FamilyColour
@@ -44,24 +46,24 @@ struct Element
             if ((*this)["famille"] == QLatin1String(entry.family))
                 return QColor(entry.colour);
         }
-        table.fail(row, QStringLiteral("no colour for the family \"%1\"").arg((*this)["famille"]));
+        table.fail(row, u"no colour for the family \"%1\""_s.arg((*this)["famille"]));
     }
 
-    QString block() const { return QStringLiteral("%1-block").arg(QLatin1Char(blockOf(number()))); }
+    QString block() const { return u"%1-block"_s.arg(QLatin1Char(blockOf(number()))); }
 };
 
 /// Puts the configuration of the noble gas for its symbol in brackets, as often as needed.
 QString writtenOut(const Table &table, int row)
 {
     QString configuration = table.cell(row, "elecconf");
-    static const QRegularExpression core(QStringLiteral("^\\[([A-Z][a-z]?)\\]"));
+    static const QRegularExpression core(u"^\\[([A-Z][a-z]?)\\]"_s);
     for (int depth = 0; depth < 7; ++depth) {
         const QRegularExpressionMatch match = core.match(configuration);
         if (!match.hasMatch())
             break;
         const int gas = table.find("symb", match.captured(1));
         if (gas < 0 || gas >= row)
-            table.fail(row, QStringLiteral("no noble gas %1 above").arg(match.captured()));
+            table.fail(row, u"no noble gas %1 above"_s.arg(match.captured()));
         configuration.replace(0, match.capturedLength(), table.cell(gas, "elecconf"));
     }
     return configuration;
@@ -71,11 +73,10 @@ Element readElement(const Table &table, int row)
 {
     const Element element{table, row, electronsInShells(writtenOut(table, row))};
     if (element["nbato"] != QString::number(element.number()))
-        table.fail(row, QStringLiteral("atomic number %1 is out of order").arg(element["nbato"]));
+        table.fail(row, u"atomic number %1 is out of order"_s.arg(element["nbato"]));
     if (std::accumulate(element.shells.begin(), element.shells.end(), 0) != element.number())
-        table.fail(row, QStringLiteral("\"%1\" does not hold %2 electrons")
-                            .arg(element["elecconf"])
-                            .arg(element.number()));
+        table.fail(row,
+                   u"\"%1\" does not hold %2 electrons"_s.arg(element["elecconf"]).arg(element.number()));
     return element;
 }
 
@@ -109,7 +110,7 @@ QString shellList(const Element &element)
     QStringList counts;
     for (const int count : element.shells)
         counts << QString::number(count);
-    return counts.join(QStringLiteral(", "));
+    return counts.join(u", "_s);
 }
 
 QImage drawSmallCard(const Element &element)
@@ -135,20 +136,20 @@ QImage drawSmallCard(const Element &element)
 /// "4489 tp" as "4489 °C (triple point)"; "-" stays.
 QString temperature(const QString &cell)
 {
-    const QStringList parts = cell.split(QLatin1Char(' '));
+    const QStringList parts = cell.split(u' ');
     if (cell == QLatin1String("-"))
         return cell;
-    QString text = parts[0] + QStringLiteral(" °C");
+    QString text = parts[0] + u" °C"_s;
     if (parts.value(1) == QLatin1String("tp"))
-        text += QStringLiteral(" (triple point)");
+        text += u" (triple point)"_s;
     if (parts.value(1) == QLatin1String("sp"))
-        text += QStringLiteral(" (sublimes)");
+        text += u" (sublimes)"_s;
     return text;
 }
 
 QString withUnit(const QString &cell, const QString &unit)
 {
-    return cell == QLatin1String("-") ? cell : cell + QLatin1Char(' ') + unit;
+    return cell == QLatin1String("-") ? cell : cell + u' ' + unit;
 }
 
 struct Fact
@@ -160,9 +161,9 @@ struct Fact
 /// A minus sign before digits, a dash for what is not known.
 QString typeset(QString value)
 {
-    static const QRegularExpression negative(QStringLiteral("-(?=[0-9])"));
-    static const QRegularExpression unknown(QStringLiteral("(?<![^ ])-(?![^ ])"));
-    return value.replace(negative, QStringLiteral("−")).replace(unknown, QStringLiteral("–"));
+    static const QRegularExpression negative(u"-(?=[0-9])"_s);
+    static const QRegularExpression unknown(u"(?<![^ ])-(?![^ ])"_s);
+    return value.replace(negative, u"−"_s).replace(unknown, u"–"_s);
 }
 
 /// A caption above its value.
@@ -185,9 +186,9 @@ void paintHeader(QPainter &painter, const Element &element, int width, int heigh
     painter.setFont(textFont(26, true));
     painter.drawText(QPointF(126, 36), element["atome"]);
     painter.setFont(textFont(13));
-    painter.drawText(QPointF(126, 60), QStringLiteral("Atomic number %1").arg(element["nbato"]));
+    painter.drawText(QPointF(126, 60), u"Atomic number %1"_s.arg(element["nbato"]));
     painter.drawText(QRectF(0, 46, width - 18, 18), Qt::AlignRight,
-                     QStringLiteral("%1, %2").arg(element["famille"], element.block()));
+                     u"%1, %2"_s.arg(element["famille"], element.block()));
 }
 
 QImage drawLargeCard(const Element &element)
@@ -202,11 +203,9 @@ QImage drawLargeCard(const Element &element)
     paintShells(painter, element, {345, 204}, 122, 2.6);
 
     const std::array beside{
-        Fact{QStringLiteral("Relative atomic mass"), element["masseato"]},
-        Fact{QStringLiteral("Electron configuration"), {}},
-        Fact{QStringLiteral("Electrons in shells"), shellList(element)},
-        Fact{QStringLiteral("State at 25 °C"), element["etat"]},
-        Fact{QStringLiteral("Crystal structure"), element["cristallo"]},
+        Fact{u"Relative atomic mass"_s, element["masseato"]}, Fact{u"Electron configuration"_s, {}},
+        Fact{u"Electrons in shells"_s, shellList(element)},   Fact{u"State at 25 °C"_s, element["etat"]},
+        Fact{u"Crystal structure"_s, element["cristallo"]},
     };
     double y = Header + 28;
     for (const Fact &fact : beside) {
@@ -216,14 +215,13 @@ QImage drawLargeCard(const Element &element)
     painter.setPen(Ink);
     ScriptText::configuration(element["elecconf"], 14).paint(painter, 18, Header + 28 + 48 + 17);
     const std::array below{
-        Fact{QStringLiteral("Density"), withUnit(element["densite"], QStringLiteral("g/cm³"))},
-        Fact{QStringLiteral("Electronegativity (Pauling)"), element["electroneg"]},
-        Fact{QStringLiteral("Melting point"), temperature(element["melt"])},
-        Fact{QStringLiteral("Boiling point"), temperature(element["boilt"])},
-        Fact{QStringLiteral("First ionisation energy"), withUnit(element["ionis"], QStringLiteral("eV"))},
-        Fact{QStringLiteral("Oxidation states"), element["oxi"]},
-        Fact{QStringLiteral("Radius: covalent / metallic / van der Waals"),
-             withUnit(element["rayon"], QStringLiteral("Å"))},
+        Fact{u"Density"_s, withUnit(element["densite"], u"g/cm³"_s)},
+        Fact{u"Electronegativity (Pauling)"_s, element["electroneg"]},
+        Fact{u"Melting point"_s, temperature(element["melt"])},
+        Fact{u"Boiling point"_s, temperature(element["boilt"])},
+        Fact{u"First ionisation energy"_s, withUnit(element["ionis"], u"eV"_s)},
+        Fact{u"Oxidation states"_s, element["oxi"]},
+        Fact{u"Radius: covalent / metallic / van der Waals"_s, withUnit(element["rayon"], u"Å"_s)},
     };
     y = 345;
     for (int i = 0; i < int(below.size()); ++i) {
@@ -246,12 +244,12 @@ QImage drawSmallSharedCard(const Table &table)
     painter.setPen(Ink);
     painter.setFont(textFont(30, true));
     painter.drawText(QRectF(0, 30, Side, 40), Qt::AlignCenter,
-                     QStringLiteral("%1–%2").arg(LastCard).arg(table.rowCount()));
+                     u"%1–%2"_s.arg(LastCard).arg(table.rowCount()));
     painter.setFont(textFont(13));
-    painter.drawText(QRectF(0, 76, Side, 20), Qt::AlignCenter, QStringLiteral("superheavy"));
+    painter.drawText(QRectF(0, 76, Side, 20), Qt::AlignCenter, u"superheavy"_s);
     painter.setFont(textFont(11, true));
     painter.drawText(QRectF(0, Side - 20, Side, 20), Qt::AlignCenter,
-                     QStringLiteral("Elements %1 to %2").arg(LastCard).arg(table.rowCount()));
+                     u"Elements %1 to %2"_s.arg(LastCard).arg(table.rowCount()));
     return picture;
 }
 
@@ -267,7 +265,7 @@ QImage drawLargeSharedCard(const Table &table)
     painter.setPen(Ink);
     painter.setFont(textFont(26, true));
     painter.drawText(QRectF(18, 0, Side, Header), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("Elements %1 to %2").arg(LastCard).arg(table.rowCount()));
+                     u"Elements %1 to %2"_s.arg(LastCard).arg(table.rowCount()));
     double y = Header + 34;
     for (int row = LastCard - 1; row < table.rowCount(); ++row, y += 29) {
         const Element element = readElement(table, row);
@@ -285,9 +283,9 @@ QImage drawLargeSharedCard(const Table &table)
 
 QList<int> electronsInShells(const QString &configuration)
 {
-    static const QRegularExpression subshell(QStringLiteral("^([1-7])[spdf]([1-9][0-9]?)$"));
+    static const QRegularExpression subshell(u"^([1-7])[spdf]([1-9][0-9]?)$"_s);
     QList<int> shells;
-    for (const QString &part : configuration.split(QLatin1Char(' '))) {
+    for (const QString &part : configuration.split(u' ')) {
         const QRegularExpressionMatch match = subshell.match(part);
         if (!match.hasMatch())
             return {};
@@ -315,14 +313,14 @@ char blockOf(int atomicNumber)
 
 void drawElements(const QString &data, const PictureFolder &pictures)
 {
-    const Table table = Table::read(data + QStringLiteral("/tables/Elements.tsv"));
+    const Table table = Table::read(data + u"/tables/Elements.tsv"_s);
     if (table.rowCount() < LastCard)
-        table.fail(table.rowCount() - 1, QStringLiteral("the table ends before element %1").arg(LastCard));
+        table.fail(table.rowCount() - 1, u"the table ends before element %1"_s.arg(LastCard));
     for (int row = 0; row < LastCard - 1; ++row) {
         const Element element = readElement(table, row);
-        pictures.write(QStringLiteral("elements/%1.jpg").arg(element.number()), drawSmallCard(element));
-        pictures.write(QStringLiteral("elements/%1b.jpg").arg(element.number()), drawLargeCard(element));
+        pictures.write(u"elements/%1.jpg"_s.arg(element.number()), drawSmallCard(element));
+        pictures.write(u"elements/%1b.jpg"_s.arg(element.number()), drawLargeCard(element));
     }
-    pictures.write(QStringLiteral("elements/%1.jpg").arg(LastCard), drawSmallSharedCard(table));
-    pictures.write(QStringLiteral("elements/%1b.jpg").arg(LastCard), drawLargeSharedCard(table));
+    pictures.write(u"elements/%1.jpg"_s.arg(LastCard), drawSmallSharedCard(table));
+    pictures.write(u"elements/%1b.jpg"_s.arg(LastCard), drawLargeSharedCard(table));
 }

@@ -8,6 +8,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Property
@@ -46,9 +48,9 @@ void paintCaptions(QPainter &painter)
     painter.setPen(SoftInk);
     painter.setFont(textFont(Type * 9 / 10));
     const QRectF above(2, 2, Width - 4, Type * 1.4);
-    painter.drawText(above, Qt::AlignLeft, QStringLiteral("1st base"));
-    painter.drawText(above, Qt::AlignHCenter, QStringLiteral("2nd base"));
-    painter.drawText(above, Qt::AlignRight, QStringLiteral("3rd base"));
+    painter.drawText(above, Qt::AlignLeft, u"1st base"_s);
+    painter.drawText(above, Qt::AlignHCenter, u"2nd base"_s);
+    painter.drawText(above, Qt::AlignRight, u"3rd base"_s);
 }
 
 void paintLegend(QPainter &painter)
@@ -63,7 +65,7 @@ void paintLegend(QPainter &painter)
         x += Type + 4 + QFontMetricsF(painter.font()).horizontalAdvance(name) + Type * 0.7;
     }
     painter.setFont(textFont(painter.font().pixelSize(), true));
-    painter.drawText(QPointF(x, LegendTop + Type * 0.85), QStringLiteral("AUG start"));
+    painter.drawText(QPointF(x, LegendTop + Type * 0.85), u"AUG start"_s);
 }
 
 QImage drawTable()
@@ -84,6 +86,6 @@ QImage drawTable()
 void drawGeneticCode(const QString &, const PictureFolder &pictures)
 {
     const QImage table = drawTable();
-    pictures.write(QStringLiteral("img/gene_c.jpg"), table);
-    pictures.write(QStringLiteral("img/gene_ng.jpg"), inGreys(table));
+    pictures.write(u"img/gene_c.jpg"_s, table);
+    pictures.write(u"img/gene_ng.jpg"_s, inGreys(table));
 }

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace ChartGeometry;
@@ -41,7 +43,7 @@ QString within(const QString &group, const QString &motif)
 {
     if (group == motif)
         return {};
-    return group.startsWith(motif + QStringLiteral(", ")) ? group.mid(motif.size() + 2) : group;
+    return group.startsWith(motif + u", "_s) ? group.mid(motif.size() + 2) : group;
 }
 
 Band readBand(const Table &table, int row)
@@ -51,13 +53,13 @@ Band readBand(const Table &table, int row)
     band.low = table.number(row, "low");
     band.high = table.number(row, "high");
     band.bond = cell("bond_colour");
-    band.colour = QColor(QLatin1Char('#') + cell("colour_rgb"));
+    band.colour = QColor(u'#' + cell("colour_rgb"));
     band.row = row;
     if (!band.colour.isValid() || band.low > band.high || band.low < 0 || band.high > 4000)
-        table.fail(row, QStringLiteral("the band has no colour or lies off the scale"));
+        table.fail(row, u"the band has no colour or lies off the scale"_s);
     const QString group = within(cell("group"), cell("item"));
-    band.text = (group.isEmpty() ? group : group + QStringLiteral(": ")) + cell("molec") +
-                QStringLiteral(", ") + cell("wave") + QStringLiteral(" ") + cell("intensity");
+    band.text = (group.isEmpty() ? group : group + u": "_s) + cell("molec") + u", "_s + cell("wave") +
+                u" "_s + cell("intensity");
     return band;
 }
 
@@ -74,7 +76,7 @@ QList<Section> readSections(const Table &motifs, const Table &bands, const QStri
                 section.bands << readBand(bands, band);
         }
         if (section.bands.isEmpty())
-            motifs.fail(row, QStringLiteral("no bands for \"%1\"").arg(section.motif));
+            motifs.fail(row, u"no bands for \"%1\""_s.arg(section.motif));
         sections << section;
     }
     return sections;
@@ -110,10 +112,8 @@ void paintAxis(QPainter &painter, double y)
             painter.drawText(QRectF(x - 30, y + 22, 60, 14), Qt::AlignCenter,
                              QString::number(1e4 / number, 'f', 2));
     }
-    painter.drawText(QRectF(IrRight + 8, y + 6, Width - IrRight - 8, 14), Qt::AlignLeft,
-                     QStringLiteral("cm⁻¹"));
-    painter.drawText(QRectF(IrRight - 40, y + 22, Width - IrRight + 38, 14), Qt::AlignRight,
-                     QStringLiteral("λ / µm"));
+    painter.drawText(QRectF(IrRight + 8, y + 6, Width - IrRight - 8, 14), Qt::AlignLeft, u"cm⁻¹"_s);
+    painter.drawText(QRectF(IrRight - 40, y + 22, Width - IrRight + 38, 14), Qt::AlignRight, u"λ / µm"_s);
 }
 
 /// The bar and, beside it on the side with more room, what it is.
@@ -130,7 +130,7 @@ void paintBand(QPainter &painter, const Table &bands, const Band &band, double t
     const bool before = left - 4 > Width - 4 - right;
     const double x = before ? left - Gap - text.width() : right + Gap;
     if (x < 2 || x + text.width() > Width - 2)
-        bands.fail(band.row, QStringLiteral("the chart has no room for \"%1\"").arg(band.text));
+        bands.fail(band.row, u"the chart has no room for \"%1\""_s.arg(band.text));
     painter.setPen(Ink);
     text.paint(painter, x, top + RowHeight - 4);
 }
@@ -140,9 +140,8 @@ double paintLegend(QPainter &painter, const QList<Section> &sections, double y)
 {
     painter.setFont(textFont(11));
     painter.setPen(SoftInk);
-    painter.drawText(QPointF(IrLeft, y),
-                     QStringLiteral("s strong, m medium, w weak, v variable.  Colours: bond "
-                                    "between carbon or hydrogen and"));
+    painter.drawText(QPointF(IrLeft, y), u"s strong, m medium, w weak, v variable.  Colours: bond "
+                                         "between carbon or hydrogen and"_s);
     y += LegendLine;
     double x = IrLeft;
     QStringList shown;
@@ -204,11 +203,10 @@ QImage drawChart(const Table &bands, const QList<Section> &sections)
 
 void drawIrCharts(const QString &data, const PictureFolder &pictures)
 {
-    const Table motifs = Table::read(data + QStringLiteral("/drawing/ir_charts.tsv"));
-    const Table bands = Table::read(data + QStringLiteral("/drawing/ir_bands.tsv"));
+    const Table motifs = Table::read(data + u"/drawing/ir_charts.tsv"_s);
+    const Table bands = Table::read(data + u"/drawing/ir_bands.tsv"_s);
     for (int group = 1; group <= 6; ++group) {
         const QString number = QString::number(group);
-        pictures.write(QStringLiteral("ir/%1.gif").arg(number),
-                       drawChart(bands, readSections(motifs, bands, number)));
+        pictures.write(u"ir/%1.gif"_s.arg(number), drawChart(bands, readSections(motifs, bands, number)));
     }
 }

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Site = Lattice::Site;
@@ -78,24 +80,24 @@ void addFaceCentres(Lattice &cell)
 
 Lattice bodyCentred()
 {
-    Lattice cell = cubic("Body-centered cubic",
-                         QStringLiteral("2 atoms in the cell, 8 nearest neighbours, space filled to 68 %"));
+    Lattice cell =
+        cubic("Body-centered cubic", u"2 atoms in the cell, 8 nearest neighbours, space filled to 68 %"_s);
     cell.spheres << Lattice::Sphere{at(cell, .5F, .5F, .5F), Site::Centre};
     return cell;
 }
 
 Lattice faceCentred()
 {
-    Lattice cell = cubic("Face-centered cubic",
-                         QStringLiteral("4 atoms in the cell, 12 nearest neighbours, space filled to 74 %"));
+    Lattice cell =
+        cubic("Face-centered cubic", u"4 atoms in the cell, 12 nearest neighbours, space filled to 74 %"_s);
     addFaceCentres(cell);
     return cell;
 }
 
 Lattice diamond()
 {
-    Lattice cell = cubic("Diamond cubic",
-                         QStringLiteral("8 atoms in the cell, 4 nearest neighbours, space filled to 34 %"));
+    Lattice cell =
+        cubic("Diamond cubic", u"8 atoms in the cell, 4 nearest neighbours, space filled to 34 %"_s);
     addFaceCentres(cell);
     const QList<Lattice::Sphere> outer = cell.spheres;
     for (const QVector3D &inner : {at(cell, .25F, .25F, .25F), at(cell, .75F, .75F, .25F),
@@ -129,18 +131,18 @@ Lattice hexagonal(const char *name, const QString &note, const QString &layers)
     }
     for (int layer = 0; layer < layers.size(); ++layer) {
         const float w = float(layer) / float(layers.size() - 1);
-        if (layers[layer] == QLatin1Char('A')) {
+        if (layers[layer] == u'A') {
             cell.spheres << Lattice::Sphere{axis + cell.c * w, Site::Corner};
             for (int i = 0; i < 6; ++i)
                 cell.spheres << Lattice::Sphere{rim(i, w), Site::Corner};
             continue;
         }
         // Three hollows of the layer below: every second one of the six around the axis.
-        const int first = layers[layer] == QLatin1Char('B') ? 30 : 90;
+        const int first = layers[layer] == u'B' ? 30 : 90;
         for (int angle = first; angle < 360; angle += 120) {
             const QVector3D hollow(std::cos(radians(float(angle))), std::sin(radians(float(angle))), 0);
             cell.spheres << Lattice::Sphere{axis + hollow / std::sqrt(3.F) + cell.c * w,
-                                            layers[layer] == QLatin1Char('B') ? Site::Centre : Site::Inner};
+                                            layers[layer] == u'B' ? Site::Centre : Site::Inner};
         }
     }
     return cell;
@@ -148,8 +150,8 @@ Lattice hexagonal(const char *name, const QString &note, const QString &layers)
 
 Lattice rhombohedral()
 {
-    Lattice cell = emptyCell("Rhombohedral", AllEqual, QStringLiteral("α = β = γ ≠ 90°"),
-                             QStringLiteral("Lattice points only; the number of atoms differs"), {1, 1, 1});
+    Lattice cell = emptyCell("Rhombohedral", AllEqual, u"α = β = γ ≠ 90°"_s,
+                             u"Lattice points only; the number of atoms differs"_s, {1, 1, 1});
     // Three equal axes, 102° between each two.
     const float cosine = std::cos(radians(102));
     const float sine = std::sin(radians(102));
@@ -161,26 +163,21 @@ Lattice rhombohedral()
 
 QList<Lattice> allLattices()
 {
-    const QString points = QStringLiteral("Lattice points only; the number of atoms differs");
+    const QString points = u"Lattice points only; the number of atoms differs"_s;
     return {
         bodyCentred(),
         faceCentred(),
         diamond(),
-        cubic("Simple cubic",
-              QStringLiteral("1 atom in the cell, 6 nearest neighbours, space filled to 52 %")),
+        cubic("Simple cubic", u"1 atom in the cell, 6 nearest neighbours, space filled to 52 %"_s),
         pointCell(emptyCell("Cubic", AllEqual, Right,
-                            QStringLiteral("Lattice points only; large cell (58 atoms in α-manganese)"),
-                            {1, 1, 1})),
-        hexagonal("Hexagonal",
-                  QStringLiteral("Close packing, layers AB; in C, Se and Te the atoms lie otherwise"),
-                  QStringLiteral("ABA")),
-        hexagonal("Double hexagonal",
-                  QStringLiteral("Close packing, layers ABAC: 4 atoms in the cell, 12 neighbours"),
-                  QStringLiteral("ABACA")),
+                            u"Lattice points only; large cell (58 atoms in α-manganese)"_s, {1, 1, 1})),
+        hexagonal("Hexagonal", u"Close packing, layers AB; in C, Se and Te the atoms lie otherwise"_s,
+                  u"ABA"_s),
+        hexagonal("Double hexagonal", u"Close packing, layers ABAC: 4 atoms in the cell, 12 neighbours"_s,
+                  u"ABACA"_s),
         pointCell(emptyCell("Tetragonal", TwoEqual, Right, points, {.85F, .85F, 1.2F})),
         pointCell(emptyCell("Orthorhombic", NoneEqual, Right, points, {.75F, .95F, 1.2F})),
-        pointCell(emptyCell("Monoclinic", NoneEqual, QStringLiteral("α = γ = 90° ≠ β"), points,
-                            {.8F, .95F, 1.15F}, 110)),
+        pointCell(emptyCell("Monoclinic", NoneEqual, u"α = γ = 90° ≠ β"_s, points, {.8F, .95F, 1.15F}, 110)),
         rhombohedral(),
     };
 }

@@ -15,6 +15,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using RDKit::Atom;
@@ -75,11 +77,11 @@ QString withoutSurroundings(const QString &pattern)
     QString flat;
     int depth = 0;
     for (int i = 0; i < pattern.size(); ++i) {
-        if (pattern.mid(i, 2) == QLatin1String("$(") || (depth > 0 && pattern[i] == QLatin1Char('(')))
+        if (pattern.mid(i, 2) == QLatin1String("$(") || (depth > 0 && pattern[i] == u'('))
             ++depth;
         if (depth == 0)
             flat += pattern[i];
-        if (depth > 0 && pattern[i] == QLatin1Char(')'))
+        if (depth > 0 && pattern[i] == u')')
             --depth;
         if (depth > 0 && pattern.mid(i, 2) == QLatin1String("$("))
             ++i;
@@ -91,7 +93,7 @@ QString withoutSurroundings(const QString &pattern)
 bool demands(const QString &pattern, const char *surroundings)
 {
     const qsizetype at = pattern.indexOf(QLatin1String(surroundings));
-    return at == 0 || (at > 0 && pattern[at - 1] != QLatin1Char('!'));
+    return at == 0 || (at > 0 && pattern[at - 1] != u'!');
 }
 
 std::optional<Description> describe(const Atom *atom)
@@ -108,7 +110,7 @@ std::optional<Description> describe(const Atom *atom)
             return description;
         }
     }
-    static const QRegularExpression element(QStringLiteral("^\\[?(?:#([0-9]+)|([A-Z][a-z]?|[cnos]))"));
+    static const QRegularExpression element(u"^\\[?(?:#([0-9]+)|([A-Z][a-z]?|[cnos]))"_s);
     const QRegularExpressionMatch match = element.match(flat);
     if (!match.hasMatch())
         return std::nullopt;
@@ -120,7 +122,7 @@ std::optional<Description> describe(const Atom *atom)
         description.element = RDKit::PeriodicTable::getTable()->getAtomicNumber(
             (symbol[0].toUpper() + symbol.mid(1)).toStdString());
     }
-    static const QRegularExpression hydrogens(QStringLiteral("(!?)H([0-9]?)"));
+    static const QRegularExpression hydrogens(u"(!?)H([0-9]?)"_s);
     auto counts = hydrogens.globalMatch(flat);
     while (counts.hasNext()) {
         const QRegularExpressionMatch count = counts.next();
@@ -129,12 +131,12 @@ std::optional<Description> describe(const Atom *atom)
         description.hydrogens =
             description.hasHydrogenCount() ? std::min(description.hydrogens, number) : number;
     }
-    static const QRegularExpression connections(QStringLiteral("X([0-9])"));
+    static const QRegularExpression connections(u"X([0-9])"_s);
     if (const auto found = connections.match(flat); found.hasMatch())
         description.connections = found.captured(1).toInt();
     if (description.element == 7 && description.aromatic && atom->getDegree() == 1)
         description.label = flat.contains(QLatin1String("r6")) ? "N(pyridinium)" : "N(azole)";
-    description.charge = flat.contains(QLatin1Char('+')) && !flat.contains(QLatin1Char(',')) ? 1 : 0;
+    description.charge = flat.contains(u'+') && !flat.contains(u',') ? 1 : 0;
     return description;
 }
 

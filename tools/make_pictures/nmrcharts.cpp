@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace ChartGeometry;
@@ -54,22 +56,22 @@ struct Motif
 
 QString minusSign(QString text)
 {
-    return text.replace(QLatin1Char('-'), QStringLiteral("−"));
+    return text.replace(u'-', u"−"_s);
 }
 
 /// The parts of a note that a user of the chart should know, without those that the chart says anyway.
 QString remarkOf(const QString &note)
 {
-    static const QRegularExpression known(QStringLiteral(
-        "^(percentiles|min / median|few data|overview row|[0-9]+ outlier|[0-9]+ value\\(s\\)|narrowed: )"));
+    static const QRegularExpression known(
+        u"^(percentiles|min / median|few data|overview row|[0-9]+ outlier|[0-9]+ value\\(s\\)|narrowed: )"_s);
     QStringList parts;
-    for (const QString &part : note.split(QStringLiteral("; "))) {
+    for (const QString &part : note.split(u"; "_s)) {
         if (part.startsWith(QLatin1String("narrowed: ")))
             parts << part.mid(10);
         else if (!part.contains(known))
             parts << part;
     }
-    QString remark = parts.join(QStringLiteral("; "));
+    QString remark = parts.join(u"; "_s);
     if (!remark.isEmpty())
         remark[0] = remark[0].toUpper();
     return remark;
@@ -96,7 +98,7 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
             motif.observations = int(table.number(row, "n"));
         if (!motif.isOverview() &&
             !(motif.range.low <= motif.range.typical && motif.range.typical <= motif.range.high))
-            table.fail(row, QStringLiteral("the typical shift lies outside its range"));
+            table.fail(row, u"the typical shift lies outside its range"_s);
         if (const int note = notes.find("row", QString::number(row + 1)); note >= 0)
             motif.remark = remarkOf(notes.cell(note, "note"));
         motifs << motif;
@@ -106,12 +108,12 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
 
 QString basis(const Motif &motif)
 {
-    const QString few = motif.observations < FewObservations ? QStringLiteral(" (few data)") : QString();
+    const QString few = motif.observations < FewObservations ? u" (few data)"_s : QString();
     if (motif.observations == 0)
-        return QStringLiteral("general correlation values, not from a set of spectra");
+        return u"general correlation values, not from a set of spectra"_s;
     if (motif.observations < ExtremesOnly)
-        return QStringLiteral("lowest to highest of %1 observations").arg(motif.observations) + few;
-    return QStringLiteral("2.5 to 97.5 percentile of %1 observations").arg(motif.observations) + few;
+        return u"lowest to highest of %1 observations"_s.arg(motif.observations) + few;
+    return u"2.5 to 97.5 percentile of %1 observations"_s.arg(motif.observations) + few;
 }
 
 /// Lines of a formula text, one below the other; gives the ordinate below the last one.
@@ -137,7 +139,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
     painter.setPen(SoftInk);
     painter.setFont(textFont(10));
     painter.drawText(QRectF(0, height - 14, 310, 14), Qt::AlignCenter,
-                     QStringLiteral("R carbon group, Ar aromatic ring, wavy bond any group or H"));
+                     u"R carbon group, Ar aromatic ring, wavy bond any group or H"_s);
 
     const QRectF texts(316, 10, Width - 316 - 8, height - 10);
     painter.setPen(Ink);
@@ -147,15 +149,13 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
     double y = texts.top() + lines * 19 + 34;
     painter.setPen(classColour(motif.group).darker(115));
     painter.setFont(textFont(28, true));
-    painter.drawText(QPointF(texts.left(), y), QStringLiteral("δ %1").arg(motif.typicalText));
-    const double wide =
-        QFontMetricsF(painter.font()).horizontalAdvance(QStringLiteral("δ %1 ").arg(motif.typicalText));
+    painter.drawText(QPointF(texts.left(), y), u"δ %1"_s.arg(motif.typicalText));
+    const double wide = QFontMetricsF(painter.font()).horizontalAdvance(u"δ %1 "_s.arg(motif.typicalText));
     painter.setFont(textFont(14));
-    painter.drawText(QPointF(texts.left() + wide, y), QStringLiteral("ppm (typical)"));
+    painter.drawText(QPointF(texts.left() + wide, y), u"ppm (typical)"_s);
     y += 24;
     painter.setPen(Ink);
-    painter.drawText(QPointF(texts.left(), y),
-                     QStringLiteral("Range %1 to %2 ppm").arg(motif.lowText, motif.highText));
+    painter.drawText(QPointF(texts.left(), y), u"Range %1 to %2 ppm"_s.arg(motif.lowText, motif.highText));
     painter.setPen(SoftInk);
     painter.setFont(textFont(11));
     QStringList small = wrapped(basis(motif), painter.font(), int(texts.width()));
@@ -209,7 +209,7 @@ void paintCount(QPainter &painter, int observations, double top, double height)
     painter.setFont(textFont(11));
     painter.drawText(QRectF(BarsRight, top, CountRight - BarsRight, height),
                      Qt::AlignRight | Qt::AlignVCenter,
-                     observations > 0 ? QString::number(observations) : QStringLiteral("–"));
+                     observations > 0 ? QString::number(observations) : u"–"_s);
 }
 
 void paintColumnTitles(QPainter &painter, const QString &title, double y)
@@ -219,7 +219,7 @@ void paintColumnTitles(QPainter &painter, const QString &title, double y)
     painter.setPen(SoftInk);
     painter.setFont(textFont(11));
     painter.drawText(QRectF(BarsRight, y - 12, CountRight - BarsRight, 16), Qt::AlignRight | Qt::AlignVCenter,
-                     QStringLiteral("n"));
+                     u"n"_s);
 }
 
 QImage drawMotifChart(const Nucleus &nucleus, const QList<Motif> &motifs, const Motif &motif,
@@ -284,9 +284,8 @@ QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &o
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(SoftInk);
     painter.setFont(textFont(11));
-    painter.drawText(QPointF(NameLeft, 18),
-                     QStringLiteral("Bar: 2.5 to 97.5 percentile of n observations.  Mark: "
-                                    "typical value (median)."));
+    painter.drawText(QPointF(NameLeft, 18), u"Bar: 2.5 to 97.5 percentile of n observations.  Mark: "
+                                            "typical value (median)."_s);
     paintColumnTitles(painter, {}, RowsTop - 6);
     axis.paintGrid(painter, RowsTop, rowsBottom);
     for (int i = 0; i < rows.size(); ++i) {
@@ -318,22 +317,22 @@ QList<int> rowsOfOverview(const Table &classes, const Nucleus &nucleus, int posi
 void drawCharts(const Nucleus &nucleus, const QString &data, const PictureFolder &pictures)
 {
     const Table table = Table::read(data + QString::fromLatin1(nucleus.table));
-    const Table classes = Table::read(data + QStringLiteral("/drawing/nmr_overview.tsv"));
+    const Table classes = Table::read(data + u"/drawing/nmr_overview.tsv"_s);
 
     const QList<Motif> motifs = readMotifs(nucleus, data, table);
     int overviews = 0;
     for (const Motif &motif : motifs) {
-        const QString name = QString::fromLatin1(nucleus.folder) + QStringLiteral("/%1.gif");
+        const QString name = QString::fromLatin1(nucleus.folder) + u"/%1.gif"_s;
         if (motif.isOverview()) {
             const QList<int> rows = rowsOfOverview(classes, nucleus, ++overviews);
             if (rows.isEmpty() || overviews != motif.row + 1)
-                table.fail(motif.row, QStringLiteral("an overview row without classes or below a motif row"));
+                table.fail(motif.row, u"an overview row without classes or below a motif row"_s);
             pictures.write(name.arg(999 + overviews), drawOverview(classes, rows, motif));
             continue;
         }
         const std::optional<Formula> formula = motifFormula(motif.smarts, {20, 13});
         if (!formula)
-            table.fail(motif.row, QStringLiteral("\"%1\" cannot be drawn").arg(motif.smarts));
+            table.fail(motif.row, u"\"%1\" cannot be drawn"_s.arg(motif.smarts));
         pictures.write(name.arg(motif.row + 2 - overviews), drawMotifChart(nucleus, motifs, motif, *formula));
     }
 }

@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char Typeface[] = "DejaVu Sans";
@@ -17,7 +19,7 @@ constexpr char Typeface[] = "DejaVu Sans";
 void requireTypeface()
 {
     if (!QFontDatabase::families().contains(QLatin1String(Typeface)))
-        throw BuildError(QStringLiteral("the typeface %1 is not installed").arg(QLatin1String(Typeface)));
+        throw BuildError(u"the typeface %1 is not installed"_s.arg(QLatin1String(Typeface)));
 }
 
 QFont textFont(int pixels, bool bold)
@@ -51,8 +53,8 @@ QStringList wrapped(const QString &text, const QFont &font, int width)
 {
     const QFontMetricsF metrics(font);
     QStringList lines(QString{});
-    for (const QString &word : text.split(QLatin1Char(' '))) {
-        const QString longer = lines.last().isEmpty() ? word : lines.last() + QLatin1Char(' ') + word;
+    for (const QString &word : text.split(u' ')) {
+        const QString longer = lines.last().isEmpty() ? word : lines.last() + u' ' + word;
         if (lines.last().isEmpty() || metrics.horizontalAdvance(longer) <= width)
             lines.last() = longer;
         else
@@ -63,13 +65,12 @@ QStringList wrapped(const QString &text, const QFont &font, int width)
 
 ScriptText ScriptText::formula(const QString &text, int pixels, bool bold)
 {
-    static const QRegularExpression position(
-        QStringLiteral("(?<![^ (])[CEHN][0-9]+(?![0-9A-Za-z])|(?<=\\bS)N[12]\\b"));
+    static const QRegularExpression position(u"(?<![^ (])[CEHN][0-9]+(?![0-9A-Za-z])|(?<=\\bS)N[12]\\b"_s);
     return {text, textFont(pixels, bold), pixels * 0.2, [](const QString &whole, int digit) {
                 const QRegularExpressionMatch match = position.match(whole, digit - 1);
                 const bool isPosition = match.hasMatch() && match.capturedStart() == digit - 1;
                 const QChar before = whole[digit - 1];
-                return (before.isLetter() && !isPosition) || before == QLatin1Char(')');
+                return (before.isLetter() && !isPosition) || before == u')';
             }};
 }
 

@@ -14,6 +14,8 @@
 #include <gif_lib.h>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int GifColours = 256;
@@ -118,13 +120,13 @@ QByteArray encodeGif(const QImage &picture)
         ok = EGifPutLine(file, const_cast<GifPixelType *>(indexed.constScanLine(y)), width) == GIF_OK;
     const bool closed = EGifCloseFile(file, &error) == GIF_OK;
     if (!ok || !closed)
-        throw BuildError(QStringLiteral("the picture cannot be written as GIF"));
+        throw BuildError(u"the picture cannot be written as GIF"_s);
     return bytes;
 }
 
 void PictureFolder::write(const QString &name, const QImage &picture) const
 {
-    const QString path = m_root + QLatin1Char('/') + name;
+    const QString path = m_root + u'/' + name;
     const QByteArray format = QFileInfo(name).suffix().toLatin1();
     const QByteArray bytes = format == "gif" ? encodeGif(picture) : encodeByQt(picture, format);
 
@@ -136,6 +138,6 @@ void PictureFolder::write(const QString &name, const QImage &picture) const
     QDir().mkpath(QFileInfo(path).path());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw BuildError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw BuildError(u"%1: %2"_s.arg(path, file.errorString()));
     ++m_written;
 }

@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Width = 313; // the size that the reports state
@@ -38,10 +40,8 @@ void paintArrow(QPainter &painter)
                                   QPointF(18, Bottom - 18)});
     painter.setPen(Ink);
     painter.setFont(textFont(11, true));
-    painter.drawText(QRectF(6, Top - 20, 90, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("Non polar"));
-    painter.drawText(QRectF(6, Bottom + 3, 90, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("Polar"));
+    painter.drawText(QRectF(6, Top - 20, 90, 16), Qt::AlignLeft | Qt::AlignVCenter, u"Non polar"_s);
+    painter.drawText(QRectF(6, Bottom + 3, 90, 16), Qt::AlignLeft | Qt::AlignVCenter, u"Polar"_s);
 }
 
 void paintRung(QPainter &painter, int rung, const Polarity &polarity)
@@ -73,7 +73,7 @@ QImage drawLadder()
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Ink);
     painter.setFont(textFont(14, true));
-    painter.drawText(QRectF(0, 6, Width, 20), Qt::AlignCenter, QStringLiteral("Relative polarities"));
+    painter.drawText(QRectF(0, 6, Width, 20), Qt::AlignCenter, u"Relative polarities"_s);
     paintArrow(painter);
 
     for (std::size_t rung = 0; rung < Polarities.size(); ++rung)
@@ -87,6 +87,6 @@ QImage drawLadder()
 void drawPolarity(const QString &, const PictureFolder &pictures)
 {
     const QImage ladder = drawLadder();
-    pictures.write(QStringLiteral("img/polarite_c.jpg"), ladder);
-    pictures.write(QStringLiteral("img/polarite_ng.jpg"), inGreys(ladder));
+    pictures.write(u"img/polarite_c.jpg"_s, ladder);
+    pictures.write(u"img/polarite_ng.jpg"_s, inGreys(ladder));
 }

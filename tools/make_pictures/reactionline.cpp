@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double SignMargin = 5; // left and right of a sign
@@ -19,7 +21,7 @@ constexpr double ShortestArrow = 34;
 std::optional<ReactionLine> ReactionLine::layOut(const QString &smiles, const QString &conditions,
                                                  double width, const Formula::Style &style)
 {
-    const QStringList sides = smiles.split(QStringLiteral(">>"));
+    const QStringList sides = smiles.split(u">>"_s);
     if (sides.size() != 2)
         return std::nullopt;
     ReactionLine reaction(style);
@@ -50,7 +52,7 @@ ReactionLine::Piece ReactionLine::arrow(const QString &conditions) const
     for (const QString &line : lines)
         width = std::max(width, metrics.horizontalAdvance(line) + 16);
     return {Kind::Arrow,
-            lines.join(QLatin1Char('\n')),
+            lines.join(u'\n'),
             {},
             width + 2 * ArrowMargin,
             2 * (lines.size() * metrics.height() + 4)};
@@ -60,7 +62,7 @@ ReactionLine::Piece ReactionLine::arrow(const QString &conditions) const
 /// are broken between groups only.
 bool ReactionLine::addSide(const QString &side, QList<QList<Piece>> &groups) const
 {
-    const QStringList molecules = side.split(QLatin1Char('.'));
+    const QStringList molecules = side.split(u'.');
     for (qsizetype i = 0; i < molecules.size(); ++i) {
         if (molecules.indexOf(molecules[i]) != i)
             continue;
@@ -69,7 +71,7 @@ bool ReactionLine::addSide(const QString &side, QList<QList<Piece>> &groups) con
             return false;
         QList<Piece> group;
         if (i > 0)
-            group << sign(QStringLiteral("+"));
+            group << sign(u"+"_s);
         if (const qsizetype count = molecules.count(molecules[i]); count > 1)
             group << sign(QString::number(count));
         group << Piece{Kind::Molecule, {}, formula, formula->size().width(), formula->size().height()};
@@ -143,7 +145,7 @@ void ReactionLine::paintPiece(QPainter &painter, const Piece &piece, double x, d
     if (piece.text.isEmpty())
         return;
     const double lineHeight = QFontMetricsF(textFont(m_style.fontPixels - 1)).height();
-    const QStringList lines = piece.text.split(QLatin1Char('\n'));
+    const QStringList lines = piece.text.split(u'\n');
     double baseline = middle - 7 - lineHeight * double(lines.size() - 1);
     for (const QString &line : lines) {
         const ScriptText text = ScriptText::formula(line, m_style.fontPixels - 1);

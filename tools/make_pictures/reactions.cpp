@@ -12,6 +12,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace ChartGeometry;
@@ -50,11 +52,11 @@ QList<Reaction> readReactions(const Table &table)
             reactions << Reaction{step, {}};
         } else {
             if (reactions.isEmpty() || int(table.number(row, "step")) != reactions.last().steps.size() + 1)
-                table.fail(row, QStringLiteral("the step is out of order"));
+                table.fail(row, u"the step is out of order"_s);
             reactions.last().steps << step;
         }
         if (table.cell(row, "n") != QString::number(reactions.size()))
-            table.fail(row, QStringLiteral("reaction number %1 is out of order").arg(table.cell(row, "n")));
+            table.fail(row, u"reaction number %1 is out of order"_s.arg(table.cell(row, "n")));
     }
     return reactions;
 }
@@ -64,7 +66,7 @@ ReactionLine layOut(const Table &table, const Step &step, const QString &conditi
 {
     const std::optional<ReactionLine> line = ReactionLine::layOut(step.smiles, conditions, width, style);
     if (!line)
-        table.fail(step.row, QStringLiteral("\"%1\" is not a reaction").arg(step.smiles));
+        table.fail(step.row, u"\"%1\" is not a reaction"_s.arg(step.smiles));
     return *line;
 }
 
@@ -93,7 +95,7 @@ QImage drawEquation(const Table &table, const Step &equation)
                !(unbroken && line.isBroken());
     });
     if (!style)
-        table.fail(equation.row, QStringLiteral("the equation does not fit into its picture"));
+        table.fail(equation.row, u"the equation does not fit into its picture"_s);
     const ReactionLine line = lineAt(*style);
     QImage picture = blankPicture(Width, int(std::ceil(line.height())) + 2 * Margin);
     QPainter painter(&picture);
@@ -165,7 +167,7 @@ QImage drawMechanism(const Table &table, const Reaction &reaction)
                });
     });
     if (!style)
-        table.fail(reaction.equation.row, QStringLiteral("the mechanism does not fit into its picture"));
+        table.fail(reaction.equation.row, u"the mechanism does not fit into its picture"_s);
     const QList<StepBlock> blocks = layOutSteps(table, reaction.steps, *style);
     QImage picture = blankPicture(Width, int(heightOf(blocks)));
     QPainter painter(&picture);
@@ -186,12 +188,12 @@ QImage drawMechanism(const Table &table, const Reaction &reaction)
 
 void drawReactions(const QString &data, const PictureFolder &pictures)
 {
-    const Table table = Table::read(data + QStringLiteral("/drawing/structures_reactions.tsv"));
+    const Table table = Table::read(data + u"/drawing/structures_reactions.tsv"_s);
     const QList<Reaction> reactions = readReactions(table);
     for (int i = 0; i < reactions.size(); ++i) {
         if (reactions[i].steps.isEmpty())
-            table.fail(reactions[i].equation.row, QStringLiteral("the reaction has no mechanism"));
-        pictures.write(QStringLiteral("orga/%1.gif").arg(i + 1), drawEquation(table, reactions[i].equation));
-        pictures.write(QStringLiteral("orga/%1m.gif").arg(i + 1), drawMechanism(table, reactions[i]));
+            table.fail(reactions[i].equation.row, u"the reaction has no mechanism"_s);
+        pictures.write(u"orga/%1.gif"_s.arg(i + 1), drawEquation(table, reactions[i].equation));
+        pictures.write(u"orga/%1m.gif"_s.arg(i + 1), drawMechanism(table, reactions[i]));
     }
 }

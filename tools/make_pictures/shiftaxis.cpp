@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int MostTicks = 10;
@@ -84,12 +86,11 @@ void ShiftAxis::paint(QPainter &painter, double y, bool unit) const
         const double x = std::round(abscissa(tick)) + 0.5;
         painter.drawLine(QPointF(x, y), QPointF(x, y + 4));
         QString text = QString::number(std::abs(tick) < m_step / 2 ? 0 : tick, 'f', decimals);
-        text.replace(QLatin1Char('-'), QStringLiteral("−"));
+        text.replace(u'-', u"−"_s);
         painter.drawText(QRectF(x - 30, y + 5, 60, 14), Qt::AlignCenter, text);
     }
     if (unit)
-        painter.drawText(QRectF(m_right + 24, y + 2, 60, 20), Qt::AlignLeft | Qt::AlignVCenter,
-                         QStringLiteral("δ / ppm"));
+        painter.drawText(QRectF(m_right + 24, y + 2, 60, 20), Qt::AlignLeft | Qt::AlignVCenter, u"δ / ppm"_s);
 }
 
 void ShiftRange::paint(QPainter &painter, const ShiftAxis &axis, double top, double height,

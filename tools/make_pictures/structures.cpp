@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Formula::Style Scale{18, 13};
@@ -42,7 +44,7 @@ QList<std::optional<Compound>> readCompounds(const QString &file, const QString 
             continue;
         const std::optional<Formula> formula = Formula::fromSmiles(smiles, Scale);
         if (!formula)
-            table.fail(row, QStringLiteral("\"%1\" is not a structure").arg(smiles));
+            table.fail(row, u"\"%1\" is not a structure"_s.arg(smiles));
         compounds.last() = Compound{table.cell(row, "name"), kind, *formula};
     }
     return compounds;
@@ -119,16 +121,14 @@ QImage drawCompounds(const QList<Compound> &compounds)
 
 void drawStructures(const QString &data, const PictureFolder &pictures)
 {
-    const auto solvents =
-        readCompounds(data + QStringLiteral("/drawing/structures_solvants.tsv"), QStringLiteral("solvent"));
-    const auto acids = readCompounds(data + QStringLiteral("/drawing/structures_acidesamines.tsv"),
-                                     QStringLiteral("amino acid"));
+    const auto solvents = readCompounds(data + u"/drawing/structures_solvants.tsv"_s, u"solvent"_s);
+    const auto acids = readCompounds(data + u"/drawing/structures_acidesamines.tsv"_s, u"amino acid"_s);
     for (int row = 0; row < std::max(solvents.size(), acids.size()); ++row) {
         const auto solvent = solvents.value(row);
         const auto acid = acids.value(row);
-        const QString numbered = QStringLiteral("chemicals/%1.bmp").arg(row + 1);
+        const QString numbered = u"chemicals/%1.bmp"_s.arg(row + 1);
         if (solvent)
-            pictures.write(QStringLiteral("chemicals/%1.bmp").arg(solvent->name), drawCompound(*solvent));
+            pictures.write(u"chemicals/%1.bmp"_s.arg(solvent->name), drawCompound(*solvent));
         // Solvents and amino acids share the numbers; a picture that both lists open shows both.
         if (solvent && acid)
             pictures.write(numbered, drawCompounds({*solvent, *acid}));

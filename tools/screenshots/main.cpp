@@ -12,6 +12,8 @@
 #include <QTabBar>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 // Runs the program, walks through its panes and windows and saves a picture of each:
 // screenshots <program folder> <folder for the pictures> [light|dark [<font family> [<points>]]]
 // Without a palette only the pictures that the folder holds are taken anew: those of the documentation.
@@ -126,7 +128,7 @@ void walk(Form1 &form, const QDir &pictures)
         };
         if (shot.control)
             touch(shown(), shot);
-        take(shown(), pictures.filePath(QLatin1StringView(shot.file) + QStringLiteral(".png")));
+        take(shown(), pictures.filePath(QLatin1StringView(shot.file) + u".png"_s));
         if (SideWindow *window = sideWindow(form))
             window->close();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -153,10 +155,10 @@ int main(int argc, char *argv[])
     if (arguments.size() < 3)
         qFatal("usage: screenshots <program folder> <folder for the pictures> "
                "[light|dark [<font family> [<points>]]]");
-    if (arguments.value(3) == QStringLiteral("dark"))
+    if (arguments.value(3) == u"dark"_s)
         QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a)));
     if (arguments.size() > 4)
-        QApplication::setFont(QFont(arguments[4], arguments.value(5, QStringLiteral("9")).toInt()));
+        QApplication::setFont(QFont(arguments[4], arguments.value(5, u"9"_s).toInt()));
     const QDir pictures(arguments[2]);
 
     // The program's own event loop runs once before the load is through: the pause of the splash.
@@ -165,8 +167,8 @@ int main(int argc, char *argv[])
         Form1 *form = mainWindow();
         if (!form || !form->isVisible())
             return;
-        if (auto *tip = form->findChild<QWidget *>(QStringLiteral("frmTip"))) {
-            take(*tip, pictures.filePath(QStringLiteral("tip.png")));
+        if (auto *tip = form->findChild<QWidget *>(u"frmTip"_s)) {
+            take(*tip, pictures.filePath(u"tip.png"_s));
             tip->close();
         }
         if (!form->isEnabled())
