@@ -56,8 +56,8 @@ const QList<ReportSection> &biomolecules()
     return list;
 }
 
-// Rows without values of their own are the titles of a recipe, the others, indented, its ingredients. The
-// last resolving gel is titled 10 % like the third.
+// Rows without values are the titles of recipes; the others are ingredients and indented. The last resolving
+// gel is titled 10 %, like the third.
 QList<ReportSection> sdsPage(ReportTheme theme)
 {
     static const ReportTable staining{

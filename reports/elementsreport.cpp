@@ -5,7 +5,7 @@
 
 namespace {
 
-// The report ends with element 117, whatever is loaded.
+// The report always ends with element 117.
 constexpr int LastElement = 117;
 
 // Elements from this one on share one picture.
@@ -17,7 +17,7 @@ struct ElementReportColumn
     int column; ///< of `ElementData`
 };
 
-// In an order of its own, not that of the table.
+// Not in the order of the table.
 constexpr ElementReportColumn Columns[] = {
     {{7, "Elements "}, 0},
     {{4, "Symbol "}, 1},
@@ -70,7 +70,8 @@ void writeElements(ReportPage &page, const DataStore &data)
     page.closeTable();
 }
 
-// Isotope, half-life and decay modes. The modes hold Greek letters as the Latin ones of the Symbol typeface.
+// Isotope, half-life and decay modes. Greek letters of the modes are stored as letters of the Symbol
+// typeface.
 void isotopeCells(ReportPage &page, const DataStore &data, int element, int column)
 {
     page.cell(cellOf(data, element, column));
@@ -78,8 +79,8 @@ void isotopeCells(ReportPage &page, const DataStore &data, int element, int colu
     page.cell("<span style='font-family:Symbol'>" + cellOf(data, element, column + 2) + "</span>");
 }
 
-// The first row of an element stays open until the next row closes it. The column behind the last isotope is
-// never filled, it ends the walk.
+// The first row of an element is only closed by the next row. The column after the last isotope is always
+// empty and ends the loop.
 void writeIsotopesOf(ReportPage &page, const DataStore &data, int element)
 {
     int column = ElementColumn::FirstIsotope;

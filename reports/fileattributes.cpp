@@ -15,7 +15,7 @@ int FileAttributes::of(const QString &path)
 
 bool FileAttributes::isLockedElsewhere(const QString &path)
 {
-    // Opening what is no plain file might wait for somebody at its other end.
+    // Opening a pipe might block until its other end is opened.
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return false;

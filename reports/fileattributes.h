@@ -4,21 +4,21 @@
 
 struct Module1;
 
-/// What the save flows ask of a file that is in their way.
+/// Attributes of a file that a save would replace.
 namespace FileAttributes {
 
 inline constexpr int ReadOnly = 1;
 inline constexpr int Archive = 32;
 
-/// `Archive`, and `ReadOnly` besides if its permission bits give its owner no right to write, whoever asks.
-/// 0 for a file that is locked elsewhere.
+/// `Archive`, plus `ReadOnly` if the permission bits give the owner no right to write, whoever the user is. 0
+/// if another process has locked the file.
 int of(const QString &path);
 
-/// Whether another process holds a lock on any part of the file. False for what is no file or cannot be read.
+/// Whether another process has locked any part of the file. False if it is not a file or cannot be read.
 bool isLockedElsewhere(const QString &path);
 
 } // namespace FileAttributes
 
-/// Stores the length of the file in bytes as the `ProbedLength` of @p module, 0 if there is no such file. A
-/// folder has no length.
+/// Stores the length of the file in bytes as the `ProbedLength` of @p module, 0 if there is no such file or
+/// it is a folder.
 void ProbeFileLength(const QString &path, Module1 &module);

@@ -14,8 +14,8 @@ struct StyleRule
     const char *grayscale; ///< null: the same
 };
 
-// The body of Grayscale is white on white; font tags and row classes make it readable. No report uses the
-// rules for links and digits; they stay.
+// The body of Grayscale is white on white; font tags and row classes make it readable. The rules for links
+// and digits are kept although no report uses them.
 constexpr std::array StyleRules{
     StyleRule{"body { background: #4F687D; font-family : Verdana, Arial, Helvetica; color: #FFFFFF }",
               "body { background: #FFFFFF; font-family : Verdana, Arial, Helvetica; color: #FFFFFF }"},
@@ -124,7 +124,7 @@ void ReportPage::headerRow(const QStringList &head)
         line(title);
 }
 
-// Most of a page are rows and cells: straight to bytes.
+// Most of a page is rows and cells, so they are appended without a temporary text.
 void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;

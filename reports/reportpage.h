@@ -9,19 +9,19 @@
 /// The two colour schemes of reports, slot 77 of the options.
 enum class ReportTheme { Colors, Grayscale };
 
-/// A report in the making: the markup that all reports share, line by line, in the theme of the options.
+/// Builds a report line by line from the markup that all reports share, in the theme of the options.
 ///
-/// The result is Windows-1252 with lines ended by CR LF. Texts go into it as they are: a "<" or "&" in the
-/// data is not escaped, and the head of the page declares no character set.
+/// The result is Windows-1252 with CR LF line ends. Texts are not escaped, not even "<" and "&" in the data,
+/// and the head of the page declares no character set.
 ///
-/// A row is closed twice, by itself and by the row after it; the header row is closed by the first data row
-/// alone. Browsers pass over the surplus.
+/// A row is closed twice, by itself and by the next row; the header row only by the first data row. Browsers
+/// ignore the surplus tags.
 class ReportPage final
 {
     Q_DISABLE_COPY_MOVE(ReportPage)
 
 public:
-    /// Reads options, folder and version from @p module and moves its row class on with each row.
+    /// Reads options, folder and version from @p module and switches its row class with each row.
     explicit ReportPage(Module1 &module) : m_module(module) {}
 
     ReportTheme theme() const;
@@ -30,17 +30,17 @@ public:
     /// The first text for `Colors`, the second for `Grayscale`.
     QString byTheme(const QString &colors, const QString &grayscale) const;
 
-    /// From the first line to the rule below the captions. Without a @p subsection its line is left out.
+    /// Everything from the first line to the rule below the captions. An empty @p subsection gets no line.
     void ReportPreamble(const QString &title, const QString &section, const QString &subsection = {});
 
-    /// In some headings `Colors` has no line break; `Grayscale` always has it.
+    /// Some headings have their line break only in `Grayscale`.
     enum class HeadingBreak { Always, GrayscaleOnly };
     void sectionHeading(const QString &heading, HeadingBreak lineBreak = HeadingBreak::Always);
 
-    /// The place of a heading, without one.
+    /// The table of a heading, empty.
     void emptySectionHeading();
 
-    /// The data table up to its header row; @p head are whole title cells.
+    /// Opens the data table and writes its header row. @p head has complete title cells.
     void openTable(const QStringList &head);
     void headerRow(const QStringList &head);
     void startRow();
@@ -64,7 +64,7 @@ private:
     void styleSheet();
     void captions(const QString &section, const QString &subsection);
 
-    /// What colours a caption or a heading, if anything.
+    /// The colour attribute of captions and headings; empty in `Colors`.
     QString fontColour() const;
 
     Module1 &m_module;

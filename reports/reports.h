@@ -3,8 +3,8 @@
 class ReportPage;
 struct DataStore;
 
-/// The reports. Each writes one whole page from the data in memory and the options that the page knows; a
-/// picture goes in as its path alone, whether the file is there or not.
+/// The reports. Each writes one complete page from the data in memory and the options of the page. Pictures
+/// are only referenced; their files need not exist.
 namespace Reports {
 
 void Properties(ReportPage &page, const DataStore &data);

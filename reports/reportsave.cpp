@@ -37,7 +37,7 @@ Report solventReport(int tab)
     }
 }
 
-/// The first that is on show, in this order.
+/// The first visible one, in this order.
 std::optional<Choice> choose(const ReportContext &context)
 {
     const Choice choices[] = {
@@ -87,8 +87,8 @@ void ReportSave::run(const std::function<ReportContext()> &onShow)
     }
 }
 
-// What is on show is asked again behind the dialog. The old file is replaced in place, without a copy of it,
-// and before the report is made: one that cannot be opened leaves the row class where it was.
+// The visible pane may change while the dialog is open, so it is determined again. The file is truncated
+// before the report is made, without a backup: if it cannot be opened, the row class stays as it was.
 void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
 {
     CommonDialog1.choose([&]() -> std::optional<QString> {
@@ -103,7 +103,7 @@ void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
     ReportPage page(m_module);
     choice->report(page, m_data);
     if (file.write(page.bytes()) != page.bytes().size() || !file.flush())
-        throw RuntimeError(ErrorNumber::DiskFull, file.fileName()); // a part that was written sets no error
+        throw RuntimeError(ErrorNumber::DiskFull, file.fileName()); // a partial write sets no error
 }
 
 void ReportSave::tell(const RuntimeError &error)

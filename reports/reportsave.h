@@ -4,8 +4,8 @@
 
 struct DataStore;
 
-/// What is on show in the main window, as far as reports depend on it. A control is on show by its own
-/// setting.
+/// What the main window shows, as far as reports depend on it. Visible means the control's own setting,
+/// whatever its parents are.
 struct ReportContext
 {
     bool frmsolv = false;
@@ -19,7 +19,7 @@ struct ReportContext
     QString solventCaption; ///< and its caption
 };
 
-/// The flow behind the export command: asks for a file and writes the report of what is on show.
+/// The export command: asks for a file and writes the report of the visible pane.
 class ReportSave final
 {
 public:
@@ -28,10 +28,10 @@ public:
     /// Whether the export command has a report for what is shown.
     static bool isThereOneFor(const ReportContext &shown);
 
-    /// Shows the dialog, with its questions, and writes the file, replacing what was in it. Success is
-    /// silent. A file that is in use or may not be written is told; any other failure is silent and leaves
-    /// what was written so far. With none of the panes on show the dialog comes all the same and nothing is
-    /// written.
+    /// Shows the dialog, with its questions, and writes the file, replacing its contents. Success is silent.
+    /// A message reports a file that is in use or may not be written; any other failure is silent and leaves
+    /// the file as far as it was written. If none of the panes is visible, the dialog still appears, but
+    /// nothing is written.
     void run(const std::function<ReportContext()> &onShow);
 
 private:

@@ -9,19 +9,19 @@
 class ReportPage;
 struct RowLists;
 
-/// Width of the column in per cent of the table and its title, blanks at the end included.
+/// Width of the column in per cent of the table, and its title with its trailing blanks.
 struct ReportColumn
 {
     int width;
     const char *title; ///< UTF-8
 };
 
-/// The title cell of one column; with @p attribute its tag holds that behind the width.
+/// The title cell of a column. @p attribute is added to its tag, after the width.
 QString titleCell(const ReportColumn &column, const QString &attribute = {});
 
 QStringList titleCells(const QList<ReportColumn> &columns);
 
-/// What may be asked of a row, from 0, of a list.
+/// A condition on a row of a list; rows count from 0.
 using RowTest = bool (*)(const RowList &list, int row);
 
 bool lacksText(const RowList &list, int row);
@@ -33,12 +33,12 @@ bool lacks(const RowList &list, int row)
     return (list.cell(row, Numbers).isEmpty() && ...);
 }
 
-/// How a list becomes a data table. Sub-items beyond those named are not written.
+/// How to write a list as a data table. Further sub-items are not written.
 struct ReportTable
 {
     QStringList head;            ///< title cells
-    int subItems;                ///< written behind the row's text, from 1
-    RowTest isSkipped = nullptr; ///< null: no row. A skipped row leaves the row class alone
+    int subItems;                ///< how many are written after the text of the row
+    RowTest isSkipped = nullptr; ///< null: no row. A skipped row does not switch the row class
     RowTest isPlain = nullptr;   ///< rows whose first cell is not indented; null: all
 
     ReportTable(QStringList titles, int lastSubItem, RowTest skipped = nullptr, RowTest plain = nullptr)
@@ -53,7 +53,7 @@ struct ReportTable
 
 void writeTable(ReportPage &page, const RowList &list, const ReportTable &table);
 
-/// A table under a heading of its own, the line break in it.
+/// A table under its own heading, which ends with a line break.
 struct ReportSection
 {
     const char *heading; ///< UTF-8

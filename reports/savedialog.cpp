@@ -30,7 +30,7 @@ bool SaveDialog::mayReplace(int questionStyle)
     if (m_desktop.messageBox(question, questionStyle) != Desktop::Yes)
         return false;
 
-    // Judged as whole numbers: a file without the archive bit is in use, whatever else is true of it.
+    // Compared as whole numbers: a file without the archive bit counts as in use.
     switch (attributes) {
     case FileAttributes::ReadOnly + FileAttributes::Archive:
         m_desktop.messageBox("Impossible to save '" + m_fileName +

@@ -7,15 +7,15 @@
 
 struct Module1;
 
-/// A kind of file in the save dialog. A name that ends in the suffix of one of the globs stays as it is, any
-/// other gets the suffix of the first; case counts.
+/// A kind of file in the save dialog. A name that ends with the suffix of one of the globs is kept; any other
+/// gets the suffix of the first. Suffixes are case-sensitive.
 struct SavedKind
 {
     QString name;      ///< "Page Web"
     QStringList globs; ///< {"*.htm", "*.html"}
 };
 
-/// The save dialog of a window, `CommonDialog1`, with the questions about a file that is there already.
+/// The save dialog of a window, `CommonDialog1`, with its questions about existing files.
 class SaveDialog final
 {
     Q_DISABLE_COPY_MOVE(SaveDialog)
@@ -27,15 +27,15 @@ public:
         : m_kind(std::move(kind)), m_module(module), m_desktop(desktop)
     {}
 
-    /// Shows the dialog again and again until its file may be written: there is none, it is empty, or the
-    /// user agrees to replace it and it is neither read-only nor in use. The path is FileName() then.
-    /// Cancelling is the only other way out: RuntimeError 32755.
+    /// Repeats the dialog until the chosen file can be written: it does not exist, it is empty, or the user
+    /// agrees to replace it and it is neither read-only nor in use. FileName() is its path then. RuntimeError
+    /// 32755 if the user cancels.
     ///
-    /// Each showing offers the name that @p offeredName gives, or, if it gives none, the name chosen last.
+    /// The dialog offers the name that @p offeredName returns, or the last chosen name if it returns none.
     void choose(const std::function<std::optional<QString>()> &offeredName,
                 int questionStyle = QuestionStyle);
 
-    /// What was chosen or offered last.
+    /// The name that was last chosen or offered.
     const QString &FileName() const { return m_fileName; }
 
 private:

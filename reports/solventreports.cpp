@@ -8,7 +8,7 @@ namespace {
 constexpr const char *Solvents = "Solvents - ";
 constexpr const char *Nowrap = " nowrap";
 
-// Mixtures of no one structure.
+// Mixtures, which have no single structure.
 bool hasNoStructure(const QString &solvent)
 {
     static const QStringList ethers{
@@ -28,7 +28,7 @@ QString structureCell(const ReportPage &page, const QString &solvent)
            page.imageSource(R"(\Data\chemicals\)" + solvent + ".bmp") + "></div></td>";
 }
 
-// The columns of the impurities' shifts, the same for both nuclei.
+// The shift columns of the impurities are the same for both nuclei.
 QStringList shiftTitles(const QList<ReportColumn> &first)
 {
     return titleCells(first) + titleCells({{10, "Chloroform "},
@@ -88,7 +88,7 @@ void Reports::Miscibility(ReportPage &page, const DataStore &data)
     page.end();
 }
 
-// Grayscale has two French words.
+// Two words are French in Grayscale.
 void Reports::Nmr(ReportPage &page, const DataStore &data)
 {
     const bool colours = page.theme() == ReportTheme::Colors;

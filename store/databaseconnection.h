@@ -6,7 +6,7 @@
 
 /// The connection to the program's database. It is open during start-up only.
 ///
-/// Opening reads the whole file into memory and lets go of it, so nobody else is kept from the file.
+/// Opening reads the whole file into memory and closes it, so the file is free for other programs.
 class DatabaseConnection final
 {
     Q_DISABLE_COPY_MOVE(DatabaseConnection)
@@ -17,14 +17,14 @@ public:
 
     DatabaseConnection() = default;
 
-    /// @p user is empty or "Admin", the one account of a database without a workgroup. RuntimeError: a number
-    /// of the file system if the file cannot be read, DatabaseFailure if it is no database, is damaged or
-    /// refuses user or password, ObjectOpen if the connection is open already.
+    /// @p user is empty or "Admin", the only account of a database without a workgroup. RuntimeError: a file
+    /// error if the file cannot be read, DatabaseFailure if it is not a database, is damaged or refuses the
+    /// user or the password, ObjectOpen if the connection is already open.
     void Open(const QString &path, const QString &user, const QString &password);
 
     int State() const { return m_file ? StateOpen : StateClosed; }
 
-    /// Closing one that is not open is RuntimeError ObjectClosed. Recordsets that are open stay readable.
+    /// RuntimeError ObjectClosed unless the connection is open. Open recordsets stay readable.
     void Close();
 
     /// RuntimeError ObjectClosed unless the connection is open.

@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// The password of the delivered database. It keeps curious hands off the tables; it is no secret.
+/// The password of the delivered database. It keeps users from editing the tables by accident; it is not a
+/// secret.
 inline constexpr QLatin1StringView DatabasePassword("k3wqj41mz627h05");

@@ -35,7 +35,7 @@ void DatabaseRecovery::ConnectDatabase()
             return;
         offerAfterFailedOpen();
     } catch (const RuntimeError &) {
-        trapped = true; // a failed open, or a failed copy after an open that told nothing: ask (once more)
+        trapped = true; // opening failed, or the copy after an open without an error: ask (again)
     }
     if (trapped)
         offerAfterFailedOpen();

@@ -5,10 +5,11 @@
 class DatabaseConnection;
 class Desktop;
 
-/// Opening the database at start, and the two offers to put the delivered one back.
+/// Opens the database at start, and offers to restore the delivered one if it cannot be opened or lacks a
+/// table.
 ///
-/// Both end the program: on No at once, on Yes after the copy and its message. A copy that fails is the
-/// RuntimeError of copyFileOver, for the caller to report.
+/// Both offers end the program: on No at once, on Yes after the copy and its message. If the copy fails, the
+/// RuntimeError of copyFileOver reaches the caller.
 class DatabaseRecovery final
 {
 public:
@@ -21,7 +22,7 @@ public:
     /// Closes the connection; RuntimeError 3704 if it is not open.
     void DisconnectDatabase();
 
-    /// For a load step whose table is missing. Never returns.
+    /// Called when the table of a load step is missing. Never returns.
     void offerAfterMissingTable();
 
 private:

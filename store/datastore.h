@@ -5,7 +5,7 @@
 
 #include <array>
 
-/// How many rows the load steps read, for the statistics. Steps count from 1.
+/// Number of rows that each load step read, for the statistics. Steps count from 1.
 struct RowTallies final
 {
     std::array<int, 36> rows{};    ///< rows read by step n
@@ -16,13 +16,13 @@ struct RowTallies final
     int irBonds = 0;               ///< rows of `IRvalues` with a frequency
 };
 
-/// All data of a run: filled once at start by LoadTable, read by everybody from then on.
+/// All data of a run. LoadTable fills it at start; panes, searches and reports read it.
 struct DataStore final
 {
     RowLists lists;
     MemoryTables tables;
     RowTallies tallies;
 
-    /// Rows of `Solvants`. Both lists that can be searched use it as their limit.
+    /// Number of rows of `Solvants`. Both searchable lists use it as their limit.
     int SolventCount = 0;
 };

@@ -2,8 +2,7 @@
 
 struct RowLists;
 
-/// Grid lines of all lists, on or off.
+/// Shows or hides the grid lines of all lists.
 ///
-/// Switching on leaves the list of infrared charts, `ListView3(5)`, as it was; switching off includes it. The
-/// asymmetry is meant.
+/// Showing skips the list of infrared charts, `ListView3(5)`; hiding includes it. The asymmetry is intended.
 void ApplyGridLines(RowLists &lists, bool on);

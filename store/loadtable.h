@@ -18,8 +18,8 @@ public:
     /// @p onMissingTable is called when the table of a step is missing.
     TableLoader(DataStore &data, OpenRows openRows, std::function<void()> onMissingTable);
 
-    /// Number of the step in progress, moved on by the caller. It alone decides where the rows go, not the
-    /// statement.
+    /// Number of the current step, advanced by the caller. It alone decides where the rows go; the statement
+    /// does not.
     int LoadCounter = 1;
 
     /// Runs the step of LoadCounter over the rows of @p statement. Reports a missing table through

@@ -28,8 +28,8 @@ private:
     std::array<QString, size_t(Rows) * Columns> m_cells;
 };
 
-/// Columns of `ElementData`, in the order of the table `Elements`. Column 30 is never filled: it ends the
-/// walk over five isotopes.
+/// Columns of `ElementData`, in the order of the table `Elements`. Column 30 is always empty and ends the
+/// loop over the isotopes.
 namespace ElementColumn {
 inline constexpr int Name = 0;
 inline constexpr int Symbol = 1;

@@ -28,7 +28,7 @@ void Recordset::fetch()
     m_atEnd = true;
     if (!m_cursor->next())
         return;
-    m_texts.truncate(0); // and keeps its room
+    m_texts.truncate(0); // keeps the allocated memory
     for (qsizetype index = 0; index < m_columns.size(); ++index) {
         const bool isNull = !m_cursor->appendText(m_columns.at(index), m_texts);
         m_fields[index] = {m_texts.size(), isNull};

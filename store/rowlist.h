@@ -4,12 +4,11 @@
 #include <QObject>
 #include <QString>
 
-/// One list of the system: rows of a text and numbered sub-items, all text, in the order of the table they
-/// come from.
+/// One list of the system. Each row is a text with numbered sub-items, in the order of the source table.
 ///
-/// The rows are the only copy of the data; views show them, searches and reports read them. Rows count from 0
-/// here, where the system counts from 1. The texts lie one behind the other in a single one: tens of
-/// thousands of small ones would take a start longer to make than the file to read.
+/// The rows are the only copy of the data: views, searches and reports all read them. Rows count from 0 here,
+/// where the system counts from 1. All texts are joined into one: creating tens of thousands of small strings
+/// would take longer than reading the file.
 class RowList final : public QObject
 {
     Q_OBJECT
@@ -17,19 +16,19 @@ class RowList final : public QObject
 public:
     int rowCount() const { return int(m_firstCells.size()); }
 
-    /// The row's own text. A row that is not there is RuntimeError 9.
+    /// The text of the row. RuntimeError 9 if there is no such row.
     QString text(int row) const { return cell(row, 0).toString(); }
 
-    /// Sub-item @p number, from 1; empty where the row has none of that number. RuntimeError 9 as above.
+    /// Sub-item @p number, from 1; empty if the row has no such sub-item. RuntimeError 9 as above.
     QString subItem(int row, int number) const { return cell(row, number).toString(); }
 
-    /// The same, 0 for the row's own text, for those who go through all rows. It ends with the next change.
+    /// The same without a copy, with 0 for the text of the row. Valid until the list changes.
     QStringView cell(int row, int number) const;
 
-    /// Filling goes row by row without a signal; filled() tells the views once.
+    /// Adding a row emits no signal; call filled() once at the end to update the views.
     void append(QStringView text);
 
-    /// Sub-items are added to the last row in rising order.
+    /// Adds the next sub-item to the last row.
     void appendSubItem(QStringView text);
 
     void filled() { Q_EMIT reset(); }

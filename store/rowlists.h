@@ -5,12 +5,12 @@
 
 #include <array>
 
-/// The lists that are written as one array, "ListView3(29)", from index 0 on.
+/// An array of lists, "ListView3(29)". Indices start at 0.
 template<size_t Count>
 class RowListArray final
 {
 public:
-    /// An index outside the array is RuntimeError 9.
+    /// RuntimeError 9 for an index outside the array.
     RowList &operator[](int index)
     {
         using namespace Qt::StringLiterals;
@@ -24,16 +24,15 @@ private:
     std::array<RowList, Count> m_lists;
 };
 
-/// Every list of the system under its own name: the one store of the rows that panes, searches and reports
-/// read.
+/// All lists of the system, by name. Panes, searches and reports read their rows from here and nowhere else.
 ///
-/// The drop-downs that are filled from tables stand here too, with a text a row: `Combo2(3)` are the names of
-/// the elements, `Combo2(4)` to `Combo2(9)` the colours of the rings, `Comb2` the amino acids, `Combo4` the
-/// codes.
+/// The drop-downs that are filled from tables are included, with one text for each row: `Combo2(3)` has the
+/// names of the elements, `Combo2(4)` to `Combo2(9)` the colours of the rings, `Comb2` the amino acids,
+/// `Combo4` the codes.
 struct RowLists final
 {
     RowList ListView1;         ///< solvents: properties
-    RowListArray<7> ListView2; ///< 0 to 4 constants; 6 the hits of a search
+    RowListArray<7> ListView2; ///< 0 to 4: constants; 6: the hits of a search
     RowListArray<32> ListView3;
     RowList ListView4;         ///< proton shifts of impurities
     RowList ListView5;         ///< carbon shifts of impurities
@@ -46,7 +45,7 @@ struct RowLists final
     RowList Combo4;
 };
 
-/// The list of that index as a function, for tables that name lists: `ListView3<7>`.
+/// Functions that pick a list by index, for tables of lists: `ListView3<7>`.
 template<int Index, class Lists>
 auto &ListView2(Lists &lists)
 {

@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-/// Rows that come one after another, as a recordset gives them.
+/// Rows that are read one after another, forward only.
 class RowSource
 {
 public:
@@ -10,8 +10,8 @@ public:
 
     virtual bool atEnd() const = 0;
 
-    /// Field @p index of the current row, from 0, as text, until moveNext(). RuntimeError 3021 past the last
-    /// row, 94 for a field without a value.
+    /// Field @p index of the current row, from 0, as text. Valid until moveNext(). RuntimeError 3021 past the
+    /// last row, 94 for a Null field.
     virtual QStringView field(int index) const = 0;
 
     /// RuntimeError 3021 past the last row.

@@ -4,11 +4,11 @@
 #include <QStringList>
 #include <optional>
 
-/// A statement of the one form that the program sends to its database: "SELECT a, b FROM T".
+/// The only form of statement that the program sends to its database: "SELECT a, b FROM T".
 ///
-/// Names are bare, also where a stricter SQL engine would want them quoted (`for`, `group`), and consist of
-/// letters, digits and underscores. Blanks are free. Case stays as written; the database compares names
-/// without it.
+/// Names are never quoted, even those that a stricter SQL engine reserves (`for`, `group`), and consist of
+/// letters, digits and underscores. Extra blanks are allowed. The case of names is kept; the database ignores
+/// it.
 struct SelectStatement
 {
     QStringList columns; ///< in the order of the statement, at least one

@@ -9,11 +9,11 @@
 struct DataStore;
 class RowSource;
 
-/// The 35 steps that load the database: what each asks for and where its rows go. There is no other
-/// definition of the schema.
+/// The 35 steps that load the database: the statement of each and where its rows go. The schema is defined
+/// nowhere else.
 ///
-/// Rows come in the stored order of the table. Nothing in them tells to which list they belong: a table is
-/// cut into groups by row number alone.
+/// Rows come in the stored order of the table. Tables are split into groups by row number alone; the rows
+/// themselves carry no group.
 namespace TableCatalog {
 
 inline constexpr int FirstStep = 1;
@@ -27,16 +27,16 @@ struct Group
     QList<int> fields = {};       ///< for the row's text and its sub-items; empty: all columns in their order
 };
 
-/// What becomes of the rows after the last group.
+/// Where the rows after the last group go.
 enum class Surplus {
     ToFirstGroup,
-    StartsOver, ///< they go through all groups again
+    StartsOver, ///< through all groups again
     Unread,
 };
 
 struct Step
 {
-    const char *statement; ///< as it is sent: `for` and `group` are column names without quotes
+    const char *statement; ///< sent as is: `for` and `group` are unquoted column names
     QList<Group> groups;
     Surplus surplus = Surplus::ToFirstGroup;
     void (*handler)(const RowSource &rows, DataStore &data, int row) = nullptr; ///< @p row counts from 0

@@ -3,11 +3,11 @@
 #include <QByteArrayView>
 #include <QtEndian>
 
-/// Ends the reading of a damaged file: RuntimeError DatabaseFailure, with what is wrong as its subject.
+/// Throws RuntimeError DatabaseFailure for a damaged file, with @p what as its subject.
 [[noreturn]] void jetDamage(const char *what);
 
-/// A view of bytes of a database file; reading outside of it is damage, so no number in a file can lead
-/// astray.
+/// A view of bytes of a database file. Reading outside it is damage, so that no offset in a file can reach
+/// other memory.
 class JetBytes final
 {
 public:

@@ -28,8 +28,8 @@ bool JetCursor::next()
     }
 }
 
-// The slot where a moved row lies is flagged as deleted, so that it comes only once. It never moves on: its
-// first slot is pointed anew.
+// The slot of a moved row is flagged as deleted, so that the row comes only once. A row that moves again gets
+// a new pointer in its original slot, so pointers never form a chain.
 JetBytes JetCursor::movedRow(JetRowPointer pointer)
 {
     if (m_moved.contains(pointer))
@@ -46,7 +46,7 @@ std::optional<QString> JetCursor::text(const JetColumn &column)
 
 bool JetCursor::appendText(const JetColumn &column, QString &text)
 {
-    constexpr qsizetype OffsetSize = 2; // what even an empty text takes in its row
+    constexpr qsizetype OffsetSize = 2; // even an empty text needs that much in its row
     const qsizetype before = text.size();
     if (column.type == Jet::Type::Boolean) {
         text += JetTexts::fromBoolean(m_row->bit(column));

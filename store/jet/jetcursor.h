@@ -7,26 +7,26 @@
 #include <memory>
 #include <optional>
 
-/// Goes through the rows of a table once, in their stored order: pages ascending, then slot by slot.
+/// Reads the rows of a table once, in stored order: pages ascending, then slot by slot.
 ///
-/// A deleted row is left out; a row that moved for want of room comes at its first place. More or fewer rows
-/// than the table announces are damage.
+/// Deleted rows are skipped. A row that was moved to another page comes at its original place. More or fewer
+/// rows than the definition says are damage.
 class JetCursor final
 {
 public:
     JetCursor(std::shared_ptr<const JetPages> pages, JetDefinition definition);
 
-    /// Moves to the next row, at first to the first; false behind the last. RuntimeError DatabaseFailure on
-    /// damage.
+    /// Moves to the next row, the first call to the first row. False after the last one. RuntimeError
+    /// DatabaseFailure on damage.
     bool next();
 
-    /// The row of the last next(), which must have been true.
+    /// The current row. next() must have returned true.
     const JetRow &row() const { return *m_row; }
 
-    /// A cell of that row as text, nothing if it is Null. Errors as in JetTexts.
+    /// A cell of the current row as text; nothing if it is Null. Errors as in JetTexts.
     std::optional<QString> text(const JetColumn &column);
 
-    /// The same behind what @p text holds already; false and nothing if it is Null.
+    /// Appends the cell to @p text. False, and nothing appended, if it is Null.
     bool appendText(const JetColumn &column, QString &text);
 
 private:

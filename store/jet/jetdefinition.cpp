@@ -7,7 +7,7 @@ using namespace Jet;
 namespace {
 
 constexpr int MaxColumns = 255;
-constexpr int MaxPages = 64; // far more than all columns and indexes that a table may have
+constexpr int MaxPages = 64; // far more than the columns and indexes of a table can fill
 constexpr int MaxNameBytes = 128;
 constexpr int RowCountAt = 16;
 constexpr int ColumnsEverAt = 41;
@@ -19,7 +19,7 @@ constexpr int HeaderSize = 63;
 constexpr int RealIndexHeaderSize = 12;
 constexpr int ColumnEntrySize = 25;
 
-// A definition goes on over further pages, each with 8 bytes of its own in front.
+// A long definition continues on further pages, after a header of 8 bytes on each.
 QByteArray joined(const JetPages &pages, quint32 first)
 {
     JetBytes page = pages.page(first, DefinitionPage);
@@ -35,7 +35,7 @@ QByteArray joined(const JetPages &pages, quint32 first)
     return data;
 }
 
-// Bytes of a value of that type, 0 if the column says so itself.
+// Size of a value of that type in bytes; 0 if the column states it.
 int fixedSize(Type type)
 {
     switch (type) {
@@ -75,7 +75,7 @@ JetColumn columnFrom(JetBytes entry)
     return column;
 }
 
-// Two columns never share a name or a place.
+// Two columns never have the same name or place.
 void checkApart(const QList<JetColumn> &columns)
 {
     for (qsizetype i = 0; i < columns.size(); ++i) {
@@ -106,7 +106,7 @@ JetDefinition JetDefinition::read(const JetPages &pages, quint32 page)
     if (count == 0 || count > MaxColumns || count > definition.columnsEver)
         jetDamage("a table has an impossible number of columns");
 
-    // An index count of four bytes times its size stays within 64 bits.
+    // The product fits in 64 bits, whatever the file says.
     qint64 at = HeaderSize + qint64(bytes.u32(RealIndexCountAt)) * RealIndexHeaderSize;
     for (int i = 0; i < count; ++i, at += ColumnEntrySize) {
         definition.columns.append(columnFrom(bytes.mid(at, ColumnEntrySize)));

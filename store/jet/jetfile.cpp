@@ -15,7 +15,7 @@ constexpr qint64 MaxFileSize = qint64(512) * 1024 * 1024;
 QByteArray readWhole(const QString &path)
 {
     QFile file(path);
-    // A pipe or a device would keep the program waiting.
+    // Reading a pipe or a device might block.
     if (const QFileInfo info(path); info.exists() && !info.isFile())
         throw RuntimeError(ErrorNumber::PathAccess, path);
     if (!file.open(QIODevice::ReadOnly))

@@ -7,28 +7,27 @@
 #include <QStringList>
 #include <memory>
 
-/// An Access database of the form Jet 4 (Access 2000 to 2003), read whole into memory and never written.
+/// An Access database in Jet 4 format (Access 2000 to 2003), read whole into memory and never written.
 ///
-/// Everything that fails is a RuntimeError. Damage to the file is always DatabaseFailure: no number in a file
-/// leads outside of it, and the time to read it grows with its size.
+/// All errors are RuntimeError; damage is always DatabaseFailure. Reads stay inside the file, and the time
+/// that they take grows with its size.
 class JetFile final
 {
 public:
     /// Reads a regular file of at most 512 MiB.
     ///
-    /// The password is compared exactly, with case; a file that has none opens with any. Nothing but this
-    /// comparison guards the data: a password encrypts nothing. FileNotFound or another file error if @p path
-    /// cannot be read, DatabaseFailure if it is no such database or the password is another.
+    /// The password is case-sensitive; a file without one opens with any. It does not encrypt the data.
+    /// FileNotFound or another file error if @p path cannot be read, DatabaseFailure if it is not such a
+    /// database or the password is wrong.
     static JetFile open(const QString &path, const QString &password);
 
-    /// The same from the bytes of a file.
+    /// The same, from the bytes of a file.
     static JetFile fromBytes(QByteArray bytes, const QString &password);
 
     /// Names of the user's tables, in the order of the catalogue.
     QStringList tables() const { return m_tables; }
 
-    /// The table of that name, compared without case. TableNotFound if the catalogue has none of that name,
-    /// and only then.
+    /// The table of that name, ignoring case. TableNotFound only if the catalogue has no such table.
     JetDefinition table(const QString &name) const;
 
     JetCursor rows(const JetDefinition &table) const { return {m_pages, table}; }

@@ -34,7 +34,7 @@ void Jet::maskHeader(QByteArray &header)
 
 void Jet::maskPassword(QByteArray &field, double creationDate)
 {
-    // A date beyond the range of 32 bits occurs in damaged files only.
+    // Only damaged files have a date beyond 32 bits.
     const bool inRange = creationDate > -2147483648.0 && creationDate < 2147483648.0;
     std::array<char, 4> mask;
     qToLittleEndian(inRange ? qint32(creationDate) : 0, mask.data());

@@ -4,8 +4,8 @@
 #include <QByteArrayView>
 #include <QtGlobal>
 
-/// What reader and writer of Jet 4 files (.mdb of Access 2000 to 2003) share. All numbers in such a file are
-/// little-endian, all offsets are in bytes.
+/// What the reader and the writer of Jet 4 files (.mdb of Access 2000 to 2003) share. Numbers in a file are
+/// little-endian, offsets are in bytes.
 namespace Jet {
 
 inline constexpr int PageSize = 4096;
@@ -57,24 +57,23 @@ inline constexpr int CreationDateAt = 0x72;
 inline constexpr int SlotCountAt = 12;
 inline constexpr int SlotsAt = 14;
 inline constexpr quint16 SlotOffset = 0x1FFF;
-inline constexpr quint16 SlotIsPointer = 0x4000; ///< the row is a pointer to where it now lies
+inline constexpr quint16 SlotIsPointer = 0x4000; ///< the row was moved; its bytes are a pointer to it
 inline constexpr quint16 SlotIsDeleted = 0x8000;
 
-/// "LVAL", what pages with long texts have in place of their owner.
+/// "LVAL": pages of long texts have it instead of an owner.
 inline constexpr quint32 LongValueOwner = 0x4C41564C;
 
 /// Definition page of MSysObjects, the catalogue of a file.
 inline constexpr quint32 CataloguePage = 2;
-inline constexpr quint32 SystemObject = 0x80000002; ///< either bit in its `Flags`: no table of the user
+inline constexpr quint32 SystemObject = 0x80000002; ///< either bit in `Flags`: not a table of the user
 
-/// The key stream of RC4 for @p key, @p size bytes long.
+/// The first @p size bytes of the RC4 key stream for @p key.
 QByteArray keyStream(QByteArrayView key, int size);
 
-/// Puts the mask of page 0 on @p header (bytes 0x18 to 0x97 of it) or takes it off.
+/// Masks or unmasks bytes 0x18 to 0x97 of page 0.
 void maskHeader(QByteArray &header);
 
-/// Puts the mask of a password field on @p field or takes it off; it hangs on the whole days of the creation
-/// date.
+/// Masks or unmasks a password field. The mask is derived from the whole days of the creation date.
 void maskPassword(QByteArray &field, double creationDate);
 
 } // namespace Jet

@@ -9,16 +9,16 @@ namespace {
 const QByteArrayView Signature("\0\1\0\0Standard Jet DB\0", 20);
 const QByteArrayView AceSignature("\0\1\0\0Standard ACE DB\0", 20);
 
-// Pages that one bitmap page of a usage map speaks of.
+// Number of pages that one bitmap page of a usage map covers.
 constexpr quint32 PagesPerBitmap = (PageSize - 4) * 8;
 
-// What a row costs besides its bytes: the pointer to it and its slot.
+// Work for a row besides its bytes: the pointer to it and its slot.
 constexpr qsizetype RowWork = 6;
 
-// Room for small files of many numbers, which cost more than the bytes that store them.
+// Allowance for small files of many numbers: formatting a number is more work than its bytes.
 constexpr qsizetype SmallFileWork = qsizetype(16) * 1024 * 1024;
 
-// Rows fill a page from its end: each ends where the one before it starts.
+// Rows fill a page from its end: each row ends where the previous one starts.
 JetSlot slotAt(JetBytes page, int index)
 {
     const int count = page.u16(SlotCountAt);

@@ -18,17 +18,17 @@ struct JetSlot
     bool isDeleted = false;
 };
 
-/// The pages of a Jet 4 file, in plain form. Every function throws RuntimeError DatabaseFailure on damage.
+/// The decoded pages of a Jet 4 file. Every function throws RuntimeError DatabaseFailure on damage.
 ///
-/// Work is counted in bytes of the file. A sound file has each byte read about twice: with its page and with
-/// its cell. A crafted one can share a byte among thousands of rows or texts, so reading ends at a limit that
-/// grows with the size of the file.
+/// Work is counted in bytes. Reading a sound file touches each byte about twice: with its page and with its
+/// cell. In a crafted file thousands of rows or texts can share a byte, so work is limited in proportion to
+/// the size of the file.
 class JetPages final
 {
     Q_DISABLE_COPY_MOVE(JetPages)
 
 public:
-    /// @p file is the whole file. Older (Jet 3) and newer (.accdb) files are refused.
+    /// @p file is the whole file. Older (Jet 3) and newer (.accdb) formats are rejected.
     explicit JetPages(QByteArray file);
 
     /// In pages.
@@ -39,16 +39,17 @@ public:
     /// A page that must be of that type.
     JetBytes page(quint32 number, Jet::PageType type) const;
 
-    /// The slots of a data page, which must belong to @p owner: a definition page or LongValueOwner.
+    /// The slots of a data page. It must belong to @p owner: a definition page or LongValueOwner.
     QList<JetSlot> slotsOf(quint32 number, quint32 owner) const;
 
-    /// The row there: neither a pointer nor, unless @p flaggedDeleted, deleted.
+    /// The row at @p pointer. It must not be a pointer itself, and is flagged as deleted if @p
+    /// flaggedDeleted.
     JetBytes row(JetRowPointer pointer, quint32 owner, bool flaggedDeleted = false) const;
 
-    /// The page numbers in the usage map at @p pointer, ascending; all of them exist.
+    /// The page numbers in the usage map at @p pointer, ascending. All of them are in the file.
     QList<quint32> usageMap(JetRowPointer pointer) const;
 
-    /// Counts @p bytes of work for all readers of the file together; damage once the limit is passed.
+    /// Adds @p bytes to the work of all readers of the file. Damage once the limit is exceeded.
     void spend(qsizetype bytes) const;
 
 private:

@@ -2,9 +2,9 @@
 
 namespace {
 
-// A row is: number of columns, fixed part, variable part, end of the variable part, starts of the variable
-// columns (last one first), their number, null mask. A table without variable columns has only the fixed part
-// between.
+// Layout of a row: number of columns, fixed part, variable part, end of the variable part, offsets of the
+// variable columns (last one first), their number, null mask. Without variable columns there is only the
+// fixed part in between.
 constexpr int FixedAt = 2;
 
 } // namespace

@@ -16,7 +16,7 @@ using namespace Jet;
 
 namespace {
 
-// Writing a number takes about as long as copying that many bytes.
+// Formatting a number takes about as long as copying that many bytes.
 constexpr qsizetype NumberWork = 32;
 
 void appendPlain(JetBytes bytes, QString &text)
@@ -73,7 +73,7 @@ QString currencyText(qint64 tenThousandths)
     return withPoint(QString::number(amount), 4, negative);
 }
 
-// A sign byte and 128 bits, in words of 32 of which the highest comes first.
+// A sign byte and 128 bits, as 32-bit words with the highest first.
 QString decimalText(JetBytes bytes, int scale)
 {
     std::array<quint32, 4> words;
@@ -108,12 +108,12 @@ QString singleText(float number)
     return Numbers::write(QByteArray::number(double(number), 'g', 7).toDouble());
 }
 
-// The time alone on day 0, the date alone at midnight, else both. The time of day counts away from zero also
-// before day 0: -1.25 is the 29th of December 1899, 6 o'clock.
+// On day 0 only the time, at midnight only the date, else both. Before day 0 the time of day still counts
+// away from zero: -1.25 is 29 December 1899, 6 o'clock.
 QString dateText(double days)
 {
     constexpr double FirstDay = -657434; // year 100
-    constexpr double LastDay = 2958466;  // behind the year 9999
+    constexpr double LastDay = 2958466;  // after the year 9999
     if (!(days >= FirstDay && days < LastDay))
         jetDamage("a date is out of range");
     const double day = std::trunc(days);
@@ -127,7 +127,7 @@ QString dateText(double days)
     return seconds % 86400 == 0 ? date : date + u' ' + time;
 }
 
-// What was not stored as text.
+// The text of a type other than text.
 QString otherText(const JetColumn &column, JetBytes cell)
 {
     switch (column.type) {
@@ -177,7 +177,7 @@ void JetTexts::append(const JetColumn &column, JetBytes cell, QString &text)
     }
 }
 
-// A long value stands in the row itself, in one row elsewhere, or in a chain of rows.
+// A long value is in the row itself, in one row elsewhere, or in a chain of rows.
 QByteArray JetTexts::longValue(JetBytes cell)
 {
     constexpr quint32 InRow = 0x80000000;
