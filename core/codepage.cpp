@@ -5,7 +5,7 @@
 
 namespace {
 
-// Bytes 0x80 to 0x9F; all others are Latin-1. 81, 8D, 8F, 90 and 9D stand for themselves.
+// Bytes 0x80 to 0x9F; all others are Latin-1. 81, 8D, 8F, 90 and 9D are unassigned and map to themselves.
 constexpr std::array<char16_t, 32> Upper{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -36,7 +36,7 @@ void CodePage::append(QStringView text, QByteArray &bytes)
     char *out = bytes.data() + before;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        // A pair of surrogates is one character and so one question mark.
+        // A surrogate pair is one character, so it gives one question mark.
         if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
         const int byte = byteOf(c.unicode());

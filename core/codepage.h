@@ -9,7 +9,7 @@ namespace CodePage {
 /// A character that the code page lacks goes out as "?".
 QByteArray encode(QStringView text);
 
-/// The same behind what @p bytes holds already.
+/// Appends the encoded text to @p bytes.
 void append(QStringView text, QByteArray &bytes);
 
 /// The five bytes without a character of their own become the control characters of the same number, so that

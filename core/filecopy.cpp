@@ -16,15 +16,15 @@ void copyFileOver(const QString &source, const QString &destination)
     QFile from(source);
     if (!from.open(QIODevice::ReadOnly))
         throw FileErrors::of(from);
-    // Written beside the destination and put in its place at the end: a copy that fails half-way harms
-    // nothing, nor does one of a file onto itself.
+    // Written to a temporary file that replaces the destination at the end, so a failed copy changes nothing
+    // and a file can be copied onto itself.
     QSaveFile to(destination);
     if (!to.open(QIODevice::WriteOnly)) {
-        // An existing file that may not be written is told as a failed write.
+        // Qt reports an existing file without write permission as a failed write.
         throw to.error() == QFileDevice::WriteError ? RuntimeError(ErrorNumber::PathAccess, destination)
                                                     : FileErrors::ofWriting(to);
     }
-    // Up to the read that gives nothing: a file that cannot be read at all calls itself at its end.
+    // Read until nothing comes: an unreadable file claims to be at its end.
     for (bool more = true; more;) {
         const QByteArray piece = from.read(PieceSize);
         more = !piece.isEmpty();
@@ -33,7 +33,7 @@ void copyFileOver(const QString &source, const QString &destination)
         if (to.write(piece) != piece.size())
             throw RuntimeError(ErrorNumber::DiskFull, destination);
     }
-    // The commit knows nothing of a piece that was written in part, and would put it in the file's place.
+    // commit() does not notice a partial write and would replace the file with it.
     if (!to.flush())
         throw RuntimeError(ErrorNumber::DiskFull, destination);
     if (!to.commit())

@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// The platform's number for a failed file operation, from what Qt and the file system tell.
+/// Maps failed file operations to the error numbers of the platform.
 namespace FileErrors {
 
 /// For a @p file that could not be opened, read or written.
@@ -30,7 +30,7 @@ inline RuntimeError of(const QFileDevice &file)
     return RuntimeError(info.exists() ? ErrorNumber::PathAccess : ErrorNumber::FileNotFound, path);
 }
 
-/// For a @p file that could not be made or replaced: that it does not exist yet is never the reason.
+/// For a @p file that could not be created or replaced. Never "file not found".
 inline RuntimeError ofWriting(const QFileDevice &file)
 {
     const RuntimeError error = of(file);
@@ -46,7 +46,7 @@ inline QByteArray readWhole(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         throw of(file);
     QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) // a failed read gives no bytes, as an empty file does
+    if (file.error() != QFileDevice::NoError) // a failed read returns no bytes, like an empty file
         throw of(file);
     return bytes;
 }

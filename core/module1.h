@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The program-wide values. One is made in `Main` and lives for the run; everybody else gets a reference.
+/// The program-wide values. `Main` creates the only one; all others get a reference.
 struct Module1
 {
     /// The folder of the user's files, options and database: that of the executable unless the command line
@@ -16,17 +16,17 @@ struct Module1
 
     ::OptionSlots OptionSlots;
 
-    /// Unit names given to the lists of the conversions; the statistics show it.
+    /// Number of unit names in the lists of the conversions, for the statistics.
     int UnitItemCount = 0;
 
     /// The chart or structure last chosen by its one-based number.
     int SelectedChart = 0;
 
     /// Class of the last row written to a report, "teven" or "tnoteven"; empty before the first row of a run.
-    /// It runs on from table to table and from report to report.
+    /// It continues from table to table and from report to report.
     QString ReportRowClass;
 
-    /// What ProbeFileLength found, in bytes; after a save, the number of the error that ended it or 0.
+    /// File length in bytes, set by ProbeFileLength. After a save: the number of its error, or 0.
     qint64 ProbedLength = 0;
 
     /// Stores @p folder as `AppFolder` and, only if @p request is "opt", reads the options file in it.

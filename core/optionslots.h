@@ -4,7 +4,7 @@
 
 #include <array>
 
-/// The slots that have a name in the code. The unit names stand in the slots between them.
+/// The slots that have a name in the code. The slots in between contain the unit names.
 enum class Slot {
     Decimals = 0,
     GridLines = 53,
@@ -29,17 +29,17 @@ enum class Slot {
     IrInFrequency = 89,
 };
 
-/// All settings of the program and the unit names of the conversions: 101 values known by their place alone.
+/// All settings of the program and the unit names of the conversions: 101 values identified by position.
 ///
-/// The file that holds them, `options_uk.ini`, is a list of delimited values in Windows-1252, one to a line,
-/// ended by CR LF: texts in double quotes, numbers bare. Reading and writing share a counter that is never
-/// set back, and writing stops at the last index read, so the file keeps the length that it had.
+/// Their file, `options_uk.ini`, has one value on each line, in Windows-1252 with CR LF: texts in double
+/// quotes, numbers without. Reading and writing share a counter that is never reset, and writing stops at the
+/// last index read, so the file keeps its length.
 class OptionSlots final
 {
 public:
     static constexpr int LastIndex = 100;
 
-    /// An index outside 0 to 100 is RuntimeError 9.
+    /// RuntimeError 9 for an index outside 0 to 100.
     const Value &operator()(int index) const;
     Value &operator()(int index);
     const Value &operator()(Slot slot) const { return (*this)(int(slot)); }

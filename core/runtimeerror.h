@@ -3,7 +3,7 @@
 #include <QString>
 #include <exception>
 
-/// The numbers that traps of the program look at or that a report to the user names.
+/// Error numbers that the program checks or reports to the user.
 namespace ErrorNumber {
 
 inline constexpr int InvalidCall = 5;
@@ -31,10 +31,9 @@ inline constexpr int DatabaseFailure = static_cast<int>(0x80004005);
 
 } // namespace ErrorNumber
 
-/// The one exception of the program: an error number of the platform and what it is about.
+/// The only exception type of the program: an error number of the platform and its subject.
 ///
-/// Low functions throw it; only the traps that the behaviour asks for catch it. One that meets no trap ends
-/// the process with its report.
+/// It is caught only where the behaviour requires it; an uncaught one ends the process with its report.
 class RuntimeError final : public std::exception
 {
 public:
@@ -44,8 +43,7 @@ public:
     int number() const { return m_number; }
     const QString &subject() const { return m_subject; }
 
-    /// "Run-time error '53':", an empty line, the wording of the number and, in a line of its own, the
-    /// subject.
+    /// "Run-time error '53':", an empty line, the wording of the number and, on the next line, the subject.
     QString report() const;
 
     const char *what() const noexcept override { return m_what.constData(); }
@@ -56,13 +54,13 @@ private:
     QByteArray m_what;
 };
 
-/// Runs @p step and goes on past its failure, where the behaviour is to ignore errors.
+/// Runs @p step and ignores a RuntimeError, where the behaviour requires it.
 template<class Step>
 void passingOverErrors(Step step)
 {
     try {
         step();
     } catch (const RuntimeError &) {
-        // Ignored on purpose: the statement after a failed one runs as if nothing had happened.
+        // Ignored on purpose: execution continues after the failed step.
     }
 }

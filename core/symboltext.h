@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Texts that are stored as letters of a Symbol typeface ("a" for alpha), shown as the signs themselves: no
-/// desktop can be relied on to have such a face. Stored texts and reports keep the letters.
+/// Converts texts that are stored for a Symbol typeface ("a" for alpha) to Unicode, because a desktop may not
+/// have such a typeface. Stored texts and reports keep the letters.
 namespace SymbolText {
 
 /// Each letter becomes the Greek letter that the typeface shows for it; digits and punctuation stay.

@@ -3,7 +3,7 @@
 #include <QString>
 #include <variant>
 
-/// A value without a fixed type: empty, a number or a text. What a slot of the options file holds.
+/// The value of an option slot: empty, a number or a text.
 ///
 /// Empty equals the number 0 and never 1; a text never equals a number, even if it reads like one.
 class Value final

@@ -11,7 +11,7 @@ QString fileDescription();
 QString legalNotice();
 QString noticeYears(); ///< years that the legal notice covers
 
-/// Where to write to; it goes by the host of the product's web site.
+/// The mail address, at the host of the product's web site.
 QString contactAddress();
 
 } // namespace VersionRecord
