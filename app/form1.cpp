@@ -23,7 +23,7 @@
 #include "store/datastore.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
-#include "widgets/icons.h"
+#include "widgets/modaldialogs.h"
 #include "widgets/modulepanel.h"
 #include "widgets/readable.h"
 
@@ -41,7 +41,6 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     setObjectName(QStringLiteral("Form1"));
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
     setWindowTitle(QStringLiteral("Alembra"));
-    setWindowIcon(Icons::program());
     keepReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
@@ -228,6 +227,12 @@ void Form1::showStartModule()
     }
     updateCommands();
     focusPanel();
+}
+
+void Form1::restoreAndRaise()
+{
+    if (!ModalDialogs::raise())
+        m_tray.bringBack();
 }
 
 void Form1::executeCommand(int id)

@@ -52,8 +52,8 @@ public:
     /// Enables what can be used with the pane and tab on show.
     void updateCommands();
 
-    /// Out of the tray or from behind other windows.
-    void restoreAndRaise() { m_tray.bringBack(); }
+    /// Brings the window to the front, out of the tray too, or the modal dialog that is open.
+    void restoreAndRaise();
 
     /// Into the tray or back.
     void ToggleTray() { m_tray.ToggleTray(); }

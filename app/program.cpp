@@ -14,6 +14,8 @@
 #include "store/latertables.h"
 #include "store/loadtable.h"
 #include "store/recordset.h"
+#include "widgets/icons.h"
+#include "widgets/modaldialogs.h"
 #include "widgets/smallscale.h"
 
 #include <QApplication>
@@ -51,6 +53,7 @@ void renewUserFolder(Desktop &desktop, const QString &folder, const QString &shi
 
 int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolder)
 {
+    QApplication::setWindowIcon(Icons::program());
     SmallScale::install();
     if (!QDir().mkpath(appFolder))
         throw RuntimeError(ErrorNumber::PathAccess, appFolder);
@@ -58,6 +61,13 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     if (previousInstanceAnswers(instance, desktop))
         return 0;
     instance.listen();
+    Form1 *complete = nullptr;
+    QObject::connect(&instance, &SingleInstance::activated, &instance, [&complete] {
+        if (complete)
+            complete->restoreAndRaise();
+        else
+            ModalDialogs::raise(); // a question of the start
+    });
     if (!shippedFolder.isEmpty())
         renewUserFolder(desktop, appFolder, shippedFolder);
 
@@ -75,17 +85,17 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     LaterTables laterTables(store, loader, recovery);
     frmload splash;
     Form1 form(module, store, laterTables, desktop);
-    form.load(splash, loader);
-    form.show();
-
-    if (module.OptionSlots(Slot::TipAtStart).equals(1))
-        openTip(
-            module, desktop, [&form](bool wanted) { form.options().setTipAtStart(wanted); }, form);
-    recovery.DisconnectDatabase();
-    form.options().loadHidden();
+    atEdge(desktop, [&] { // here, so that a failure is reported while the splash is on the screen
+        form.load(splash, loader);
+        form.show();
+        if (module.OptionSlots(Slot::TipAtStart).equals(1))
+            openTip(
+                module, desktop, [&form](bool wanted) { form.options().setTipAtStart(wanted); }, form);
+        recovery.DisconnectDatabase();
+        form.options().loadHidden();
+    });
     splash.close();
     form.showStartModule();
-    // Not before the window is complete: a call that comes earlier has no window to raise.
-    QObject::connect(&instance, &SingleInstance::activated, &form, &Form1::restoreAndRaise);
+    complete = &form;
     return QApplication::exec();
 }

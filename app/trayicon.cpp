@@ -2,6 +2,7 @@
 
 #include "core/optionslots.h"
 #include "widgets/icons.h"
+#include "widgets/modaldialogs.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>
@@ -29,32 +30,27 @@ TrayIcon::TrayIcon(QWidget &form, const OptionSlots &options)
     m_clock.start();
     m_icon.setObjectName(QStringLiteral("TrayIcon"));
     m_mnuTray.setObjectName(QStringLiteral("mnuTray"));
-    const auto menuaide = addItem("menuaide", QStringLiteral("Help"));
-    const auto menuabout = addItem("menuabout", QStringLiteral("About..."));
-    const auto siteweb = addItem("siteweb", QStringLiteral("Alembra website"));
-    const auto traydon = addItem("traydon", QStringLiteral("Donate"));
+    addItem("menuaide", QStringLiteral("Help"), &TrayIcon::helpWanted);
+    addItem("menuabout", QStringLiteral("About..."), &TrayIcon::aboutWanted);
+    addItem("siteweb", QStringLiteral("Alembra website"), &TrayIcon::webSiteWanted);
+    addItem("traydon", QStringLiteral("Donate"), &TrayIcon::donationPageWanted);
     m_mnuTray.addSeparator()->setObjectName(QStringLiteral("oi"));
-    trayminimax = addItem("trayminimax", QStringLiteral("&Open Alembra..."));
-    const auto trayquit = addItem("trayquit", QStringLiteral("Quit"));
+    trayminimax = addItem("trayminimax", QStringLiteral("&Open Alembra..."), &TrayIcon::turn);
+    addItem("trayquit", QStringLiteral("Quit"), &TrayIcon::quitWanted);
     m_mnuTray.setDefaultAction(trayminimax);
     m_icon.setContextMenu(&m_mnuTray);
 
-    connect(menuaide, &QAction::triggered, this, &TrayIcon::helpWanted);
-    connect(menuabout, &QAction::triggered, this, &TrayIcon::aboutWanted);
-    connect(siteweb, &QAction::triggered, this, &TrayIcon::webSiteWanted);
-    connect(traydon, &QAction::triggered, this, &TrayIcon::donationPageWanted);
-    connect(trayquit, &QAction::triggered, this, &TrayIcon::quitWanted);
-    connect(trayminimax, &QAction::triggered, this, [this] {
-        turnCaption();
-        ToggleTray();
-    });
     connect(&m_icon, &QSystemTrayIcon::activated, this, &TrayIcon::activate);
 }
 
-QAction *TrayIcon::addItem(const char *name, const QString &caption)
+QAction *TrayIcon::addItem(const char *name, const QString &caption, void (TrayIcon::*handler)())
 {
     QAction *item = m_mnuTray.addAction(caption);
     item->setObjectName(QLatin1StringView(name));
+    connect(item, &QAction::triggered, this, [this, handler] {
+        if (!ModalDialogs::raise())
+            (this->*handler)();
+    });
     return item;
 }
 
@@ -73,15 +69,14 @@ void TrayIcon::activate(QSystemTrayIcon::ActivationReason reason)
     const bool counts =
         (reason == QSystemTrayIcon::Trigger && m_doubleClick.click(m_clock.elapsed())) ||
         (reason == QSystemTrayIcon::DoubleClick && m_doubleClick.doubleClick(m_clock.elapsed()));
-    if (!counts || !m_options(Slot::MinimiseToTray).equals(1))
-        return;
-    turnCaption();
-    ToggleTray();
+    if (counts && !ModalDialogs::raise() && m_options(Slot::MinimiseToTray).equals(1))
+        turn();
 }
 
-void TrayIcon::turnCaption()
+void TrayIcon::turn()
 {
     trayminimax->setText(trayminimax->text() != OpenCaption ? OpenCaption : MinimizeCaption);
+    ToggleTray();
 }
 
 void TrayIcon::ToggleTray()
@@ -96,8 +91,9 @@ void TrayIcon::bringBack()
 {
     const bool fromTray = TrayMinimized != 0;
     TrayMinimized = 0;
-    m_form.setWindowState(m_form.windowState() & ~Qt::WindowMinimized);
-    if (fromTray) {
+    // Window managers forget the state of a window that leaves the screen.
+    m_form.setWindowState(fromTray ? m_state : m_form.windowState() & ~Qt::WindowMinimized);
+    if (fromTray && m_state == Qt::WindowNoState) {
         // A window manager places anew what comes up, unless it was moved; Qt takes a move to where the
         // window was for none.
         m_form.windowHandle()->setPosition(m_place + QPoint(1, 0));
@@ -132,6 +128,7 @@ void TrayIcon::hideForm()
     if (!QSystemTrayIcon::isSystemTrayAvailable())
         return;
     m_place = m_form.geometry().topLeft();
+    m_state = m_form.windowState() & ~Qt::WindowMinimized;
     m_form.hide();
     TrayMinimized = -1;
     unloadSideWindows();

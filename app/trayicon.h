@@ -9,7 +9,7 @@
 class OptionSlots;
 
 /// The icon in the notification area with its popup `mnuTray`, and the main window's way into the tray and
-/// back.
+/// back. While a modal dialog is open, the icon and every item of the popup raise it and do nothing else.
 ///
 /// Where the desktop has no notification area, nothing sends the window there, so that it can never be lost.
 class TrayIcon final : public QObject
@@ -44,11 +44,11 @@ Q_SIGNALS:
     void quitWanted();
 
 private:
-    QAction *addItem(const char *name, const QString &caption);
+    QAction *addItem(const char *name, const QString &caption, void (TrayIcon::*handler)());
     void hideForm();
     void unloadSideWindows();
     void activate(QSystemTrayIcon::ActivationReason reason);
-    void turnCaption();
+    void turn();
 
     QWidget &m_form;
     const OptionSlots &m_options;
@@ -57,4 +57,5 @@ private:
     TrayDoubleClick m_doubleClick;
     QElapsedTimer m_clock;
     QPoint m_place; ///< of the window before it went into the tray; a window manager would choose another
+    Qt::WindowStates m_state; ///< maximised or not, likewise
 };

@@ -103,5 +103,8 @@ void frmAbout::StartSysInfo()
 
 void openAbout(Desktop &desktop, QWidget &form1)
 {
-    (new frmAbout(desktop, form1))->showAboveOwner();
+    auto *about = form1.findChild<frmAbout *>();
+    if (!about || about->isHidden()) // a hidden one has closed and is about to be destroyed
+        about = new frmAbout(desktop, form1);
+    about->showAboveOwner();
 }

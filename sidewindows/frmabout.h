@@ -21,4 +21,5 @@ private:
     Desktop &m_desktop;
 };
 
+/// One at a time: a second call raises the open window.
 void openAbout(Desktop &desktop, QWidget &form1);

@@ -1,6 +1,7 @@
 #include "widgets/sidewindow.h"
 
 #include "widgets/controls.h"
+#include "widgets/modaldialogs.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -23,6 +24,8 @@ void SideWindow::showAboveOwner()
     if (focused)
         focused->setFocus();
     show();
+    raise();
+    activateWindow();
 }
 
 void SideWindow::setVisible(bool visible)
@@ -65,6 +68,10 @@ void SideWindow::fitToScreen()
 
 void SideWindow::closeEvent(QCloseEvent *event)
 {
+    if (isVisible() && ModalDialogs::rejectBeforeClosing(*this)) { // hidden, none of its handlers is waiting
+        event->ignore();
+        return;
+    }
     m_owner.setEnabled(true);
     m_owner.activateWindow();
     event->accept();

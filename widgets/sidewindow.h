@@ -4,11 +4,12 @@
 
 class QPushButton;
 
-/// A window that lies above `Form1`, which answers nothing while it is open.
+/// A secondary window of `Form1`, which is disabled while it is open.
 ///
 /// It is made when it is opened and destroyed when it is unloaded, so each opening runs its load anew.
 /// Closing it by any route enables `Form1` again. Escape closes it. On a screen too small for it, its
-/// contents scroll.
+/// contents scroll. A window whose handler waits for a modal dialog rejects the dialog and closes once the
+/// handler has returned.
 class SideWindow : public QDialog
 {
     Q_OBJECT
@@ -17,7 +18,7 @@ public:
     /// @p owner is `Form1`; @p name the window's name in the system.
     SideWindow(const char *name, QWidget &owner);
 
-    /// Disables the owner and shows the window, without a modal event loop.
+    /// Disables the owner and shows the window in front, without a modal event loop.
     void showAboveOwner();
 
     void setVisible(bool visible) override;

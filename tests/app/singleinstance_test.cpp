@@ -131,5 +131,5 @@ void SingleInstanceTest::withoutASocketItRunsAlone()
     QCOMPARE(sockets(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(SingleInstanceTest)
+QTEST_MAIN(SingleInstanceTest)
 #include "singleinstance_test.moc"

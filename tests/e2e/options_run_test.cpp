@@ -1,11 +1,13 @@
 #include "app/optionshost.h"
 #include "options/formoptions.h"
 #include "tests/support/wholerun.h"
+#include "widgets/qtdesktop.h"
 #include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -25,6 +27,8 @@ private Q_SLOTS:
     void eachOpeningLoadsAnew();
     void tipAndDialogShareTheirBox();
     void aMissingDatabaseEndsTheProgram();
+    void aWindowOutlivesItsDialog_data();
+    void aWindowOutlivesItsDialog();
 
 private:
     static Formoptions *dialog(const Form1 &form)
@@ -180,6 +184,43 @@ void OptionsRunTest::aMissingDatabaseEndsTheProgram()
     });
     QVERIFY(ended);
     QVERIFY(m_desktop.boxes.constLast().first.startsWith(QStringLiteral("Run-time error '53':")));
+}
+
+void OptionsRunTest::aWindowOutlivesItsDialog_data()
+{
+    QTest::addColumn<int>("command");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("save dialog") << 1058 << "Formoptions"
+                                 << "Command1";
+    QTest::newRow("question") << 1058 << "Formoptions"
+                              << "Command2";
+    QTest::newRow("message") << 1122 << "frmAbout"
+                             << "cmdSysInfo";
+}
+
+// Closed from outside while a handler of its own waits for a dialog, as on the way into the tray.
+void OptionsRunTest::aWindowOutlivesItsDialog()
+{
+    QFETCH(const int, command);
+    QFETCH(const QString, window);
+    QFETCH(const QString, button);
+    const ProgramFolder folder;
+    QtDesktop desktop;
+    const auto walk = [&](Form1 &form) {
+        form.executeCommand(command);
+        const QPointer<QWidget> opened = form.findChild<SideWindow *>(window);
+        bool waited = false;
+        QTimer::singleShot(0, opened, [&] {
+            waited = QApplication::activeModalWidget();
+            QVERIFY(!opened->close());
+        });
+        opened->findChild<QPushButton *>(button)->click();
+        QVERIFY(waited && opened && !QApplication::activeModalWidget());
+        QTRY_VERIFY(!opened);
+        QVERIFY(form.isEnabled());
+    };
+    QCOMPARE(run(folder.root(), {}, desktop, walk), 0);
 }
 
 QTEST_MAIN(OptionsRunTest)

@@ -1,4 +1,5 @@
 #include "app/commands.h"
+#include "app/singleinstance.h"
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
 #include "widgets/modulepanel.h"
@@ -14,6 +15,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
+#include <future>
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
 class RunTest final : public WholeRun
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void anotherStartModuleSwitchesNothing();
     void theTipDisablesTheMainWindowUntilItCloses();
     void sideWindowsOpenFromCommandsAndPanes();
+    void aCallDuringTheStartWaitsForTheWindow();
     void failuresOfTheStartAreReported_data();
     void failuresOfTheStartAreReported();
     void damagedDatabaseAsksBeforeAnyWindow();
@@ -298,6 +301,29 @@ void RunTest::sideWindowsOpenFromCommandsAndPanes()
     });
 }
 
+void RunTest::aCallDuringTheStartWaitsForTheWindow()
+{
+    const ProgramFolder folder;
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.root()));
+    std::optional<SingleInstance::Previous> answer;
+    bool early = false;
+    m_desktop.whileWaiting = [&] {
+        if (answer)
+            return;
+        auto later = std::async(std::launch::async, &SingleInstance::activatePrevious,
+                                std::make_unique<SingleInstance>(folder.root()));
+        QTRY_COMPARE(later.wait_for(std::chrono::seconds(0)), std::future_status::ready);
+        answer = later.get();
+        early = mainWindow()->isVisible();
+    };
+
+    QCOMPARE(run(folder, [&](Form1 &form) { QVERIFY(form.isVisible()); }), 0);
+
+    m_desktop.whileWaiting = {};
+    QCOMPARE(answer, SingleInstance::Previous::Answered);
+    QVERIFY(!early);
+}
+
 void RunTest::failuresOfTheStartAreReported_data()
 {
     QTest::addColumn<QString>("file");
@@ -319,13 +345,24 @@ void RunTest::failuresOfTheStartAreReported()
     QVERIFY(QFile::remove(folder.path(file)));
     if (!content.isEmpty())
         folder.write(file, content);
-    try {
-        Main(m_desktop, folder.root());
-        QFAIL("the program started");
-    } catch (const RuntimeError &error) {
-        QCOMPARE(error.number(), number);
-        QVERIFY(error.report().contains(folder.path(file)));
-    }
+    m_desktop.boxes.clear();
+    QStringList shown; // at the report
+    m_desktop.whileWaiting = [&] {
+        shown.clear();
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->isVisible())
+                shown << window->objectName();
+        }
+    };
+
+    QCOMPARE(run(folder, [](Form1 &) { QFAIL("the program started"); }), 1);
+
+    m_desktop.whileWaiting = {};
+    QCOMPARE(m_desktop.boxes.size(), 1);
+    const QString report = m_desktop.boxes.constFirst().first;
+    QVERIFY(report.startsWith(QStringLiteral("Run-time error '%1':").arg(number)));
+    QVERIFY(report.contains(folder.path(file)));
+    QCOMPARE(shown, QStringList(QStringLiteral("frmload")));
 }
 
 void RunTest::damagedDatabaseAsksBeforeAnyWindow()

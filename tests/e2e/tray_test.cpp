@@ -1,13 +1,16 @@
 #include "app/optionshost.h"
 #include "tests/support/wholerun.h"
 #include "widgets/icons.h"
+#include "widgets/qtdesktop.h"
 #include "widgets/sidewindow.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QPointer>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -22,7 +25,9 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanupTestCase() { m_neighbour.reset(); }
+    void minimisingHidesAndADoubleClickBringsBack_data();
     void minimisingHidesAndADoubleClickBringsBack();
+    void anOpenDialogComesFirst();
     void minimisingByTheWindowManagerTellsInABalloon();
     void popupMovesTheWindowBothWays();
     void popupLeadsToHelpAndPages();
@@ -150,10 +155,22 @@ void TrayTest::init()
     m_desktop.targets.clear();
 }
 
+void TrayTest::minimisingHidesAndADoubleClickBringsBack_data()
+{
+    QTest::addColumn<bool>("maximised");
+    QTest::newRow("normal") << false;
+    QTest::newRow("maximised") << true;
+}
+
 void TrayTest::minimisingHidesAndADoubleClickBringsBack()
 {
+    QFETCH(const bool, maximised);
     runWith("1", "0", [&](Form1 &form) {
         QCOMPARE(placeOf(form), OnScreen);
+        if (maximised) {
+            form.showMaximized();
+            QTRY_COMPARE(form.width(), form.screen()->availableSize().width());
+        }
         const QRect before = form.geometry();
         minimise(form);
         QTRY_COMPARE(placeOf(form), InTray);
@@ -167,10 +184,43 @@ void TrayTest::minimisingHidesAndADoubleClickBringsBack()
         QTRY_COMPARE(placeOf(form), OnScreen);
         QTRY_VERIFY(form.isActiveWindow());
         QTRY_COMPARE(form.geometry(), before);
+        QCOMPARE(form.isMaximized(), maximised);
 
         doubleClickIcon(form);
         QTRY_COMPARE(placeOf(form), InTray);
     });
+}
+
+void TrayTest::anOpenDialogComesFirst()
+{
+    QtDesktop desktop;
+    m_folder->setOption(81, "1");
+    m_folder->setOption(80, "0");
+    const auto inTheDialog = [](const Form1 &form, QWidget *dialog) {
+        for (const char *name : {"menuabout", "trayminimax", "trayquit"})
+            item(form, name).trigger();
+        for (int i = 0; i < 2; ++i)
+            Q_EMIT icon(form).activated(QSystemTrayIcon::Trigger);
+        QCOMPARE(placeOf(form), OnScreen);
+        QVERIFY(!form.findChild<SideWindow *>(QStringLiteral("frmAbout")));
+        QTRY_VERIFY(dialog->isActiveWindow());
+        minimise(form);
+        QTRY_COMPARE(placeOf(form), InTray);
+    };
+    const auto walk = [&](Form1 &form) {
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        form.executeCommand(1058);
+        const QPointer<QWidget> Formoptions = form.findChild<SideWindow *>(QStringLiteral("Formoptions"));
+        QTimer::singleShot(0, this, [&] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog));
+            inTheDialog(form, dialog);
+        });
+        Formoptions->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+        QTRY_VERIFY(!Formoptions);
+        QVERIFY(form.isEnabled());
+    };
+    QCOMPARE(run(m_folder->root(), {}, desktop, walk), 0);
 }
 
 void TrayTest::minimisingByTheWindowManagerTellsInABalloon()

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QPair>
+#include <functional>
 
 /// What a test throws in place of the end of the process.
 struct ProcessEnded
@@ -24,11 +25,13 @@ public:
     QStringList targets;
     Viewer viewer = Viewer::Known;
     int beeps = 0;
-    int paused = 0; ///< milliseconds
+    int paused = 0;                     ///< milliseconds
+    std::function<void()> whileWaiting; ///< runs in each box and pause, where the real one runs an event loop
 
     Answer messageBox(const QString &text, int style) override
     {
         boxes.append({text, style});
+        wait();
         if (!answers.isEmpty())
             return answers.takeFirst();
         return (style & 7) == YesNo ? No : Ok;
@@ -43,6 +46,17 @@ public:
     void openTarget(const QString &target) override { targets.append(target); }
     Viewer viewerOf(const QString &) override { return viewer; }
     void beep() override { ++beeps; }
-    void pause(int milliseconds) override { paused += milliseconds; }
+    void pause(int milliseconds) override
+    {
+        paused += milliseconds;
+        wait();
+    }
     [[noreturn]] void endProcess(int status) override { throw ProcessEnded{status}; }
+
+private:
+    void wait() const
+    {
+        if (whileWaiting)
+            whileWaiting();
+    }
 };

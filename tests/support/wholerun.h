@@ -15,20 +15,24 @@ protected:
     // Runs the program and @p walk in its event loop, then quits it. The status of the process.
     int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
     {
-        return run(folder.root(), {}, walk);
+        return run(folder.root(), {}, m_desktop, walk);
     }
 
-    int run(const QString &appFolder, const QString &shippedFolder, const std::function<void(Form1 &)> &walk)
+    int run(const QString &appFolder, const QString &shippedFolder, Desktop &desktop,
+            const std::function<void(Form1 &)> &walk)
     {
-        QTimer::singleShot(0, this, [&] {
+        QTimer complete; // not in an event loop of the start
+        connect(&complete, &QTimer::timeout, this, [&] {
             Form1 *form = mainWindow();
-            if (form)
-                walk(*form);
-            if (form)
-                form->executeCommand(1005);
+            if (!form || !form->isVisible())
+                return;
+            complete.stop();
+            walk(*form);
+            form->executeCommand(1005);
         });
+        complete.start(0);
         try {
-            return Main(m_desktop, appFolder, shippedFolder);
+            return Main(desktop, appFolder, shippedFolder);
         } catch (const ProcessEnded &end) {
             return end.status;
         }
