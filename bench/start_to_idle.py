@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Start to idle of the program against a bare window, seen from outside: neither knows that it is measured.
+"""Measures the start of the program until it is idle against that of a bare window, from outside.
 
-A run is idle when its main window is on show and it has used no processor for QUIET seconds; its time ends where that
-quiet began. The two start in turn, so that whatever else the machine does meets both. Peak memory is the peak resident
-set. What counts are the ratios of the middle halves; the absolute values say more about the machine.
+A run is idle when its main window is visible and it has used no processor for QUIET seconds; its time ends where that
+quiet began. The two start in turn, so that other load on the machine affects both. Peak memory is the peak resident
+set. Only the ratios of the middle halves are judged; absolute values depend on the machine.
 """
 
 import argparse
@@ -19,9 +19,10 @@ import time
 QUIET = 0.2  # seconds
 POLL = 0.004  # seconds
 LIMIT = 60  # seconds
-NOISE = 200_000  # ns of processor time in one poll that still count as quiet
+NOISE = 200_000  # ns of processor time in one poll that still counts as quiet
 
-TARGET = 1.3  # of each ratio, the database read
+# Wall time, processor time, peak memory. Below that nobody feels a start, so clarity of the code goes first.
+TARGETS = (1.2, 1.4, 1.25)
 
 TIP_AT_START = 56  # slot of the options file
 
@@ -41,7 +42,7 @@ def peak_memory(pid):
     for line in pathlib.Path(f"/proc/{pid}/status").read_text().splitlines():
         if line.startswith("VmHWM:"):
             return int(line.split()[1])
-    raise RuntimeError("the kernel tells no peak memory")
+    raise RuntimeError("the kernel reports no peak memory")
 
 
 def window_on_show(pid, title):
@@ -73,7 +74,7 @@ def measure(command, title):
 
 
 def without_tip(folder, copy):
-    """A copy of the program folder that opens no tip window; gives its executable."""
+    """Copies the program folder and switches the tip window off. Returns the executable."""
     shutil.copytree(folder, copy)
     options = copy / "options_uk.ini"
     lines = options.read_bytes().split(b"\r\n")
@@ -83,24 +84,23 @@ def without_tip(folder, copy):
 
 
 def middle(values):
-    """Mean of the middle half. A median jumps where the machine knows two speeds, and virtual ones do."""
+    """Mean of the middle half. A median jumps on machines with two speeds, as virtual ones have."""
     quarter = len(values) // 4
     return statistics.mean(sorted(values)[quarter:len(values) - quarter])
 
 
 def report(bare, program):
-    """Prints a line of the table for each figure (bench/measure.cpp has those of the other programs). True if all keep
-    the target."""
+    """Prints a line of the table for each figure, like bench/measure.cpp. True if all keep their targets."""
     kept = True
     for index, (name, unit) in enumerate([("wall", "s"), ("processor", "s"), ("peak memory", "MiB")]):
         of_bare = [run[index] for run in bare]
         of_program = [run[index] for run in program]
         floor, measured = middle(of_bare), middle(of_program)
         ratios = statistics.quantiles((p / b for b, p in zip(of_bare, of_program)), n=4)
-        missed = measured / floor > TARGET
+        missed = measured / floor > TARGETS[index]
         kept = kept and not missed
         print(f"{'start to idle, ' + name + ' / bare window':<52}{unit:<4}{floor:>10.3f}{measured:>10.3f}"
-              f"{measured / floor:>8.2f}{TARGET:>8.2f}   {ratios[0]:.2f} to {ratios[2]:.2f}"
+              f"{measured / floor:>8.2f}{TARGETS[index]:>8.2f}   {ratios[0]:.2f} to {ratios[2]:.2f}"
               f"{'   MISSED' if missed else ''}", flush=True)
     return kept
 
@@ -112,7 +112,7 @@ def main():
     parser.add_argument("--runs", type=int, default=51, help="measured starts of each, at least 7")
     arguments = parser.parse_args()
     if arguments.runs < 7:
-        parser.error("fewer than 7 runs say nothing")
+        parser.error("at least 7 runs are needed")
 
     bare, program = [], []
     with tempfile.TemporaryDirectory() as scratch:
