@@ -1,5 +1,5 @@
-// The limit for the start of the program: a main window with a menu and a label behind the program's own
-// splash, and nothing else. bench/run measures the program against it.
+// The baseline for the start of the program: nothing but the program's own splash and a main window with a
+// menu and a label.
 
 #include "app/frmload.h"
 #include "widgets/qtdesktop.h"

@@ -1,5 +1,5 @@
-// What computing costs behind a key of the conversions and a click on "Calculate", against reading and
-// writing the same numbers.
+// The time to compute after a key in the conversions and a click on "Calculate", against reading and writing
+// the same numbers.
 
 #include "bench/measure.h"
 #include "calc/solver.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr double ConversionTarget = 1.5;
 constexpr double SolverTarget = 2;
 
-// Made before anything is measured.
+// Created before anything is measured.
 const QString Input = u"123.456"_s; // clazy:exclude=non-pod-global-static
 constexpr double Result = 123.456 / 7;
 

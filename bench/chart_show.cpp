@@ -1,5 +1,5 @@
-// How long a click on a row takes until its chart is on the screen, against the bare decoding of its picture:
-// each infrared chart, the tallest pictures there are, and some of the NMR charts.
+// The time from a click on a row until its chart is painted, against decoding its picture: all infrared
+// charts, which are the tallest pictures, and some NMR charts.
 
 #include "bench/frames.h"
 #include "bench/programdata.h"
@@ -32,7 +32,7 @@ public:
         auto &list = Frames::control<RowListView>(m_form, "ListView3(5)");
         const auto data = ProgramData::load(ProgramData::database(), IrGroups, IrGroups);
         const RowList &rows = data->lists.ListView3[5];
-        QString last; // the rows of a chart stand together
+        QString last; // the rows of a chart are consecutive
         for (int row = 0; row < rows.rowCount(); ++row) {
             const QString group = rows.subItem(row, 1);
             if (std::exchange(last, group) != group)

@@ -1,5 +1,5 @@
-// How fast tables come from the database into memory: the program's own against making the same texts from
-// their characters, and how the time grows with the rows of a table.
+// The time to load the tables into memory against making the same texts from their bytes, and how it grows
+// with the rows of a table.
 
 #include "bench/measure.h"
 #include "bench/programdata.h"
@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double LoadTarget = 1.5; // a page, its rows and their cells are each looked at once on the way
+constexpr double LoadTarget = 1.5; // pages, rows and cells are each read once on the way
 constexpr double GrowthTarget = 1.1;
-constexpr int ImpurityShifts = 2; // the step of `RMN1H`: ten columns, every row goes to one list
+constexpr int ImpurityShifts = 2; // the step of `RMN1H`: ten columns, all rows in one list
 
-/// All cells of the loaded tables, each as its bytes in the file: one for a character.
+/// All cells of the loaded tables, with one byte for each character as in the file.
 QList<QList<QByteArray>> cells()
 {
     QList<QList<QByteArray>> rows;
@@ -38,7 +38,7 @@ QList<QList<QByteArray>> cells()
     return rows;
 }
 
-/// What a plain program would do: read the bytes of the file, and make a text for each cell.
+/// The minimum: reads the file and makes a text for each cell.
 qsizetype bareDecode(const QList<QList<QByteArray>> &cells)
 {
     QFile file(ProgramData::database());
@@ -54,7 +54,7 @@ qsizetype bareDecode(const QList<QList<QByteArray>> &cells)
     return bytes.size() + rows.size();
 }
 
-/// A database in @p folder that holds the rows of @p table @p times over.
+/// Makes a database in @p folder with the rows of @p table, @p times over.
 QString makeDatabase(const QTemporaryDir &folder, TableData table, int times)
 {
     const QList<QStringList> rows = table.rows;

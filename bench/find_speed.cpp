@@ -1,5 +1,4 @@
-// What gathering the hits of a search key costs against the bare comparison of the rows, and how it grows
-// with them.
+// The time to gather the hits of a search against comparing the rows, and how it grows with them.
 
 #include "bench/measure.h"
 #include "bench/programdata.h"

@@ -8,15 +8,15 @@
 #include <QElapsedTimer>
 #include <stdexcept>
 
-/// Runs the whole program, offscreen and over a copy of its folder, for what is measured in its windows.
+/// Runs the whole program, offscreen and on a copy of its folder, to measure in its windows.
 class ProgramRun final : private WholeRun
 {
 public:
-    /// @p walk runs in the program's event loop, with its main window on show. The status of the process.
+    /// Runs @p walk in the program's event loop, once its main window is visible. Returns the exit status.
     static int measured(const std::function<void(Form1 &, Measure &)> &walk)
     {
         return measureAll([&walk](Measure &measure) {
-            std::exception_ptr failure; // nothing thrown may cross an event loop
+            std::exception_ptr failure; // an exception must not cross an event loop
             ProgramRun program;
             program.run(ProgramFolder(), [&](Form1 &form) {
                 try {
@@ -33,7 +33,7 @@ public:
 
 namespace Frames {
 
-/// Notes whether a widget has been painted.
+/// Records whether a widget has been painted.
 class PaintWatch final : public QObject
 {
 public:
@@ -48,7 +48,7 @@ protected:
     }
 };
 
-/// Runs @p action, then events until @p widget has been painted and its window stands finished.
+/// Runs @p action, then the event loop until @p widget has been painted.
 inline void untilPainted(QWidget &widget, const Measure::Action &action)
 {
     constexpr int Patience = 5000; // ms

@@ -1,5 +1,5 @@
-// How long a key takes until what it changes is on the screen: in the search text, against a bare repaint of
-// the list that is searched, and in the conversions, against a bare repaint of their two fields.
+// The time from a key press until its effect is painted: in the search text against repainting the list, in
+// the conversions against repainting their two fields.
 
 #include "bench/frames.h"
 #include "widgets/rowlistview.h"
@@ -26,7 +26,7 @@ void press(QWidget &field, Qt::Key key, const QString &text)
     }
 }
 
-// Each press meets an empty field. Both sides paint @p painted, the pressed one what else has changed.
+// The field is empty before each press. Both sides paint @p painted; the press also paints its other effects.
 QList<Measure::Sample> presses(QLineEdit &field, Qt::Key key, const QString &text,
                                const QList<QWidget *> &painted)
 {

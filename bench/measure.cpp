@@ -24,7 +24,7 @@ double median(QList<double> values)
     return values[values.size() / 2];
 }
 
-// So many calls make one measurement.
+// Number of calls in one measurement.
 int callsOf(const Measure::Action &action)
 {
     return std::max(1, int(std::ceil(Shortest / std::max(Measure::time(action), 1e-6))));
@@ -128,7 +128,7 @@ void Measure::growth(const QString &what, const QList<Size> &sizes, double targe
           u"n^%1"_s.arg(exponent, 0, 'f', 2), exponent > target, target, exponents);
 }
 
-// bench/start_to_idle.py prints lines of the same form.
+// bench/start_to_idle.py prints the same kind of lines.
 void Measure::print(const QString &what, double floor, double measured, const QString &ratio, bool missed,
                     double target, QList<double> ratios)
 {

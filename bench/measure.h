@@ -8,9 +8,9 @@
 ///
 ///     what   unit   floor   measured   ratio   target   spread
 ///
-/// The floor is what no program could do without, the bare repaint, decoding or writing. Floor and measured
-/// thing run in turn, so that whatever else the machine does meets both, and only their ratio is judged: that
-/// of the medians. The spread is that of the ratio, run by run: its middle half.
+/// The floor is the work that no program can avoid: the bare repaint, decoding or writing. Floor and measured
+/// action run in turn, so that other load on the machine affects both. Only the ratio of the medians is
+/// judged. The spread is the middle half of the ratios of the single runs.
 class Measure final
 {
 public:
@@ -30,21 +30,21 @@ public:
         Action action;
     };
 
-    /// How often things are measured that take milliseconds.
+    /// Number of runs of what takes milliseconds.
     static constexpr int Runs = 51;
 
-    /// Milliseconds that the processor works for one call.
+    /// Processor time of one call, in milliseconds.
     static double time(const Action &action);
 
     /// Prints the line of @p samples, of which there is at least one; the ratio must not exceed @p target.
     void add(const QString &what, const QList<Sample> &samples, double target);
 
-    /// Measures @p floor against @p measured. What is too quick for the clock is repeated.
+    /// Measures @p floor against @p measured. Actions too quick for the clock are repeated.
     void compare(const QString &what, const Action &floor, const Action &measured, double target);
 
     /// Prints how the time grows from the smallest to the largest of @p sizes: the slope of its logarithm
-    /// over that of the rows, 1 for a straight line. It stands in place of the ratio, and the times of the
-    /// smallest and the largest in place of floor and measured.
+    /// over that of the rows, 1 if the time is proportional. It is printed instead of the ratio, the times of
+    /// the smallest and the largest instead of floor and measured.
     void growth(const QString &what, const QList<Size> &sizes, double target);
 
     bool hasMissed() const { return m_missed; }

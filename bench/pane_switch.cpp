@@ -1,5 +1,4 @@
-// How long a command takes until its pane is on the screen, from every other pane, against a bare repaint of
-// the pane.
+// The time from a command until its pane is painted, from every other pane, against repainting the pane.
 
 #include "bench/frames.h"
 
@@ -7,9 +6,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Tool bar, status bar and the pane that goes take as long for every pane: a third of a millisecond, which is
-// more than the whole repaint of one that is nearly empty.
-constexpr double AllTarget = 1.5; // hiding and showing is no repaint
+// Tool bar, status bar and the pane that is hidden take a third of a millisecond for every pane: more than
+// the whole repaint of a nearly empty one.
+constexpr double AllTarget = 1.5; // hiding and showing come on top of the repaint
 constexpr double SwitchTarget = 4;
 constexpr int Rounds = 5;
 
@@ -32,7 +31,7 @@ void show(Form1 &form, const Pane &pane)
         Frames::untilPainted(panel, [&] { form.executeCommand(pane.command); });
 }
 
-// All that the pane shows: what fills its own background is not painted along with the pane.
+// With all children: those that fill their own background are not repainted with the pane.
 void repaint(ModulePanel &panel)
 {
     Frames::untilPainted(panel, [&] {

@@ -9,17 +9,17 @@
 
 #include <stdexcept>
 
-/// The data of the program for what measures below its windows.
+/// The data of the program, for measurements without its windows.
 namespace ProgramData {
 
-inline constexpr int LastLoaded = 31; ///< the program's start loads no further
+inline constexpr int LastLoaded = 31; ///< the last step that a start runs
 
 inline QString database()
 {
     return QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb");
 }
 
-/// From the closed file to the rows in memory, as the start of the program does it.
+/// Loads a database as the start of the program does.
 inline std::unique_ptr<DataStore> load(const QString &database, int firstStep = TableCatalog::FirstStep,
                                        int lastStep = LastLoaded)
 {
@@ -36,7 +36,7 @@ inline std::unique_ptr<DataStore> load(const QString &database, int firstStep = 
     return data;
 }
 
-/// Appends the rows of @p from, @p times over, with @p subItems each.
+/// Appends the rows of @p from to @p to, @p times over, with @p subItems sub-items each.
 inline void multiply(const RowList &from, int times, int subItems, RowList &to)
 {
     for (int row = 0; row < from.rowCount() * times; ++row) {

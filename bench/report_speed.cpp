@@ -1,4 +1,4 @@
-// What the largest report costs to make and save against saving its bytes, and how it grows with its rows.
+// The time to make and save the largest report against saving its bytes, and how it grows with the rows.
 
 #include "bench/measure.h"
 #include "bench/programdata.h"

@@ -45,7 +45,7 @@ QByteArray headerPage(const QString &password)
     return page.data();
 }
 
-// Rows laid on pages that follow one another in the file.
+// Rows laid out on consecutive pages.
 struct Placement
 {
     QList<DataPageWriter> pages;
@@ -135,7 +135,7 @@ struct Catalogue
     QList<DataPageWriter> permissionPages() const { return layOut(permissions, SystemTables::Permissions); }
 };
 
-// Pages 2 to 13, definitions, usage maps and index leaves of the system tables, and their rows behind them.
+// Pages 2 to 13 (definitions, usage maps and index leaves of the system tables), then their rows.
 QByteArray systemPages(const Catalogue &catalogue)
 {
     using namespace SystemTables;
@@ -192,8 +192,8 @@ QByteArray tablePages(const TableData &table, quint32 definitionPage)
 
 QByteArray DatabaseFile::make(const QList<TableData> &tables, const QString &password)
 {
-    // Entries of the catalogue have the same length whatever page numbers stand in them, so the place of
-    // everything is known before anything is written.
+    // The length of a catalogue entry does not depend on its page numbers, so all places are known before
+    // anything is written.
     const Catalogue sample(tables, QList<quint32>(tables.size(), 0));
     quint32 next = SystemTables::FirstFreePage + quint32(sample.objectPages().size()) +
                    quint32(sample.permissionPages().size());

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Numbers that the engine writes everywhere.
+// Constants that the engine writes everywhere.
 constexpr quint32 TableMark = 1625;
 constexpr quint32 IndexMark = 1923;
 constexpr quint16 Collation = 0x0409;

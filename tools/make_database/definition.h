@@ -6,7 +6,7 @@
 #include <QList>
 #include <QString>
 
-/// A table as its definition page tells: columns, indexes and where its usage maps are.
+/// The contents of a definition page: columns, indexes and the places of the usage maps.
 struct TableLayout
 {
     struct Column
@@ -46,14 +46,14 @@ struct TableLayout
 
     quint8 kind = 'N'; ///< 'N' a user's table, 'S' a system table
     quint32 rowCount = 0;
-    quint32 ownedPages = 0; ///< row pointers of usage maps, as all others here
+    quint32 ownedPages = 0; ///< row pointer of a usage map, like the others below
     quint32 freePages = 0;
     QList<Column> columns; ///< in the order of the entries
     QList<Index> indexes;
     QList<IndexName> indexNames;
     QList<LongColumn> longColumns;
 
-    /// A table of text columns without an index: rows keep the order in which they were stored.
+    /// A table of text columns without an index, so that rows keep their stored order.
     static TableLayout ofTexts(const QStringList &columns, quint32 rowCount, quint32 usageMapPage);
 
     /// BuildError if the definition needs more than this one page.

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Reports are 8-bit texts of Windows-1252; chart names are the only texts of the database that none prints.
+// Reports are in Windows-1252; chart names are the only texts that no report prints.
 bool isNeverPrinted(const QString &table)
 {
     return table == QLatin1StringView("RMN1Hspectro") || table == QLatin1StringView("RMN13Cspectro");
@@ -37,7 +37,7 @@ QList<TableData> readTables(const QDir &folder)
         files.append(rules.name + u".tsv"_s);
         tables.append(TableFile::read(folder.filePath(files.last()), rules));
     }
-    // A misspelt file name must not pass as a table that nobody missed.
+    // Catches misspelt file names.
     for (const QString &file : folder.entryList(QDir::Files)) {
         if (!files.contains(file))
             throw BuildError(folder.filePath(file), 1, u"no table of the program"_s);

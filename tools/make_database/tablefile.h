@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the database is to hold of one table.
+/// One table, as it goes into the database.
 struct TableData
 {
     QString name;
@@ -12,13 +12,13 @@ struct TableData
     QList<QStringList> rows; ///< each as long as the columns; row i is line i + 2 of the file
 };
 
-/// What a table file must hold.
+/// What a table file must look like.
 struct TableRules
 {
     QString name;
     QStringList columns;        ///< in this order
     int rows = 0;               ///< 0: any number
-    bool anyCharacters = false; ///< else those of Windows-1252, because reports print the table
+    bool anyCharacters = false; ///< else only those of Windows-1252, because reports print the table
 };
 
 namespace TableFile {

@@ -1,4 +1,4 @@
-// Labels of atoms that RDKit is to draw as they are given.
+// Labels that RDKit draws verbatim.
 #pragma once
 
 #include <QByteArray>

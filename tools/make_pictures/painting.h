@@ -1,4 +1,4 @@
-// What the pictures share: the typeface, the colours and a few ways to set text. All lengths are pixels.
+// Typeface, colours and text layout for all pictures. All lengths are in pixels.
 #pragma once
 
 #include <QColor>
@@ -8,7 +8,7 @@
 #include <QString>
 
 inline const QColor Ink(0x20, 0x24, 0x28);     ///< texts and outlines
-inline const QColor SoftInk(0x5c, 0x64, 0x6c); ///< what stands back: captions, notes
+inline const QColor SoftInk(0x5c, 0x64, 0x6c); ///< captions, notes
 inline const QColor Grid(0xdd, 0xe1, 0xe6);    ///< grid lines
 
 /// Throws BuildError unless the typeface of all pictures, DejaVu Sans, is installed.
@@ -32,8 +32,8 @@ QStringList wrapped(const QString &text, const QFont &font, int width);
 class ScriptText
 {
 public:
-    /// Digits after an element, a bracket or R are subscripts: "CH3-CO-NR2". A word that is one letter and a
-    /// number is none: positions as in "furan C2-H", and E2. Nor is SN2.
+    /// Digits after an element, a bracket or R are subscripts: "CH3-CO-NR2". Not in a word of one letter and
+    /// a number, such as positions ("furan C2-H") and E2, nor in SN2.
     static ScriptText formula(const QString &text, int pixels, bool bold = false);
 
     /// The numbers after the letter of a subshell are superscripts: "[Ar] 3d6 4s2".

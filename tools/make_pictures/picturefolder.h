@@ -1,4 +1,4 @@
-// Where the pictures go: encodes them and writes only what has changed.
+// Encodes the pictures and writes those that have changed.
 #pragma once
 
 #include <QImage>
@@ -6,8 +6,8 @@
 
 #include <utility>
 
-/// The folder "Data" of a program folder. Equal pictures give equal bytes, and a file that already holds them
-/// is left alone, so that its date tells when its picture last changed.
+/// The folder "Data" of a program folder. Equal pictures give equal bytes, and an unchanged file is not
+/// written, so that its date is that of the last change.
 class PictureFolder
 {
 public:

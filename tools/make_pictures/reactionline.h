@@ -1,4 +1,4 @@
-// One reaction in formulas, set like text: pieces on a line, broken where it gets too long.
+// One reaction in formulas, laid out like text: pieces on a line, with line breaks where it gets too long.
 #pragma once
 
 #include "tools/make_pictures/formula.h"
@@ -7,8 +7,8 @@
 
 class QPainter;
 
-/// A reaction "educts>>products" in SMILES, laid out for a given width in pixels. Equal molecules stand once,
-/// with their number before them; the arrow carries @p conditions above it.
+/// A reaction "educts>>products" in SMILES, laid out for a given width in pixels. Equal molecules are
+/// drawn once, after their number; the conditions are above the arrow.
 class ReactionLine
 {
 public:

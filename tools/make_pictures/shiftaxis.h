@@ -1,4 +1,4 @@
-// Scales of chemical shift, and the ranges that stand on them.
+// Scales of chemical shift and the ranges on them.
 #pragma once
 
 #include <QColor>
@@ -14,7 +14,7 @@ public:
     /// From @p high ppm at the abscissa @p left to @p low ppm at @p right, in pixels.
     ShiftAxis(double high, double low, double left, double right);
 
-    /// A scale that holds [@p low, @p high], rounded outwards to whole ticks.
+    /// A scale that includes [@p low, @p high], rounded outwards to whole ticks.
     static ShiftAxis around(double low, double high, double left, double right);
 
     double abscissa(double shift) const;
@@ -52,6 +52,6 @@ struct ShiftRange
                const QColor &colour) const;
 };
 
-/// The colour of a class of motifs, told from its name: "CH2 next to oxygen", "Ar-NH". Heteroatoms have the
-/// colours that the infrared charts give to bonds with them, softened.
+/// The colour of a class of motifs, derived from its name: "CH2 next to oxygen", "Ar-NH". Heteroatoms have
+/// the colours that the infrared charts give to bonds with them, softened.
 QColor classColour(const QString &name);
