@@ -183,7 +183,6 @@ void Form1::load(frmload &splash, TableLoader &loader)
     m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);
     loadTables(splash, loader);
     loadMenus();
-    m_decimals = m_module.OptionSlots(Slot::Decimals);
     m_units.fill(m_module.OptionSlots, m_module.UnitItemCount);
 }
 

@@ -113,5 +113,4 @@ private:
     std::unique_ptr<OptionsHost> m_options;
 
     UnitLists m_units; ///< filled at the end of the load
-    Value m_decimals;  ///< decimals of the calculators, from the options
 };
