@@ -70,6 +70,7 @@ struct Command
 
 /// Commands that the code names besides the table.
 namespace CommandId {
+inline constexpr int Quit = 1005;
 inline constexpr int Find = 1121;
 inline constexpr int About = 1122;
 inline constexpr int Help = 1123;
@@ -80,7 +81,7 @@ inline constexpr int WebSite = 1134;
 
 /// All commands there are. Other ids do nothing.
 inline constexpr std::array Commands{
-    Command{1005, CommandKind::Quit},
+    Command{CommandId::Quit, CommandKind::Quit},
     Command{1058, CommandKind::Options},
     Command{1106, CommandKind::ShowPanel, PanelId::Solvents},
     Command{1108, CommandKind::ShowPanel, PanelId::Elements},

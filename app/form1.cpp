@@ -33,10 +33,11 @@
 #include <QLineEdit>
 #include <QStatusBar>
 
-Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop)
+Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop,
+             const Scale &scale)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
       m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
-      m_tray(*this, module.OptionSlots)
+      m_scaleActions(m_ownActions, scale, laterTables, *this), m_tray(*this, module.OptionSlots)
 {
     setObjectName(QStringLiteral("Form1"));
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));

@@ -5,6 +5,7 @@
 #include "app/helpopener.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
+#include "app/scaleactions.h"
 #include "app/trayicon.h"
 #include "calc/unitlists.h"
 #include "reports/reportsave.h"
@@ -34,7 +35,7 @@ class Form1 final : public QMainWindow
     Q_OBJECT
 
 public:
-    Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop);
+    Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop, const Scale &scale);
     ~Form1() override;
 
     /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
@@ -99,6 +100,7 @@ private:
     OwnActions m_ownActions{*this};
     CopyActions m_copyActions{m_ownActions, *this};
     HelpOpener m_help{m_module, m_desktop, m_ownActions.action("actHelpPages")};
+    ScaleActions m_scaleActions;
     TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;

@@ -28,6 +28,11 @@ constexpr std::array Entries{
     Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", CommandId::Find},
     Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", CommandId::Find},
     Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, CommandId::Find},
+    Entry{"&View", "actZoomIn", "Zoom &in...", "Ctrl++; Ctrl+=", "zoom-in", 0},
+    Entry{"&View", "actZoomOut", "Zoom &out...", "Ctrl+-", "zoom-out", 0},
+    Entry{"&View", "actZoomReset", "&Default size...", "Ctrl+0", nullptr, 0},
+    Entry{"&View", nullptr, nullptr, nullptr, nullptr, 0},
+    Entry{"&View", "actFitWindow", "&Fit to screen", nullptr, "fit-screen", 0},
     Entry{"&Help", "actHelpPages", "Help &pages", "Shift+F1", "help", CommandId::WebSite},
 };
 

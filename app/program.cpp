@@ -3,6 +3,7 @@
 #include "app/form1.h"
 #include "app/frmload.h"
 #include "app/optionshost.h"
+#include "app/session.h"
 #include "app/singleinstance.h"
 #include "app/userfolder.h"
 #include "core/desktop.h"
@@ -51,7 +52,8 @@ void renewUserFolder(Desktop &desktop, const QString &folder, const QString &shi
 
 } // namespace
 
-int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolder)
+int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolder, const Scale &scale,
+         const QJsonObject &session)
 {
     QApplication::setWindowIcon(Icons::program());
     SmallScale::install();
@@ -84,11 +86,11 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
         [&] { recovery.offerAfterMissingTable(); });
     LaterTables laterTables(store, loader, recovery);
     frmload splash;
-    Form1 form(module, store, laterTables, desktop);
+    Form1 form(module, store, laterTables, desktop, scale);
     atEdge(desktop, [&] { // here, so that a failure is reported while the splash is on the screen
         form.load(splash, loader);
         form.show();
-        if (module.OptionSlots(Slot::TipAtStart).equals(1))
+        if (session.isEmpty() && module.OptionSlots(Slot::TipAtStart).equals(1))
             openTip(
                 module, desktop, [&form](bool wanted) { form.options().setTipAtStart(wanted); }, form);
         recovery.DisconnectDatabase();
@@ -96,6 +98,8 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     });
     splash.close();
     form.showStartModule();
+    if (!session.isEmpty())
+        passingOverErrors([&] { Session::restore(session, form, laterTables); });
     complete = &form;
     return QApplication::exec();
 }

@@ -148,10 +148,11 @@ function(alembra_test_program name)
     alembra_precompile(${name})
 endfunction()
 
-# alembra_test(<name> SOURCES <files> LINK <targets>): such a program as a test, run offscreen in the C locale.
+# alembra_test(<name> SOURCES <files> LINK <targets>): such a program as a test, run offscreen in the C locale, away from
+# the settings of who runs it.
 function(alembra_test name)
     alembra_test_program(${name} ${ARGN})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-                         "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QTEST_FUNCTION_TIMEOUT=240000")
+                         "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QTEST_FUNCTION_TIMEOUT=240000;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings")
 endfunction()

@@ -29,6 +29,9 @@ public:
     ElementPanel &panel() { return m_panel; }
     void focusElement(int element);
 
+    /// What a click on the element's button does.
+    void select(int element);
+
     /// Gives or takes the help balloons, by the option. Covers the Find bar's close button too; whoever has
     /// other such controls follows toolTipsRefreshed().
     void refreshToolTips();
@@ -55,7 +58,6 @@ private:
     void buildButtons();
     void connectControls();
 
-    void select(int element);
     void move(Direction direction);
     void pick();
     void takeOverPick();

@@ -2,9 +2,8 @@
 
 #include "core/codepage.h"
 #include "core/fileerrors.h"
+#include "core/usersettings.h"
 #include "core/value.h"
-
-#include <QSettings>
 
 std::optional<QStringList> Tips::read(const QString &path)
 {
@@ -31,9 +30,7 @@ int Tips::next(int last, int count, const std::function<double()> &fraction)
 
 bool Tips::isWanted()
 {
-    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Alembra"),
-                             QStringLiteral("Alembra_uk"));
     const QVariant setting =
-        settings.value(QStringLiteral("Options/Show Tips at Startup"), QStringLiteral("1"));
+        userSettings().value(QStringLiteral("Options/Show Tips at Startup"), QStringLiteral("1"));
     return !Value(Value(setting.toString()).toNumber()).equals(0);
 }

@@ -5,8 +5,7 @@
 
 QSize Controls::roomFor(const QWidget &window)
 {
-    constexpr QSize Frame{8, 36}; // about what window managers draw
-    return window.screen()->availableSize() - Frame;
+    return window.screen()->availableSize() - WindowFrame;
 }
 
 bool Controls::isOnTop(const QWidget &control, const QWidget &pane)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
@@ -27,8 +28,10 @@ W *named(W *control, const QString &name)
     return control;
 }
 
-/// The largest size that @p window can have on its screen, with the frame that a window manager puts around
-/// it, in logical pixels.
+/// About what window managers put around a window, in logical pixels.
+inline constexpr QSize WindowFrame{8, 36};
+
+/// The largest size that @p window can have on its screen, in logical pixels.
 QSize roomFor(const QWidget &window);
 
 /// @p font as the one large type: bold, 15 pixels high, letters side by side as they are drawn. The title of

@@ -7,6 +7,7 @@
 #include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QLabel>
@@ -171,6 +172,7 @@ void LooksTest::openAndLook(Form1 &form, const std::function<void()> &open)
 void LooksTest::throughSideWindows(Form1 &form)
 {
     openAndLook(form, [&] { form.executeCommand(1122); });
+    openAndLook(form, [&] { form.findChild<QAction *>(QStringLiteral("actZoomIn"))->trigger(); });
     openAndLook(form, [&] { form.executeCommand(1058); });
     openAndLook(form, [&] {
         form.executeCommand(1058);

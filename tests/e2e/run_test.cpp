@@ -1,5 +1,6 @@
 #include "app/commands.h"
 #include "app/singleinstance.h"
+#include "app/startagain.h"
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
 #include "widgets/modulepanel.h"
@@ -8,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void startModuleLeavesTheBoxesOfTheTableAlone();
     void anotherStartModuleSwitchesNothing();
     void theTipDisablesTheMainWindowUntilItCloses();
+    void anotherSizeStartsAgainInTheSamePlace();
     void sideWindowsOpenFromCommandsAndPanes();
     void aCallDuringTheStartWaitsForTheWindow();
     void failuresOfTheStartAreReported_data();
@@ -269,6 +272,55 @@ void RunTest::theTipDisablesTheMainWindowUntilItCloses()
         tip->close();
         QVERIFY(form.isEnabled());
     });
+}
+
+void RunTest::anotherSizeStartsAgainInTheSamePlace()
+{
+    const QTemporaryDir home;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
+    const ProgramFolder folder;
+    folder.setOption(56, "1"); // a tip, which does not come again
+    const auto field = [](const Form1 &form, const char *name) {
+        return form.findChild<QLineEdit *>(QLatin1StringView(name));
+    };
+    run(folder, [&](Form1 &form) {
+        form.findChild<QWidget *>(QStringLiteral("frmTip"))->close();
+        form.findChild<QAbstractButton *>(QStringLiteral("Command7(25)"))->click();
+        form.executeCommand(1116);
+        form.findChild<RowListView *>(QStringLiteral("ListView6"))->selectRow(7);
+        form.executeCommand(1120);
+        form.findChild<QTabBar *>(QStringLiteral("TabStrip4"))->setCurrentIndex(4);
+        QTest::keyClicks(field(form, "TextBoxM7(0)"), QStringLiteral("0.25"));
+        form.findChild<QTabBar *>(QStringLiteral("TabStrip3"))->setCurrentIndex(4);
+        QTest::keyClicks(field(form, "TextBoxM1"), QStringLiteral("25"));
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QTest::keyClick(&form, Qt::Key_Plus, Qt::ControlModifier);
+        auto *size = form.findChild<QWidget *>(QStringLiteral("frmScale"));
+        QVERIFY(size && QTest::qWaitForWindowActive(size));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus, Qt::ControlModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QApplication::processEvents(); // which also ends the run
+    });
+    QCOMPARE(Scale::remembered(), 125);
+    const StartAgain::Left left = StartAgain::take();
+    QCOMPARE(left.percent, 125);
+
+    run(
+        folder,
+        [&](Form1 &form) {
+            QCOMPARE(shownPanes(form), QStringList("Frame2"));
+            QCOMPARE(field(form, "TextBoxM7(0)")->text(), QStringLiteral("0.25"));
+            QVERIFY(field(form, "TextBoxM7(0)")->isVisible());
+            QCOMPARE(field(form, "TextBoxM1")->text(), QStringLiteral("25"));
+            QCOMPARE(field(form, "TextBoxM2")->text(), QStringLiteral("77"));
+            form.executeCommand(1106);
+            const auto *list = form.findChild<RowListView *>(QStringLiteral("ListView6"));
+            QVERIFY(list->isVisible());
+            QCOMPARE(list->selectedRow(), 7);
+            QCOMPARE(form.findChild<QLabel *>(QStringLiteral("lblatome(1)"))->text(), QStringLiteral("Iron"));
+        },
+        left.session);
 }
 
 void RunTest::sideWindowsOpenFromCommandsAndPanes()

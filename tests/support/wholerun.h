@@ -13,13 +13,14 @@ class WholeRun : public QObject
 {
 protected:
     // Runs the program and @p walk in its event loop, then quits it. The status of the process.
-    int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk)
+    int run(const ProgramFolder &folder, const std::function<void(Form1 &)> &walk,
+            const QJsonObject &session = {})
     {
-        return run(folder.root(), {}, m_desktop, walk);
+        return run(folder.root(), {}, m_desktop, walk, session);
     }
 
     int run(const QString &appFolder, const QString &shippedFolder, Desktop &desktop,
-            const std::function<void(Form1 &)> &walk)
+            const std::function<void(Form1 &)> &walk, const QJsonObject &session = {})
     {
         QTimer complete; // not in an event loop of the start
         connect(&complete, &QTimer::timeout, this, [&] {
@@ -32,7 +33,7 @@ protected:
         });
         complete.start(0);
         try {
-            return Main(desktop, appFolder, shippedFolder);
+            return Main(desktop, appFolder, shippedFolder, {}, session);
         } catch (const ProcessEnded &end) {
             return end.status;
         }
