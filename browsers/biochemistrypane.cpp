@@ -62,9 +62,6 @@ void BiochemistryPane::buildBiomolecules()
     const Section section{BiomoleculesPlace, TitleFrame::Height};
     Controls::heading(QStringLiteral("Label19(0)"), QStringLiteral("Biomolecules"), this)
         ->setGeometry(section.heading());
-    makeTabs(
-        QStringLiteral("TabStrip9"), {"Amino acids", "Nitrogen bases", "Carbohydrates", "Fatty acids"},
-        section.tabs(), [this](int number) { apply(PaneEffects::TabStrip9(), number); }, this);
     const QPoint first = section.options().topLeft() + QPoint(6, 0);
     placeOptions({&Option5.add(0, new QRadioButton(QStringLiteral("Natural"), this)),
                   &Option5.add(1, new QRadioButton(QStringLiteral("Synthetic"), this))},
@@ -75,6 +72,10 @@ void BiochemistryPane::buildBiomolecules()
     placeOptions({&Option5.add(2, new QRadioButton(QStringLiteral("Pyrimidines"), grdFrame15)),
                   &Option5.add(3, new QRadioButton(QStringLiteral("Purines"), grdFrame15))},
                  {6, 0});
+
+    makeTabs(
+        QStringLiteral("TabStrip9"), {"Amino acids", "Nitrogen bases", "Carbohydrates", "Fatty acids"},
+        section.tabs(), [this](int number) { apply(PaneEffects::TabStrip9(), number); }, this);
 
     const ListColumn mass{"Molar mass (g/mol)", 98, Kind::Number};
     const ListColumn melting{"Melting point (°C)", 106, Kind::Number};
@@ -110,7 +111,7 @@ void BiochemistryPane::buildBiomolecules()
                                   {"pKa1", 100, Kind::Number},
                                   {"pKa2", 100, Kind::Number},
                                   {"pKa3", 100, Kind::Number},
-                                  {"Solubility (wt%)", 170, Kind::Number}};
+                                  {"Solubility (wt%)", 170, Kind::Number, "%"}};
     addList(section, 11, bases);
     addList(section, 13, bases);
     addTitles(section, "grdFrame12", 11, 86);
@@ -131,10 +132,6 @@ void BiochemistryPane::buildSdsPage()
     const Section section{SdsPagePlace, TitleFrame::OneLine};
     Controls::heading(QStringLiteral("Label17(0)"), QStringLiteral("SDS-PAGE"), this)
         ->setGeometry(section.heading());
-    makeTabs(
-        QStringLiteral("TabStrip8"),
-        {"Separation", "Protein standards", "Stock solutions", "Gels", "Staining"}, section.tabs(),
-        [this](int number) { apply(PaneEffects::TabStrip8(), number); }, this);
     placeOptions({&Option4.add(7, new QRadioButton(QStringLiteral("Coomassie blue"), this)),
                   &Option4.add(6, new QRadioButton(QStringLiteral("Silver"), this))},
                  section.options().topLeft() + QPoint(6, 0));
@@ -145,17 +142,25 @@ void BiochemistryPane::buildSdsPage()
                   &Option4.add(9, new QRadioButton(QStringLiteral("Stacking gel"), grdFrame26))},
                  {6, 0});
 
-    addList(section, 17, {{"Separation domain (Da)", 240}, {"% Acrylamide (resolving gel)", 270}});
+    makeTabs(
+        QStringLiteral("TabStrip8"),
+        {"Separation", "Protein standards", "Stock solutions", "Gels", "Staining"}, section.tabs(),
+        [this](int number) { apply(PaneEffects::TabStrip8(), number); }, this);
+
+    addList(section, 17,
+            {{"Separation domain (Da)", 240, Kind::Text, "Da"},
+             {"% Acrylamide (resolving gel)", 270, Kind::Number, "%"}});
     addTitles(section, "grdFrame21", 17, 102);
-    addList(section, 18, {{"Kit", 238}, {"Proteins", 192, Kind::Wrapped}, {"MW (Da)", 86}});
+    addList(section, 18,
+            {{"Kit", 238}, {"Proteins", 192, Kind::Wrapped}, {"MW (Da)", 86, Kind::Number, "Da"}});
     addTitles(section, "grdFrame22", 18, 104);
     addList(section, 21,
             {{"Name", 262, Kind::Wrapped}, {"Final concentration", 172, Kind::Wrapped}, {"Quantity", 82}})
         .showAsRecipes();
     addTitles(section, "grdFrame24", 21, 107);
-    const auto gel = [](const QString &title) { return ListColumn{title, 64, Kind::Number}; };
+    const auto gel = [](const QString &title) { return ListColumn{title, 70, Kind::Number}; };
     addList(section, 22,
-            {{"Composition", 196, Kind::Wrapped},
+            {{"Composition", 166, Kind::Wrapped},
              gel("5 %"),
              gel("7.5 %"),
              gel("10 %"),

@@ -93,7 +93,7 @@ void SolventsPane::buildMiscibility()
                           {{"Name", 174},
                            {"Polarity index", 68, Kind::Number},
                            {"Solub. in water (wt%/%)", 126, Kind::Number},
-                           {"Non-miscible", 208, Kind::Wrapped}},
+                           {"Non-miscible", 208, Kind::Wrapped, {}, "none listed"}},
                           room(ListTop, room().width() - LadderWidth - Gap), this);
     (new TitleFrame(QStringLiteral("frmm"), this))->addTitles(*list, Label2, {14, 15, 16, 13});
     auto *ladder = new PolarityLadder(this);

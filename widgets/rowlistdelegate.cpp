@@ -7,32 +7,21 @@
 
 namespace {
 
-// How many characters stand before the decimal point of the number that @p text begins with; 0 if it is no
-// number.
+// How many characters are before the decimal point of the number that @p text begins with, "<1", "~2.3" and
+// "36,000" among them; 0 if it is no number.
 qsizetype integerLength(const QString &text)
 {
     qsizetype length = 0;
     bool digits = false;
     for (const QChar c : text) {
-        const bool sign = length == 0 && (c == QLatin1Char('-') || c == QLatin1Char('+'));
-        if (!sign && !c.isDigit())
+        const bool sign = !digits && QStringView(u"+-<>~").contains(c);
+        const bool group = digits && c == QLatin1Char(',');
+        if (!sign && !group && !c.isDigit())
             break;
         digits = digits || c.isDigit();
         ++length;
     }
     return digits ? length : 0;
-}
-
-// Where the text begins so that the decimal points of a column stand in one line, a little right of its
-// middle.
-int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &cell)
-{
-    const qsizetype length = integerLength(text);
-    const int width = metrics.horizontalAdvance(text);
-    const int left =
-        length == 0 ? cell.center().x() - width / 2
-                    : cell.left() + cell.width() * 11 / 20 - metrics.horizontalAdvance(text.first(length));
-    return qMax(cell.left(), qMin(left, cell.right() - width));
 }
 
 // Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one. A word that is wider
@@ -60,7 +49,14 @@ QString wrappable(const QString &text, const QFontMetrics &metrics, int width)
 
 RowListDelegate::RowListDelegate(const RowList &list, const QList<ListColumn> &columns, QObject *parent)
     : QStyledItemDelegate(parent), m_list(list), m_columns(columns)
-{}
+{
+    connect(&list, &RowList::reset, this, [this] { m_points.clear(); });
+}
+
+QString RowListDelegate::shownText(const QModelIndex &index) const
+{
+    return m_columns[index.column()].shown(index.data().toString());
+}
 
 bool RowListDelegate::isHeading(int row) const
 {
@@ -84,7 +80,7 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 {
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
-    const QString text = std::exchange(item.text, QString());
+    item.text.clear();
     const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
@@ -94,7 +90,7 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->save();
     painter->setFont(item.font);
     painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    drawText(*painter, item.rect, text, index);
+    drawText(*painter, item.rect, index);
     if (m_list.gridLines()) {
         painter->setPen(item.palette.color(QPalette::Midlight));
         painter->drawLine(item.rect.bottomLeft(), item.rect.bottomRight());
@@ -112,10 +108,9 @@ QRect RowListDelegate::room(const QRect &cell, const QModelIndex &index) const
     if (column.kind == ListColumn::Kind::Text || isHeading(index.row()))
         return room;
     room.setWidth(column.width - left - Padding);
-    // Numbers stand near the middle. One that comes close to the lines can still be read, one cut short
-    // cannot.
-    constexpr int Spare = 4;
-    return column.kind == ListColumn::Kind::Number ? room.adjusted(-Spare, 0, Spare, 0) : room;
+    // Numbers are near the middle. One that comes close to the lines can still be read, one cut short or out
+    // of line with the others cannot.
+    return column.kind == ListColumn::Kind::Number ? room.adjusted(-Padding, 0, Padding, 0) : room;
 }
 
 bool RowListDelegate::isCut(QFont font, const QRect &cell, const QModelIndex &index) const
@@ -125,12 +120,12 @@ bool RowListDelegate::isCut(QFont font, const QRect &cell, const QModelIndex &in
         return false;
     font.setBold(heading);
     // A pixel of the space between two cells is better than three dots.
-    return QFontMetricsF(font).horizontalAdvance(index.data().toString()) > room(cell, index).width() + 1;
+    return QFontMetricsF(font).horizontalAdvance(shownText(index)) > room(cell, index).width() + 1;
 }
 
-void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QString &text,
-                               const QModelIndex &index) const
+void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QModelIndex &index) const
 {
+    const QString text = shownText(index);
     const ListColumn &column = m_columns[index.column()];
     const QFontMetrics metrics = painter.fontMetrics();
     QRect cell = room(rect, index);
@@ -140,9 +135,42 @@ void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QStri
     }
     const bool cut = isCut(painter.font(), rect, index);
     if (column.kind == ListColumn::Kind::Number)
-        cell.setLeft(numberLeft(metrics, text, cell));
+        cell.setLeft(numberLeft(metrics, text, cell, index));
     painter.drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
                      cut ? metrics.elidedText(text, Qt::ElideRight, cell.width()) : text);
+}
+
+// Where the text begins so that the decimal points of a column are in one line. What is no number is centred.
+int RowListDelegate::numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &cell,
+                                const QModelIndex &index) const
+{
+    const qsizetype length = integerLength(text);
+    const int width = metrics.horizontalAdvance(text);
+    const int left = length == 0 ? cell.center().x() - width / 2
+                                 : cell.left() + decimalPoint(metrics, cell.width(), index) -
+                                       metrics.horizontalAdvance(text.first(length));
+    return qMax(cell.left(), qMin(left, cell.right() - width));
+}
+
+// From the left of the cells, logical pixels: the longest number before the point and the longest text after
+// it are in the middle of the column together.
+int RowListDelegate::decimalPoint(const QFontMetrics &metrics, int room, const QModelIndex &index) const
+{
+    const QPair<int, int> key(index.column(), metrics.horizontalAdvance(QLatin1Char('0')));
+    const auto known = m_points.constFind(key);
+    if (known != m_points.constEnd())
+        return *known;
+    int before = 0;
+    int after = 0;
+    for (int row = 0; row < m_list.rowCount(); ++row) {
+        const QString text = shownText(index.siblingAtRow(row));
+        const qsizetype length = integerLength(text);
+        if (length == 0)
+            continue;
+        before = qMax(before, metrics.horizontalAdvance(text.first(length)));
+        after = qMax(after, metrics.horizontalAdvance(text.sliced(length)));
+    }
+    return m_points[key] = before + (room - before - after) / 2;
 }
 
 QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -153,6 +181,6 @@ QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModel
     if (column.kind != ListColumn::Kind::Wrapped || isHeading(index.row()))
         return {0, metrics.height() + Leading};
     const int width = column.width - leftInset(index) - Padding;
-    const QString text = wrappable(index.data().toString(), metrics, width);
+    const QString text = wrappable(shownText(index), metrics, width);
     return {0, metrics.boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text).height() + Leading};
 }

@@ -2,6 +2,7 @@
 
 #include "widgets/rowlistmodel.h"
 
+#include <QHash>
 #include <QStyledItemDelegate>
 
 /// Draws the cells of a list: generous rows, grid lines where the list has them, numbers by their decimal
@@ -25,15 +26,23 @@ public:
 
     bool isHeading(int row) const;
 
+    /// What the cell shows, before it is shortened.
+    QString shownText(const QModelIndex &index) const;
+
     /// Whether the text has no room in @p cell and is drawn shortened.
     bool isCut(QFont font, const QRect &cell, const QModelIndex &index) const;
 
 private:
     int leftInset(const QModelIndex &index) const;
     QRect room(const QRect &cell, const QModelIndex &index) const;
-    void drawText(QPainter &painter, const QRect &rect, const QString &text, const QModelIndex &index) const;
+    int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &cell,
+                   const QModelIndex &index) const;
+    int decimalPoint(const QFontMetrics &metrics, int room, const QModelIndex &index) const;
+    void drawText(QPainter &painter, const QRect &rect, const QModelIndex &index) const;
 
     bool m_recipes = false;
     const RowList &m_list;
     const QList<ListColumn> m_columns;
+    mutable QHash<QPair<int, int>, int>
+        m_points; ///< decimal points measured so far, by column and size of type
 };

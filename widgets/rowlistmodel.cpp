@@ -2,6 +2,13 @@
 
 #include "store/rowlist.h"
 
+QString ListColumn::shown(QString stored) const
+{
+    if (!unit.isEmpty())
+        stored.remove(QLatin1Char(' ') + unit);
+    return stored.isEmpty() ? whenEmpty : stored;
+}
+
 RowListModel::RowListModel(const RowList &list, QList<ListColumn> columns, QObject *parent)
     : QAbstractTableModel(parent), m_list(list), m_columns(std::move(columns))
 {
@@ -23,9 +30,11 @@ int RowListModel::columnCount(const QModelIndex &parent) const
 
 QVariant RowListModel::data(const QModelIndex &index, int role) const
 {
-    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= m_list.rowCount())
+    const bool known = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
+    if (!known || !index.isValid() || index.row() >= m_list.rowCount())
         return {};
-    return m_list.cell(index.row(), index.column()).toString();
+    const QString stored = m_list.cell(index.row(), index.column()).toString();
+    return role == Qt::DisplayRole ? stored : m_columns[index.column()].shown(stored);
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -15,9 +15,15 @@ struct ListColumn
     QString title;
     int width; ///< logical pixels
     Kind kind = Kind::Text;
+    QString unit = {};      ///< left out of the cells, for it is in the title
+    QString whenEmpty = {}; ///< shown in an empty cell
+
+    /// What a cell with the text @p stored shows.
+    QString shown(QString stored) const;
 };
 
-/// Shows one RowList to the views. Column 0 is the row's text, column n its sub-item n.
+/// Shows one RowList to the views. Column 0 is the row's text, column n its sub-item n, as they are stored;
+/// what the user sees and hears of them is that of ListColumn::shown().
 class RowListModel final : public QAbstractTableModel
 {
     Q_OBJECT

@@ -189,7 +189,7 @@ bool RowListView::viewportEvent(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
     if (index.isValid() && m_delegate->isCut(font(), visualRect(index), index))
-        QToolTip::showText(help->globalPos(), index.data().toString(), viewport(), visualRect(index));
+        QToolTip::showText(help->globalPos(), m_delegate->shownText(index), viewport(), visualRect(index));
     else
         QToolTip::hideText();
     return true;

@@ -2,6 +2,7 @@
 
 #include "tests/e2e/paintedtexts.h"
 #include "widgets/readable.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -10,10 +11,12 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
+#include <map>
 
 namespace {
 
@@ -111,7 +114,26 @@ void Judge::look(QWidget &window)
             report(QStringLiteral("many cells shortened"), view->join(QLatin1String("\", \"")), *view.key());
     }
     lookAtNeighbours(texts, window);
+    lookAtNumbers(texts, window);
     lookAtChildren(window, picture);
+}
+
+// Those of a column are in line at their decimal points.
+void Judge::lookAtNumbers(const QList<PaintedText> &texts, const QWidget &window)
+{
+    static const QRegularExpression beforePoint(QStringLiteral("^[-+<>~]*[\\d,]+"));
+    std::map<std::pair<const QWidget *, int>, int> points;
+    for (const PaintedText &text : texts) {
+        const auto *list = qobject_cast<RowListView *>(viewOf(text.by));
+        const int column = list ? list->columnAt(text.by->mapFrom(&window, text.ink.center()).x()) : -1;
+        const auto number = beforePoint.match(text.text);
+        if (column < 0 || list->columns()[column].kind != ListColumn::Kind::Number || !number.hasMatch())
+            continue;
+        constexpr int Bearing = 3; // between the start of a text and its ink
+        const int point = text.ink.left() + list->fontMetrics().horizontalAdvance(number.captured());
+        if (qAbs(points.try_emplace({list, column}, point).first->second - point) > Bearing)
+            report(QStringLiteral("out of line"), text.text, *list);
+    }
 }
 
 void Judge::lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &window)

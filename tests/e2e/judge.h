@@ -26,6 +26,7 @@ private:
     bool isOutOfSight(const PaintedText &text, const QWidget &window);
     void lookAtText(const PaintedText &text, QWidget &window, const QImage &picture);
     void lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &window);
+    void lookAtNumbers(const QList<PaintedText> &texts, const QWidget &window);
     void lookAtChildren(QWidget &window, const QImage &picture);
     void lookAtBox(const QComboBox &box);
     void lookAtEdge(const QWidget &field, const QWidget &window, const QImage &picture);

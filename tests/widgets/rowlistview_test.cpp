@@ -22,6 +22,7 @@ private Q_SLOTS:
     void copyTakesTheRowOrTheListWithItsTitles();
     void rowsAreChosenByMouseAndKeyboardAlike();
     void aTextThatIsCutShowsWholeOnHover();
+    void aColumnLeavesOutItsUnitAndFillsEmptyCells();
     void titlesStandOverTheirColumns();
 
 private:
@@ -39,7 +40,8 @@ private:
     static QList<ListColumn> columns()
     {
         return {{QStringLiteral("Name"), 100},
-                {QStringLiteral("Value (g)"), 80, ListColumn::Kind::Number},
+                {QStringLiteral("Value (g)"), 80, ListColumn::Kind::Number, QStringLiteral("g"),
+                 QStringLiteral("none")},
                 {QStringLiteral("Remark"), 90}};
     }
 };
@@ -140,6 +142,21 @@ void RowListViewTest::aTextThatIsCutShowsWholeOnHover()
     QTRY_VERIFY(!QToolTip::isVisible());
     textAt(0);
     QVERIFY(!QToolTip::isVisible());
+}
+
+void RowListViewTest::aColumnLeavesOutItsUnitAndFillsEmptyCells()
+{
+    RowList list;
+    for (const QStringView value : {u"2.5 g", u""}) {
+        list.append(u"row");
+        list.appendSubItem(value);
+    }
+    list.filled();
+    const RowListModel model(list, columns(), nullptr);
+    const auto cell = [&model](int row, int role) { return model.index(row, 1).data(role).toString(); };
+    QCOMPARE(cell(0, Qt::AccessibleTextRole), QStringLiteral("2.5"));
+    QCOMPARE(cell(1, Qt::AccessibleTextRole), QStringLiteral("none"));
+    QCOMPARE(cell(0, Qt::DisplayRole), QStringLiteral("2.5 g")); // for copies
 }
 
 void RowListViewTest::titlesStandOverTheirColumns()
