@@ -15,6 +15,7 @@
 #include "store/latertables.h"
 #include "store/loadtable.h"
 #include "store/recordset.h"
+#include "widgets/accessibleroles.h"
 #include "widgets/icons.h"
 #include "widgets/modaldialogs.h"
 #include "widgets/smallscale.h"
@@ -73,6 +74,8 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     if (!shippedFolder.isEmpty())
         renewUserFolder(desktop, appFolder, shippedFolder);
 
+    QApplication::setKeyboardInputInterval(1000); // names are typed into lists one letter after the other
+    AccessibleRoles::install();
     Module1 module;
     module.AppFolder = appFolder;
     module.ShippedFolder = shippedFolder;

@@ -4,8 +4,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleOptionFocusRect>
 
 LinkLabel::LinkLabel(const QString &text, const QString &target, QWidget *parent)
     : QLabel(text, parent), m_target(target)
@@ -28,7 +26,7 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent *event)
     if (hasSelectedText())
         return; // the text was selected, not the link pressed
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-        Q_EMIT clicked(m_target);
+        press();
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent *event)
@@ -41,32 +39,9 @@ void LinkLabel::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        Q_EMIT clicked(m_target);
+        press();
         return;
     default:
         QLabel::keyPressEvent(event);
     }
-}
-
-void LinkLabel::paintEvent(QPaintEvent *event)
-{
-    QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-}
-
-void LinkLabel::focusInEvent(QFocusEvent *event)
-{
-    QLabel::focusInEvent(event);
-    update();
-}
-
-void LinkLabel::focusOutEvent(QFocusEvent *event)
-{
-    QLabel::focusOutEvent(event);
-    update();
 }

@@ -11,15 +11,14 @@ class LinkLabel final : public QLabel
 public:
     LinkLabel(const QString &text, const QString &target, QWidget *parent);
 
+    void press() { Q_EMIT clicked(m_target); }
+
 Q_SIGNALS:
     void clicked(const QString &target);
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     const QString m_target;

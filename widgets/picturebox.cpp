@@ -2,8 +2,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 PictureBox::PictureBox(const QString &name, QWidget *parent) : QWidget(parent)
 {
@@ -31,11 +29,6 @@ void PictureBox::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const QSizeF drawn = m_scaled.deviceIndependentSize();
     painter.drawImage(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), m_scaled);
-    if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
 }
 
 void PictureBox::keyPressEvent(QKeyEvent *event)
@@ -44,7 +37,7 @@ void PictureBox::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Q_EMIT clicked();
+        press();
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -54,5 +47,5 @@ void PictureBox::keyPressEvent(QKeyEvent *event)
 void PictureBox::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-        Q_EMIT clicked();
+        press();
 }

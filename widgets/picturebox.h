@@ -19,6 +19,8 @@ public:
 
     QSize sizeHint() const override { return m_picture.size(); }
 
+    void press() { Q_EMIT clicked(); }
+
 Q_SIGNALS:
     void clicked();
 
