@@ -1,9 +1,17 @@
 #include "browsers/browserpane.h"
 
+#include "widgets/typeahead.h"
 #include "widgets/windowunits.h"
 
 #include <QButtonGroup>
 #include <QLabel>
+
+namespace {
+
+// Of the options of one choice Tab leads to the one that is on; from there the arrow keys go on.
+constexpr Qt::FocusPolicy NotByTab = Qt::ClickFocus;
+
+} // namespace
 
 RowListView *BrowserPane::makeList(const QString &name, RowList &list, const QList<ListColumn> &columns,
                                    const QRect &place, QWidget *parent)
@@ -21,6 +29,8 @@ QTabBar *BrowserPane::makeTabs(const QString &name, const QStringList &captions,
     for (const QString &caption : captions)
         tabs->addTab(caption);
     tabs->setGeometry(place);
+    tabs->setFocusPolicy(Qt::StrongFocus); // also by a click
+    TypeAhead::install(*tabs);
     connect(tabs, &QTabBar::currentChanged, this, [handler](int index) { handler(index + 1); });
     return tabs;
 }
@@ -33,9 +43,11 @@ void BrowserPane::placeOptions(const QList<QRadioButton *> &options, const QPoin
     for (QRadioButton *option : options) {
         option->setGeometry(QRect(QPoint(left, place.y()), option->sizeHint()));
         group->addButton(option);
+        option->setFocusPolicy(NotByTab);
         left += option->width() + Gap;
     }
     options.constFirst()->setChecked(true);
+    options.constFirst()->setFocusPolicy(Qt::StrongFocus);
 }
 
 void BrowserPane::apply(const Effects &effects)
@@ -81,11 +93,15 @@ QWidget &BrowserPane::control(const QString &name)
 
 void BrowserPane::keepFocusOffCoveredControls()
 {
-    const auto set = [this](QWidget *each) {
-        each->setFocusPolicy(Controls::isOnTop(*each, *this) ? Qt::StrongFocus : Qt::NoFocus);
+    const auto set = [this](QWidget *each, Qt::FocusPolicy policy) {
+        const bool onTop = Controls::isOnTop(*each, *this);
+        if (!onTop)
+            each->setFocusPolicy(Qt::NoFocus);
+        else if (each->focusPolicy() == Qt::NoFocus)
+            each->setFocusPolicy(policy);
     };
-    const auto lists = findChildren<RowListView *>();
-    std::for_each(lists.begin(), lists.end(), set);
-    const auto options = findChildren<QRadioButton *>();
-    std::for_each(options.begin(), options.end(), set);
+    for (RowListView *list : findChildren<RowListView *>())
+        set(list, Qt::StrongFocus);
+    for (QRadioButton *option : findChildren<QRadioButton *>())
+        set(option, option->isChecked() ? Qt::StrongFocus : NotByTab);
 }
