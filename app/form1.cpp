@@ -26,6 +26,7 @@
 #include "widgets/modaldialogs.h"
 #include "widgets/modulepanel.h"
 #include "widgets/readable.h"
+#include "widgets/statusline.h"
 
 #include <QAction>
 #include <QApplication>
@@ -51,6 +52,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
         *this);
+    m_focusKeeper = std::make_unique<FocusKeeper>(*this, *m_panes);
     connectTray();
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
     connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
@@ -148,22 +150,29 @@ void Form1::ClearChartPanels()
 
 void Form1::buildStatusBar()
 {
-    const auto addPanel = [this](int number, const QString &text, int stretch) {
+    const auto addPanel = [this](int number, const QString &text) {
         const QString name = QStringLiteral("StatusBar1.Panels(%1)").arg(number);
         QLabel *panel = Controls::label(name, text, this);
         panel->setContentsMargins(6, 0, 6, 0);
-        statusBar()->addWidget(panel, stretch);
+        statusBar()->addWidget(panel);
         return panel;
     };
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
-    m_panel1 = addPanel(1, QStringLiteral("Elements"), 0);
-    m_panel1->setMinimumWidth(m_panel1->fontMetrics().averageCharWidth() * 20);
-    addPanel(2, {}, 1);
-    m_panel3 = addPanel(3, {}, 0);
+    m_panel1 = addPanel(1, QStringLiteral("Elements"));
+    m_panel1->setMinimumWidth(m_panel1->fontMetrics().averageCharWidth() * 15);
+    statusBar()->addWidget(new StatusLine(QStringLiteral("StatusBar1.Panels(2)"), *this), 1);
+    m_panel3 = addPanel(3, {});
     m_findBar = new FindBar(m_store, m_desktop, *m_panel3, this);
     statusBar()->addWidget(m_findBar);
     statusBar()->setFixedHeight(statusBar()->sizeHint().height() + 8);
+    // The open Find bar has room in the narrowest window, if the screen has it.
+    m_findBar->open(false);
+    constexpr int Spacing = 30; // of the status bar, altogether
+    const int needed = m_panel1->minimumWidth() + m_panel3->minimumSizeHint().width() +
+                       m_findBar->minimumSizeHint().width() + Spacing;
+    setMinimumWidth(qMin(needed, screen()->availableSize().width()));
+    m_findBar->ResetSearchPanel();
 }
 
 void Form1::connectTray()
@@ -226,7 +235,6 @@ void Form1::showStartModule()
             m_panes->showAtStart(StartModules[module]);
     }
     updateCommands();
-    focusPanel();
 }
 
 void Form1::restoreAndRaise()
@@ -242,26 +250,13 @@ void Form1::executeCommand(int id)
     updateCommands();
 }
 
-void Form1::showPanel(PanelId id)
-{
-    m_panes->show(id);
-    focusPanel();
-}
-
-// The keyboard goes where the eyes are.
-void Form1::focusPanel()
-{
-    if (m_panes->isShown(PanelId::Elements))
-        m_elements->focusElement(m_elements->panel().CurrentElement);
-}
-
 void Form1::run(const Command &command)
 {
     switch (command.kind) {
     case CommandKind::Quit:
         return unloadAllWindows();
     case CommandKind::ShowPanel:
-        return showPanel(command.panel);
+        return m_panes->show(command.panel);
     case CommandKind::ShowPanelOnce:
         if (!m_panes->isShown(command.panel))
             m_panes->show(command.panel);

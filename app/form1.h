@@ -2,6 +2,7 @@
 
 #include "app/commandbars.h"
 #include "app/copyactions.h"
+#include "app/focuskeeper.h"
 #include "app/helpopener.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
@@ -12,6 +13,7 @@
 #include "search/findbar.h"
 #include "update/miseajour.h"
 #include "update/qtupdatenetwork.h"
+#include "widgets/focusmark.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -83,8 +85,6 @@ private:
     void checkVersion();
     void showSpectroscopy(int mode);
     ReportContext reportContext() const;
-    void showPanel(PanelId id);
-    void focusPanel();
     void unloadAllWindows();
     void keepReadable();
 
@@ -112,6 +112,8 @@ private:
     SpectroscopyPane *m_spectroscopy = nullptr;
     ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
+    std::unique_ptr<FocusKeeper> m_focusKeeper;
+    FocusMark m_focusMark;
     std::unique_ptr<OptionsHost> m_options;
 
     UnitLists m_units; ///< filled at the end of the load

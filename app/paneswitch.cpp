@@ -5,6 +5,9 @@
 #include "widgets/controls.h"
 #include "widgets/modulepanel.h"
 
+#include <QLabel>
+#include <algorithm>
+
 void PaneSwitch::show(PanelId id, const std::function<void()> &beforePanelText)
 {
     m_findBar.ResetSearchPanel();
@@ -28,6 +31,13 @@ void PaneSwitch::showAtStart(PanelId id)
 bool PaneSwitch::isShown(PanelId id) const
 {
     return Controls::isShown(panel(id));
+}
+
+ModulePanel *PaneSwitch::shownPanel() const
+{
+    const auto shown = std::find_if(m_panels.begin(), m_panels.end(),
+                                    [](const ModulePanel *panel) { return Controls::isShown(*panel); });
+    return shown == m_panels.end() ? nullptr : *shown;
 }
 
 // The new pane first, so that the window never stands empty between the two.

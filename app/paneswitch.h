@@ -31,6 +31,10 @@ public:
     void showAtStart(PanelId id);
 
     bool isShown(PanelId id) const;
+
+    /// Null before the first switch.
+    ModulePanel *shownPanel() const;
+
     ModulePanel &panel(PanelId id) const { return *m_panels[size_t(id)]; }
 
 private:

@@ -6,6 +6,7 @@
 #include "store/datastore.h"
 #include "widgets/rowlistmodel.h"
 
+#include <QApplication>
 #include <QGridLayout>
 
 namespace {
@@ -27,6 +28,12 @@ GeneticCodeSection::GeneticCodeSection(DataStore &store, Desktop &desktop, QWidg
     Combo2.connectEach(&QComboBox::currentIndexChanged, this, [this](int) { showAminoAcid(); });
     connect(Comb2, &QComboBox::activated, this, &GeneticCodeSection::showCodons);
     connect(Comb2, &QComboBox::currentIndexChanged, this, &GeneticCodeSection::showCodons);
+    // Tab stops at both, for the fields of the one come between them. Focus on either takes the other out of
+    // the Tab order.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        for (const auto &[index, option] : Option3)
+            option->setFocusPolicy(Qt::StrongFocus);
+    });
     Option3[0].setChecked(true);
     searchByLetters();
 }
@@ -124,13 +131,11 @@ void GeneticCodeSection::searchByAminoAcid()
     showLetterLabels(false);
 }
 
-// In the accent of the desktop, in its shade for texts, or in the grey of a disabled caption.
+// In the colour of a caption, or in the grey of a disabled one.
 void GeneticCodeSection::showLetterLabels(bool active)
 {
-    for (const auto &[index, label] : Label18) {
-        label->setForegroundRole(active ? QPalette::Link : QPalette::WindowText);
+    for (const auto &[index, label] : Label18)
         label->setEnabled(active);
-    }
 }
 
 // A codon that is not found leaves the last name where it is, but greyed and with a note: it is not its name.

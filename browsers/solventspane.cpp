@@ -145,7 +145,7 @@ void SolventsPane::buildDrying()
 void SolventsPane::changeTab(int number)
 {
     m_store.lists.ListView2[6].clear();
-    if (Controls::isShown(*m_findBar.TextBoxM6))
+    if (m_findBar.isSearching())
         m_findBar.ClearFindText();
     if (!SolventTabs::all()[number - 1].searchable)
         m_findBar.ResetSearchPanel();

@@ -26,10 +26,10 @@ void CalculationsPane::buildContents()
 
     m_solver = new SolverBox(m_module, m_desktop, this);
     m_solver->setGeometry(room.left(), room.top(), left, SolverHeight);
-    m_conversions = new ConversionBox(m_module, m_desktop, m_units, this);
-    m_conversions->setGeometry(room.left() + left + Gap, room.top(), ConversionWidth, room.height());
     auto *constants = new ConstantsBox(m_lists, {left, room.height() - below}, this);
     constants->move(room.left(), room.top() + below);
+    m_conversions = new ConversionBox(m_module, m_desktop, m_units, this);
+    m_conversions->setGeometry(room.left() + left + Gap, room.top(), ConversionWidth, room.height());
 }
 
 void CalculationsPane::emptyEntryFields()

@@ -38,9 +38,9 @@ struct Arrow
 };
 
 constexpr std::array<Arrow, 4> Arrows{{
+    {Direction::Up, Qt::Key_Up, {0, -1}, "arrow-up", "Moving up"},
     {Direction::Left, Qt::Key_Left, {-1, 0}, "arrow-left", "Moving left"},
     {Direction::Right, Qt::Key_Right, {1, 0}, "arrow-right", "Moving right"},
-    {Direction::Up, Qt::Key_Up, {0, -1}, "arrow-up", "Moving up"},
     {Direction::Down, Qt::Key_Down, {0, 1}, "arrow-down", "Moving down"},
 }};
 
@@ -48,19 +48,21 @@ constexpr std::array<Arrow, 4> Arrows{{
 
 ElementsPane::ElementsPane(Module1 &module1, DataStore &store, Desktop &desktop, FindBar &findBar,
                            QWidget *parent)
-    : ModulePanel("Frametable", parent), m_module1(module1), m_desktop(desktop), m_findBar(findBar),
-      m_panel(module1, store.tables)
+    : ModulePanel("Frametable", parent), m_module1(module1), m_tables(store.tables), m_desktop(desktop),
+      m_findBar(findBar), m_panel(module1, store.tables)
 {
-    connect(m_findBar.Combo2_3, &QComboBox::activated, this, [this] { pick(); });
+    connect(&m_findBar, &FindBar::namePicked, this, &ElementsPane::pick);
     connect(&m_findBar, &FindBar::closedByUser, this, [this] { takeOverPick(); });
 }
 
 void ElementsPane::buildContents()
 {
-    m_table = new PeriodicTable(this);
+    // In the order of Tab; the table is as large as the pane.
     buildPictures();
     buildArrows();
     buildButtons();
+    m_table = new PeriodicTable(m_tables, this);
+    m_table->lower();
     ReyFrame1 = new DataPanel(this);
     ReyFrame1->move(DataCorner);
     ReyFrame2 = new IsotopePanel(this);
@@ -96,10 +98,10 @@ void ElementsPane::buildArrows()
 
 void ElementsPane::buildButtons()
 {
-    Command9 = Controls::named(new QPushButton(tr("Crystal structure"), this), QStringLiteral("Command9"));
-    Command9->setGeometry(ButtonArea.translated(0, ButtonPitch));
     cmdhelp = Controls::named(new QPushButton(tr("Captions"), this), QStringLiteral("cmdhelp"));
     cmdhelp->setGeometry(ButtonArea);
+    Command9 = Controls::named(new QPushButton(tr("Crystal structure"), this), QStringLiteral("Command9"));
+    Command9->setGeometry(ButtonArea.translated(0, ButtonPitch));
 }
 
 void ElementsPane::connectControls()
@@ -120,6 +122,11 @@ void ElementsPane::keyPressEvent(QKeyEvent *event)
     ModulePanel::keyPressEvent(event);
 }
 
+QWidget *ElementsPane::firstFocus() const
+{
+    return &m_table->Command7[m_panel.CurrentElement];
+}
+
 void ElementsPane::focusElement(int element)
 {
     build();
@@ -138,7 +145,7 @@ void ElementsPane::select(int element)
 void ElementsPane::move(Direction direction)
 {
     atEdge(m_desktop, [&] {
-        const bool fromPick = isPickInUse();
+        const bool fromPick = m_findBar.isPickInUse();
         const bool moved = m_panel.move(direction, fromPick);
         m_table->focusElement(m_panel.CurrentElement);
         if (!moved)
@@ -152,17 +159,10 @@ void ElementsPane::move(Direction direction)
     });
 }
 
-bool ElementsPane::isPickInUse() const
+void ElementsPane::pick(const QString &name)
 {
-    return Controls::isShown(*m_findBar.Combo2_3) && m_findBar.Combo2_3->currentIndex() != -1;
-}
-
-void ElementsPane::pick()
-{
-    if (m_findBar.Combo2_3->currentIndex() == -1)
-        return;
-    atEdge(m_desktop, [this] {
-        m_panel.pick(m_findBar.Combo2_3->currentText());
+    atEdge(m_desktop, [&] {
+        m_panel.pick(name);
         focusElement(m_panel.LastComboElement);
         showPanel();
     });
@@ -231,7 +231,7 @@ void ElementsPane::refreshToolTips()
     const auto refresh = [this](QWidget &control, const QString &text) {
         ToolTips::refresh(m_module1.OptionSlots, control, text);
     };
-    refresh(*m_findBar.Picture2, QStringLiteral("Close search engine"));
+    m_findBar.refreshToolTip(m_module1.OptionSlots);
     if (isBuilt()) {
         refresh(*cmdhelp, QStringLiteral("Display captions"));
         for (const Arrow &arrow : Arrows)

@@ -27,7 +27,9 @@ public:
     ElementsPane(Module1 &module1, DataStore &store, Desktop &desktop, FindBar &findBar, QWidget *parent);
 
     ElementPanel &panel() { return m_panel; }
-    void focusElement(int element);
+
+    /// The button of the selected element.
+    QWidget *firstFocus() const override;
 
     /// What a click on the element's button does.
     void select(int element);
@@ -59,15 +61,16 @@ private:
     void connectControls();
 
     void move(Direction direction);
-    void pick();
+    void focusElement(int element);
+    void pick(const QString &name);
     void takeOverPick();
     void zoom();
     void showCrystal();
-    bool isPickInUse() const;
     void showPanel();
     void showVisibility();
 
     Module1 &m_module1;
+    const MemoryTables &m_tables;
     Desktop &m_desktop;
     FindBar &m_findBar;
     ElementPanel m_panel;

@@ -1,5 +1,6 @@
 #include "elements/periodictable.h"
 
+#include "store/memorytables.h"
 #include "widgets/controls.h"
 #include "widgets/modulepanel.h"
 #include "widgets/windowunits.h"
@@ -92,16 +93,16 @@ constexpr std::array<PeriodNumber, 9> PeriodNumbers{{
 
 } // namespace
 
-PeriodicTable::PeriodicTable(QWidget *parent) : QWidget(parent)
+PeriodicTable::PeriodicTable(const MemoryTables &tables, QWidget *parent) : QWidget(parent)
 {
     resize(ModulePanel::Size);
     buildGroupNumbers();
     buildPeriodNumbers();
-    buildButtons();
+    buildButtons(tables);
     letKeyboardIn(0);
 }
 
-void PeriodicTable::buildButtons()
+void PeriodicTable::buildButtons(const MemoryTables &tables)
 {
     auto *buttons = new QWidget(this);
     buttons->resize(size());
@@ -111,6 +112,8 @@ void PeriodicTable::buildButtons()
             auto *button = new ElementButton(QLatin1StringView(Symbols[size_t(index)]), buttons);
             button->setGeometry(
                 WindowUnits::rect(leftOf(run.group) + Pitch * (index - run.first), run.top, Side, Side));
+            button->setAccessibleName(
+                QStringLiteral("%1, %2").arg(tables.ElementData(index, ElementColumn::Name)).arg(index + 1));
             Command7.add(index, button);
         }
     }

@@ -5,6 +5,8 @@
 
 #include <QLabel>
 
+struct MemoryTables;
+
 /// The printed periodic table: the 118 buttons `Command7` with the numbers of groups and periods around them.
 ///
 /// It is as large as the pane, so that positions in it are those of the pane. The keyboard enters it at one
@@ -14,7 +16,8 @@ class PeriodicTable final : public QWidget
     Q_OBJECT
 
 public:
-    explicit PeriodicTable(QWidget *parent);
+    /// A screen reader hears "Helium, 2", by the names in @p tables.
+    PeriodicTable(const MemoryTables &tables, QWidget *parent);
 
     ControlArray<ElementButton> Command7{"Command7"};
 
@@ -25,7 +28,7 @@ public:
     void focusElement(int element);
 
 private:
-    void buildButtons();
+    void buildButtons(const MemoryTables &tables);
     void buildGroupNumbers();
     void buildPeriodNumbers();
     void letKeyboardIn(int element);

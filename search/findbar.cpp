@@ -5,9 +5,19 @@
 #include "widgets/icons.h"
 #include "widgets/rowlistmodel.h"
 #include "widgets/rowlistview.h"
+#include "widgets/statusline.h"
+#include "widgets/tooltips.h"
 
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QToolButton>
 
 FindBar::FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *parent)
     : QWidget(parent), m_store(store), m_desktop(desktop), m_panel3(panel3)
@@ -19,20 +29,23 @@ FindBar::FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *pa
 
 void FindBar::buildControls()
 {
+    // In the order of Tab.
+    Combo2_3 = Controls::named(new QComboBox(this), QStringLiteral("Combo2(3)"));
+    Combo2_3->setMinimumContentsLength(15); // of the longest names, "Rutherfordium" and its kind
+    Combo2_3->setAccessibleName(QStringLiteral("Name of the element"));
+    Combo2_3->setModel(new RowListModel(m_store.lists.Combo2[3], {{QStringLiteral("Name"), 160}}, Combo2_3));
+    TextBoxM6 = Controls::named(new QLineEdit(this), QStringLiteral("TextBoxM6"));
+    TextBoxM6->setMinimumWidth(60);
+    TextBoxM6->setAccessibleName(QStringLiteral("Search text"));
+    Command11.add(0, new QPushButton(QStringLiteral("Previous"), this));
+    Command11.add(1, new QPushButton(QStringLiteral("Next"), this));
+    for (const auto &[index, button] : Command11) // styles ask for more around short texts
+        button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) + 16);
+    case1 = Controls::named(new QCheckBox(QStringLiteral("Match case"), this), QStringLiteral("case1"));
     Picture2 = Controls::named(new QToolButton(this), QStringLiteral("Picture2"));
     Picture2->setIcon(Icons::named(QStringLiteral("close")));
     Picture2->setAutoRaise(true);
-    Picture2->setAccessibleName(tr("Close search engine"));
-    TextBoxM6 = Controls::named(new QLineEdit(this), QStringLiteral("TextBoxM6"));
-    TextBoxM6->setMinimumWidth(180);
-    TextBoxM6->setAccessibleName(tr("Search text"));
-    case1 = Controls::named(new QCheckBox(QStringLiteral("Match case"), this), QStringLiteral("case1"));
-    Command11.add(0, new QPushButton(QStringLiteral("Previous"), this));
-    Command11.add(1, new QPushButton(QStringLiteral("Next"), this));
-    Combo2_3 = Controls::named(new QComboBox(this), QStringLiteral("Combo2(3)"));
-    Combo2_3->setMinimumContentsLength(15); // of the longest names, "Rutherfordium" and its kind
-    Combo2_3->setAccessibleName(tr("Name of the element"));
-    Combo2_3->setModel(new RowListModel(m_store.lists.Combo2[3], {{tr("Name"), 160}}, Combo2_3));
+    Picture2->setAccessibleName(QStringLiteral("Close search engine"));
     Text1 = Controls::named(new QLineEdit(QStringLiteral("0"), this), QStringLiteral("Text1"));
     Text2 = Controls::named(new QLineEdit(QStringLiteral("0"), this), QStringLiteral("Text2"));
     Text1->hide();
@@ -54,7 +67,34 @@ void FindBar::connectControls()
     Command11.connectEach(&QPushButton::clicked, this, [this](int index) {
         atEdge(m_desktop, [this, index] { walk(Find::Direction(index)); });
     });
-    TextBoxM6->installEventFilter(this);
+    connect(Combo2_3, &QComboBox::activated, this, [this] {
+        if (isPickInUse())
+            Q_EMIT namePicked(Combo2_3->currentText());
+    });
+    addShortcuts();
+}
+
+// Each is on while its parent can be seen and used.
+void FindBar::addShortcuts()
+{
+    const auto add = [](const QKeySequence &key, QWidget *parent, Qt::ShortcutContext context, auto act) {
+        new QShortcut(key, parent, act, context);
+    };
+    const auto next = [this] { walkByKey(Find::Direction::Next); };
+    const auto previous = [this] { walkByKey(Find::Direction::Previous); };
+    add(Qt::Key_F3, &Command11[1], Qt::WindowShortcut, next);
+    add(Qt::SHIFT | Qt::Key_F3, &Command11[0], Qt::WindowShortcut, previous);
+    add(Qt::Key_Escape, Picture2, Qt::WindowShortcut, [this] { closeByUser(); });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        add(key, TextBoxM6, Qt::WidgetShortcut, next);
+        add(Qt::SHIFT | key, TextBoxM6, Qt::WidgetShortcut, previous);
+    }
+}
+
+QSize FindBar::sizeHint() const
+{
+    constexpr int WholeName = 180; // logical pixels of the search text
+    return QWidget::sizeHint() + QSize(isSearching() ? WholeName - TextBoxM6->sizeHint().width() : 0, 0);
 }
 
 void FindBar::setSearchedLists(RowListView *ListView1, RowListView *ListView3_26)
@@ -70,10 +110,13 @@ void FindBar::open(bool elementsOnShow)
     if (elementsOnShow) {
         Combo2_3->show();
         Combo2_3->setFocus();
-        return;
+        Combo2_3->installEventFilter(this);
+        Combo2_3->view()->installEventFilter(this);
+        return Combo2_3->showPopup();
     }
     TextBoxM6->show();
     TextBoxM6->setFocus();
+    TextBoxM6->selectAll();
     Command11[0].show();
     Command11[1].show();
     case1->show();
@@ -81,7 +124,10 @@ void FindBar::open(bool elementsOnShow)
 
 void FindBar::closeByUser()
 {
+    const auto searched = isSearching() ? searchedList() : std::nullopt;
     ResetSearchPanel();
+    if (searched)
+        searched->view->setFocus();
     Q_EMIT closedByUser();
 }
 
@@ -97,6 +143,7 @@ void FindBar::ResetSearchPanel()
     m_panel3.clear();
     Picture2->hide();
     Combo2_3->setCurrentIndex(-1);
+    StatusLine::show(*this, {});
 }
 
 void FindBar::ClearFindText()
@@ -107,6 +154,21 @@ void FindBar::ClearFindText()
     Text1->setText(QStringLiteral("0"));
     Text2->setText(QStringLiteral("0"));
     case1->setChecked(false);
+}
+
+bool FindBar::isSearching() const
+{
+    return Controls::isShown(*TextBoxM6);
+}
+
+bool FindBar::isPickInUse() const
+{
+    return Controls::isShown(*Combo2_3) && Combo2_3->currentIndex() != -1;
+}
+
+void FindBar::refreshToolTip(const OptionSlots &slots)
+{
+    ToolTips::refresh(slots, *Picture2, QStringLiteral("Close search engine"));
 }
 
 std::optional<FindBar::Searched> FindBar::searchedList() const
@@ -143,18 +205,28 @@ void FindBar::gather(const Searched &searched, bool enableNext)
         Command11[1].setEnabled(!text.isEmpty());
     RowList &hits = m_store.lists.ListView2[6];
     if (text.isEmpty())
-        return hits.clear();
-    // Both lists are searched as far as there are solvents.
-    Find::gather(*searched.rows, m_store.SolventCount, text,
-                 case1->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
+        hits.clear();
+    else // both lists are searched as far as there are solvents
+        Find::gather(*searched.rows, m_store.SolventCount, text,
+                     case1->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
+    sayWhetherFound();
+}
+
+void FindBar::sayWhetherFound()
+{
+    const QString text = TextBoxM6->text();
+    const bool missed = !text.isEmpty() && m_store.lists.ListView2[6].rowCount() == 0;
+    StatusLine::show(*this, missed ? QStringLiteral("Nothing found for \"%1\"").arg(text) : QString());
 }
 
 void FindBar::walk(Find::Direction direction)
 {
     const RowList &hits = m_store.lists.ListView2[6];
     const auto searched = searchedList();
-    if (hits.rowCount() == 0 || !searched)
+    if (hits.rowCount() == 0 || !searched) {
+        sayWhetherFound();
         return m_desktop.beep();
+    }
     Command11[0].setEnabled(true);
     const Find::Position current{Text1->text().toInt(), Text2->text().toInt()};
     if (const auto found = Find::walk(*searched->rows, hits, current, direction)) {
@@ -168,10 +240,12 @@ void FindBar::walk(Find::Direction direction)
 }
 
 // From the search text one walks on with the same key, so it keeps the focus.
-void FindBar::walkFromText(Find::Direction direction)
+void FindBar::walkByKey(Find::Direction direction)
 {
+    const bool fromText = TextBoxM6->hasFocus();
     Command11[int(direction)].click();
-    TextBoxM6->setFocus();
+    if (fromText)
+        TextBoxM6->setFocus();
 }
 
 bool FindBar::eventFilter(QObject *watched, QEvent *event)
@@ -179,16 +253,17 @@ bool FindBar::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
-    switch (key->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        walkFromText(key->modifiers() & Qt::ShiftModifier ? Find::Direction::Previous
-                                                          : Find::Direction::Next);
-        return true;
-    case Qt::Key_Escape:
+    const bool opened = watched == Combo2_3->view();
+    if (opened && key->key() == Qt::Key_Escape) {
+        Combo2_3->hidePopup();
         closeByUser();
         return true;
-    default:
-        return QWidget::eventFilter(watched, event);
     }
+    // By itself a closed drop-down picks the first name with the letter.
+    if (!opened && !key->text().isEmpty() && key->text().front().isLetter()) {
+        Combo2_3->showPopup();
+        QCoreApplication::sendEvent(Combo2_3->view(), event);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }

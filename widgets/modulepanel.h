@@ -26,6 +26,9 @@ public:
     /// Makes sure that the controls exist. Whoever touches them from outside calls it first.
     void build();
 
+    /// The control for the keyboard when the pane is opened. Null for no one in particular.
+    virtual QWidget *firstFocus() const { return nullptr; }
+
     bool isBuilt() const { return m_built; }
 
 protected:

@@ -11,8 +11,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QToolTip>
 #include <algorithm>
 
@@ -168,18 +166,6 @@ void RowListView::mousePressEvent(QMouseEvent *event)
     QTreeView::mousePressEvent(event);
     if (event->button() == Qt::RightButton && selectedRow() >= 0 && selectedRow() != before)
         Q_EMIT rowClicked(selectedRow());
-}
-
-// With rows, the current one shows the focus.
-void RowListView::paintEvent(QPaintEvent *event)
-{
-    QTreeView::paintEvent(event);
-    if (!hasFocus() || m_model->rowCount() > 0)
-        return;
-    QPainter painter(viewport());
-    QStyleOptionFocusRect option;
-    option.initFrom(viewport());
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 bool RowListView::viewportEvent(QEvent *event)

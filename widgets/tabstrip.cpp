@@ -113,10 +113,4 @@ void TabStrip::paintTab(QStylePainter &painter, int index)
     painter.drawItemText(tab.rect.adjusted(margin, 0, -margin, 0),
                          alignment | Qt::AlignVCenter | Qt::TextShowMnemonic, tab.palette, isEnabled(),
                          tab.text, colour);
-    if (selected && hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = tab.rect.adjusted(3, 3, -3, -3);
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-    }
 }

@@ -5,6 +5,7 @@
 #include "tests/support/scripteddesktop.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void theNucleusIsKeptThroughTabChanges();
     void theNucleusButtonsAreMovedAndNeverHidden();
     void tabsThatCannotBeSearchedCloseTheFindBar();
+    void aNameTypedOnATabIsLookedForInTheList();
     void aDoubleClickOpensTheStructureOnlyIfWanted();
 };
 
@@ -171,17 +173,33 @@ void SolventsPaneTest::tabsThatCannotBeSearchedCloseTheFindBar()
 {
     Window window;
     window.pane.show();
-    window.findBar.TextBoxM6->show();
-    window.findBar.TextBoxM6->setText("ace");
+    window.findBar.open(false);
+    auto &text = window.get<QLineEdit>("TextBoxM6");
+    QTest::keyClicks(&text, "ace");
+    QCOMPARE(window.store.lists.ListView2[6].rowCount(), 0); // no count of solvents, no hits
     window.store.lists.ListView2[6].append(u"Acetone");
 
     window.pane.selectTab(4);
-    QVERIFY(Controls::isShown(*window.findBar.TextBoxM6));
-    QVERIFY(window.findBar.TextBoxM6->text().isEmpty());
+    QVERIFY(window.findBar.isSearching());
+    QVERIFY(text.text().isEmpty());
     QCOMPARE(window.store.lists.ListView2[6].rowCount(), 0);
 
     window.pane.selectTab(5);
-    QVERIFY(!Controls::isShown(*window.findBar.TextBoxM6));
+    QVERIFY(!window.findBar.isSearching());
+}
+
+void SolventsPaneTest::aNameTypedOnATabIsLookedForInTheList()
+{
+    Window window;
+    window.pane.show();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto &tabs = window.get<QTabBar>("TabStrip1");
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(3).center());
+    for (const char letter : {'w', 'a', 't'})
+        QTest::keyClick(window.focusWidget(), letter);
+    QCOMPARE(window.pane.ListView3[26].selectedRow(), 1);
+    QVERIFY(window.pane.ListView3[26].hasFocus());
 }
 
 void SolventsPaneTest::aDoubleClickOpensTheStructureOnlyIfWanted()

@@ -1,12 +1,14 @@
 #include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
 #include "widgets/modulepanel.h"
+#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
 #include <QToolButton>
+#include <algorithm>
 
 /// What a screen reader and the keyboard find: every pane and window, walked as they stand in the running
 /// program.
@@ -17,7 +19,8 @@ class AccessibilityTest final : public WholeRun
 private Q_SLOTS:
     void everyControlOfEveryPaneHasAName();
     void everyControlOfEverySideWindowHasAName();
-    void everyPaneIsReachedByTab();
+    void everyPaneIsWalkedWithTab();
+    void theFocusComesBackFromASideWindow();
 
 private:
     // Buttons that Alt and a letter do not press, and letters that two of them have.
@@ -40,6 +43,73 @@ private:
                 check(tabs->tabText(tab));
         }
         return found;
+    }
+
+    static QString nameOf(const QWidget *control)
+    {
+        return control ? control->parentWidget()->objectName() + QLatin1Char('/') + control->objectName()
+                       : QStringLiteral("nothing");
+    }
+
+    static bool isStop(const QWidget &control, const QWidget &pane)
+    {
+        return (control.focusPolicy() & Qt::TabFocus) && !control.focusProxy() && control.isEnabled() &&
+               Controls::isOnTop(control, pane);
+    }
+
+    // To the right, be it up into the next column, or down, or onto what lies over the control. Two pixels
+    // for edges that neighbours share, twelve for hydrogen, which begins beside the lowest of the buttons
+    // over the table.
+    static bool followsTheEye(const QWidget &from, const QWidget &to)
+    {
+        const QRect a(from.mapTo(from.window(), QPoint()), from.size());
+        const QRect b(to.mapTo(to.window(), QPoint()), to.size());
+        return b.left() >= a.right() - 2 || b.top() >= a.bottom() - 12 || a.contains(b);
+    }
+
+    // The stops from the focus all the way round.
+    static QList<QWidget *> round(Form1 &form, Qt::Key key)
+    {
+        constexpr int Many = 60;
+        QList<QWidget *> way{form.focusWidget()};
+        do {
+            QTest::keyClick(form.focusWidget(), key);
+            way << form.focusWidget();
+        } while (way.constLast() != way.constFirst() && way.size() < Many);
+        return way;
+    }
+
+    static QStringList faultsOfTabOrder(Form1 &form)
+    {
+        QApplication::processEvents();
+        const QList<ModulePanel *> panes = form.findChildren<ModulePanel *>();
+        const ModulePanel &pane = **std::find_if(panes.begin(), panes.end(),
+                                                 [](const ModulePanel *each) { return each->isVisible(); });
+        const QList<QWidget *> there = round(form, Qt::Key_Tab);
+        QList<QWidget *> back = round(form, Qt::Key_Backtab);
+        std::reverse(back.begin(), back.end());
+        QStringList faults;
+        int leaps = 0;
+        for (qsizetype step = 1; step < there.size(); ++step) {
+            if (!followsTheEye(*there[step - 1], *there[step]) && ++leaps > 1) // one closes the round
+                faults << QStringLiteral("from %1 to %2").arg(nameOf(there[step - 1]), nameOf(there[step]));
+        }
+        if (back != there)
+            faults << QStringLiteral("another way back in %1").arg(pane.objectName());
+        for (const QWidget *control : pane.findChildren<QWidget *>()) {
+            const auto times = std::count(there.begin() + 1, there.end(), control);
+            if (times != (isStop(*control, pane) ? 1 : 0))
+                faults << QStringLiteral("%1 times at %2").arg(times).arg(nameOf(control));
+        }
+        for (qsizetype half = there.size() / 2; half > 0; --half)
+            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        return faults;
+    }
+
+    template<class W = QAbstractButton>
+    static W &control(Form1 &form, const char *name)
+    {
+        return *form.findChild<W *>(QLatin1StringView(name));
     }
 
     // Controls that take the focus and tell a screen reader nothing.
@@ -70,7 +140,9 @@ void AccessibilityTest::everyControlOfEveryPaneHasAName()
     const ProgramFolder folder;
     QStringList found;
     run(folder, [&](Form1 &form) {
-        form.findChild<QAbstractButton *>(QStringLiteral("Command7(25)"))->click(); // values to read
+        control(form, "Command7(25)").click(); // values to read
+        auto *picture = QAccessible::queryAccessibleInterface(&control<QWidget>(form, "imgato"));
+        QCOMPARE(picture->role(), QAccessible::Button);
         Walk::throughPanes(form, [&] { found << unnamed(form); });
     });
     found.removeDuplicates();
@@ -97,29 +169,38 @@ void AccessibilityTest::everyControlOfEverySideWindowHasAName()
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char(' '))));
 }
 
-// Tab comes into every pane that has something to operate.
-void AccessibilityTest::everyPaneIsReachedByTab()
+// Each change of pane, tab and option leaves the focus in sight, though it was on what has gone. From there
+// Tab and Shift+Tab come by every control once.
+void AccessibilityTest::everyPaneIsWalkedWithTab()
+{
+    const ProgramFolder folder;
+    QStringList found;
+    run(folder, [&](Form1 &form) {
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        control(form, "Command7(25)").click();
+        Walk::throughPanes(
+            form, [&] { found << faultsOfTabOrder(form); }, true);
+    });
+    found.removeDuplicates();
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void AccessibilityTest::theFocusComesBackFromASideWindow()
 {
     const ProgramFolder folder;
     run(folder, [&](Form1 &form) {
-        for (const PanelName &name : Panels) {
-            const auto *panel = form.findChild<ModulePanel *>(QString::fromLatin1(name.frame));
-            for (const Command &command : Commands) {
-                if (command.kind == CommandKind::ShowPanel && command.panel == name.panel)
-                    form.executeCommand(command.id);
-            }
-            if (!panel->isVisible())
-                continue;
-            QWidget *control = form.nextInFocusChain();
-            int inside = 0;
-            while (control && control != &form) {
-                const bool stop = control->isVisible() && control->isEnabled() &&
-                                  (control->focusPolicy() & Qt::TabFocus) && panel->isAncestorOf(control);
-                inside += stop ? 1 : 0;
-                control = control->nextInFocusChain();
-            }
-            QVERIFY2(inside > 0 || name.panel == PanelId::Polymers, name.frame);
-        }
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.executeCommand(1119);
+        QApplication::processEvents();
+        auto &list = control<RowListView>(form, "ListView1");
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+        SideWindow *window = Walk::sideWindow(form);
+        QVERIFY(window && !form.isEnabled());
+        QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(list.hasFocus());
+        QCOMPARE(list.selectedRow(), 1);
     });
 }
 

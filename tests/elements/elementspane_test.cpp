@@ -6,11 +6,13 @@
 #include "widgets/picturewindow.h"
 #include "widgets/windowunits.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 namespace {
 
@@ -47,10 +49,12 @@ struct Rig
     void press(Qt::Key key) { QTest::keyClick(form1.focusWidget(), key); }
     void pickByHand(int row)
     {
-        findBar.Combo2_3->show();
-        findBar.Combo2_3->setCurrentIndex(row);
-        Q_EMIT findBar.Combo2_3->activated(row);
+        findBar.open(true);
+        names().setCurrentIndex(row);
+        Q_EMIT names().activated(row);
     }
+    QComboBox &names() const { return *findBar.findChild<QComboBox *>("Combo2(3)"); }
+    QToolButton &Picture2() const { return *findBar.findChild<QToolButton *>("Picture2"); }
     SideWindow *sideWindow(const char *name) const
     {
         return form1.findChild<SideWindow *>(QLatin1StringView(name));
@@ -164,7 +168,7 @@ void ElementsPaneTest::upAndDownLeadToTheNeighbourInTheColumn()
 
 void ElementsPaneTest::arrowKeysOnTheTableDoWhatTheArrowButtonsDo()
 {
-    m_rig->pane->focusElement(H);
+    m_rig->pane->firstFocus()->setFocus();
     m_rig->press(Qt::Key_Down); // an empty panel shows hydrogen first
     QCOMPARE(m_rig->text("lblatome(0)"), QStringLiteral("H"));
     m_rig->press(Qt::Key_Down);
@@ -184,6 +188,7 @@ void ElementsPaneTest::tabLeadsToTheElementOnShowAlone()
     m_rig->Command7(Fe)->click();
     for (int element = 0; element <= Uuo; ++element)
         QCOMPARE(bool(m_rig->Command7(element)->focusPolicy() & Qt::TabFocus), element == Fe);
+    QCOMPARE(m_rig->Command7(1)->accessibleName(), QStringLiteral("Helium, 2"));
 }
 
 void ElementsPaneTest::decayModesAreShownInGreek()
@@ -197,8 +202,8 @@ void ElementsPaneTest::decayModesAreShownInGreek()
 
 void ElementsPaneTest::aClickClosesTheFindBarAndAnArrowOnlyAfterAPick()
 {
-    QComboBox &names = *m_rig->findBar.Combo2_3;
-    names.show();
+    m_rig->findBar.open(true);
+    const QComboBox &names = m_rig->names();
     m_rig->find<QToolButton>("cmdpre(1)")->click();
     QVERIFY(Controls::isShown(names));
     m_rig->pickByHand(Fe);
@@ -221,18 +226,18 @@ void ElementsPaneTest::aPickLeavesTheFindBarOpenAndItsCloseButtonTakesOver()
     m_rig->pickByHand(Fe);
     QCOMPARE(m_rig->text("lblatome(1)"), QStringLiteral("Iron"));
     QCOMPARE(m_rig->form1.focusWidget(), m_rig->Command7(Fe));
-    QVERIFY(Controls::isShown(*m_rig->findBar.Combo2_3));
+    QVERIFY(Controls::isShown(m_rig->names()));
     QCOMPARE(m_rig->pane->panel().CurrentElement, C);
 
     m_rig->Command7(C)->setFocus();
-    m_rig->findBar.Picture2->click();
+    m_rig->Picture2().click();
     QCOMPARE(m_rig->pane->panel().CurrentElement, Fe);
     QCOMPARE(m_rig->form1.focusWidget(), m_rig->Command7(Fe));
 
     // On any other pane the button has nothing to do with the elements.
     m_rig->Command7(C)->click();
     m_rig->pane->hide();
-    m_rig->findBar.Picture2->click();
+    m_rig->Picture2().click();
     QCOMPARE(m_rig->pane->panel().CurrentElement, C);
 }
 
@@ -250,7 +255,7 @@ void ElementsPaneTest::balloonsFollowTheOption()
 {
     const QSignalSpy refreshed(m_rig->pane, &ElementsPane::toolTipsRefreshed);
     const auto tips = [this] {
-        QStringList all{m_rig->findBar.Picture2->toolTip()};
+        QStringList all{m_rig->Picture2().toolTip()};
         for (const char *name : {"cmdhelp", "cmdpre(0)", "cmdpre(1)", "cmdpre(2)", "cmdpre(3)", "Command9",
                                  "imgato", "Picture1"})
             all << m_rig->toolTip(name);
@@ -373,7 +378,7 @@ void ElementsPaneTest::optionsReachThePaneBeforeItIsBuilt()
     pane.refreshZoomPointer();
     pane.applyPictureOption();
     QVERIFY(!pane.isBuilt());
-    QCOMPARE(findBar.Picture2->toolTip(), QStringLiteral("Close search engine"));
+    QCOMPARE(findBar.findChild<QWidget *>("Picture2")->toolTip(), QStringLiteral("Close search engine"));
 
     pane.show();
     QCOMPARE(pane.findChild<QWidget *>(QStringLiteral("cmdpre(2)"))->toolTip(), QStringLiteral("Moving up"));
