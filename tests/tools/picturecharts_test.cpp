@@ -2,8 +2,8 @@
 
 #include "charts/chartgeometry.h"
 #include "tests/tools/pictures_data.h"
+#include "tools/make_pictures/formula.h"
 #include "tools/make_pictures/ircharts.h"
-#include "tools/make_pictures/motif.h"
 #include "tools/make_pictures/nmrcharts.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/shiftaxis.h"
@@ -60,8 +60,8 @@ private Q_SLOTS:
     void tallInfraredChartsCanBeScrolledToTheirEnd();
     void shiftsFallFromLeftToRight();
     void shiftScalesAreRoundedOutwards();
-    void motifsMarkTheObservedAtom();
-    void patternsThatSayNothingAreNotDrawn();
+    void numberedAtomsAreMarked();
+    void barsNeedTwentyObservations();
     void wrongDataIsRefusedWithFileAndLine_data();
     void wrongDataIsRefusedWithFileAndLine();
 };
@@ -153,24 +153,33 @@ void PictureChartsTest::shiftScalesAreRoundedOutwards()
     QCOMPARE(whole.low(), 1.0);
 }
 
-void PictureChartsTest::motifsMarkTheObservedAtom()
+void PictureChartsTest::numberedAtomsAreMarked()
 {
-    for (const char *smarts :
-         {"[CX4H3]Cl", "[nH;r5;!$(n:n);!$(n:c:n)]", "[OX2H1][CX4]",
-          "[cH1;R1;!$(c=[O,S,N])]1[n;R1][c;R1][c;R1][n;R1]1", "[CX3](=O)1[NX3]C(=O)[CX4][CX4]1",
-          "[CX4H1](-[CX4])(-[CX4])-[$([NX3](=O)=O),$([NX3+](=O)[O-])]"}) {
-        const std::optional<Formula> motif = motifFormula(QString::fromLatin1(smarts), Scale);
-        QVERIFY2(motif, smarts);
-        QVERIFY2(markedAbscissa(*motif) >= 0, smarts);
+    for (const char *smiles : {"C([H:1])([H:1])([H:1])O* |$C;;;;;R$|", "[C:1]1(=O)NC(=O)CC1", "O([H:1])C"}) {
+        const std::optional<Formula> motif = Formula::fromSmiles(QString::fromLatin1(smiles), Scale);
+        QVERIFY2(motif, smiles);
+        QVERIFY2(markedAbscissa(*motif) >= 0, smiles);
     }
     const std::optional<Formula> solvent = Formula::fromSmiles(QStringLiteral("CCO"), Scale);
     QCOMPARE(markedAbscissa(*solvent), -1);
 }
 
-void PictureChartsTest::patternsThatSayNothingAreNotDrawn()
+void PictureChartsTest::barsNeedTwentyObservations()
 {
-    for (const char *smarts : {"", "[X4]", "[CX4H3](", "[$(CC)]", "[CX4H3](C)(C)(C)(C)C"})
-        QVERIFY2(!motifFormula(QString::fromLatin1(smarts), Scale), smarts);
+    // On the whole scale the bar of R-CH2-SO2-R (12 values) would be filled for 8 lines, that of R-CH2-S-R
+    // (43) is.
+    const auto barHeight = [](int chart) {
+        const QImage picture(Pictures + QStringLiteral("nmr/1h/%1.gif").arg(chart));
+        const QRgb colour = classColour(QStringLiteral("CH2 next to sulfur")).rgb();
+        int lines = 0;
+        for (int y = 170; y < 186; ++y) {
+            const auto [first, last] = longestRun(picture.copy(0, y, picture.width(), 1), colour);
+            lines += last - first >= 10;
+        }
+        return lines;
+    };
+    QVERIFY(barHeight(86) >= 6);
+    QCOMPARE(barHeight(88), 1);
 }
 
 void PictureChartsTest::wrongDataIsRefusedWithFileAndLine_data()
@@ -187,7 +196,10 @@ void PictureChartsTest::wrongDataIsRefusedWithFileAndLine_data()
     };
     row("typical shift outside its range", "nmr_1h.tsv", "0.76\t0.92", "0.76\t1.92", drawNmrCharts, 6);
     row("shift that is no number", "nmr_1h.tsv", "0.73\t1.00", "0.73\tone", drawNmrCharts, 7);
-    row("motif that cannot be drawn", "nmr_1h.tsv", "\t[CX4H3]Cl\t", "\t[X4]\t", drawNmrCharts, 31);
+    row("motif that cannot be drawn", "nmr_1h.tsv", "\tC([H:1])([H:1])([H:1])Cl ", "\tC(Cl ", drawNmrCharts,
+        31);
+    row("motif without an observed atom", "nmr_1h.tsv", "\tC([H:1])([H:1])([H:1])Cl ",
+        "\tC([H])([H])([H])Cl ", drawNmrCharts, 31);
     row("overview without classes", "nmr_overview.tsv", "1H\t2\t", "1H\t9\t", drawNmrCharts, 3);
     row("band off the scale", "ir_bands.tsv", "2862\t2972", "2862\t4972", drawIrCharts, 3);
     row("band without a colour", "ir_bands.tsv", "1017\t1025\tm\tHydrogen (H),  Carbon (C)\t008000",

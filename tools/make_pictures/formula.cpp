@@ -1,7 +1,5 @@
 #include "tools/make_pictures/formula.h"
 
-#include "tools/make_pictures/atomlabel.h"
-
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -16,6 +14,13 @@ namespace {
 RDKit::DrawColour drawColour(const QColor &colour)
 {
     return {colour.redF(), colour.greenF(), colour.blueF()};
+}
+
+/// Draws @p label for the atom as it is given, and @p leftwards where its bond leaves to the right.
+void setLabel(RDKit::Atom &atom, const std::string &label, const std::string &leftwards)
+{
+    atom.setProp(RDKit::common_properties::_displayLabel, label);
+    atom.setProp(RDKit::common_properties::_displayLabelW, leftwards);
 }
 
 bool isPhenylOnPhosphorus(const RDKit::RWMol &molecule, const RDKit::Atom *atom)
@@ -63,12 +68,18 @@ void dropMetalRadicals(RDKit::RWMol &molecule)
     }
 }
 
-/// RDKit would put the sign between the atom and a bond to its right, where it reads as a part of the bond.
+/// RDKit would put the sign between the atom and a bond to its right, where it reads as a part of the bond:
+/// it stands first there.
 void clearNegativeEnds(RDKit::RWMol &molecule)
 {
     for (RDKit::Atom *atom : molecule.atoms()) {
-        if (atom->getFormalCharge() == -1 && atom->getDegree() == 1)
-            labelWithHydrogens(*atom);
+        if (atom->getFormalCharge() != -1 || atom->getDegree() != 1)
+            continue;
+        const unsigned count = atom->getTotalNumHs();
+        const std::string number = count > 1 ? "<sub>" + std::to_string(count) + "</sub>" : "";
+        const std::string hydrogens = count > 0 ? "H" + number : "";
+        setLabel(*atom, atom->getSymbol() + hydrogens + "<sup>-</sup>",
+                 "<sup>-</sup>" + hydrogens + atom->getSymbol());
     }
 }
 
@@ -78,7 +89,9 @@ std::optional<Formula> Formula::fromSmiles(const QString &smiles, const Style &s
 {
     std::unique_ptr<RDKit::RWMol> molecule;
     try {
-        molecule.reset(RDKit::SmilesToMol(smiles.toStdString()));
+        RDKit::SmilesParserParams parameters;
+        parameters.removeHs = false;
+        molecule.reset(RDKit::SmilesToMol(smiles.toStdString(), parameters));
     } catch (const std::exception &) { // RDKit has a type of its own for each fault
         return std::nullopt;
     }
@@ -101,7 +114,6 @@ Formula::Formula(RDKit::RWMol &molecule, const Style &style)
     options.additionalAtomLabelPadding = 0.12;
     options.bondLineWidth = 1.5;
     options.explicitMethyl = true;
-    options.dummiesAreAttachments = true;
     options.atomLabelDeuteriumTritium = true;
     options.clearBackground = false;
     options.includeMetadata = false;
@@ -111,9 +123,11 @@ Formula::Formula(RDKit::RWMol &molecule, const Style &style)
     RDKit::assignBWPalette(options.atomColourPalette);
 
     std::vector<int> marked;
-    for (const RDKit::Atom *atom : molecule.atoms()) {
-        if (atom->hasProp("marked"))
-            marked.push_back(int(atom->getIdx()));
+    for (RDKit::Atom *atom : molecule.atoms()) {
+        if (atom->getAtomMapNum() == 0)
+            continue;
+        marked.push_back(int(atom->getIdx()));
+        atom->setAtomMapNum(0);
     }
     drawer.drawMolecule(molecule, &marked);
     drawer.finishDrawing();

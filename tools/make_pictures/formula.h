@@ -30,11 +30,10 @@ public:
         QColor mark = QColor(0xff, 0xd2, 0x66); ///< behind marked atoms
     };
 
-    /// Nothing if @p smiles is not a structure. Phenyl groups on phosphorus are written "Ph".
+    /// Nothing if @p smiles is not a structure. It may bring labels and coordinates as CXSMILES; atoms with a
+    /// number, as in "[CH3:1]", get a coloured disc. Hydrogens that are written as atoms are drawn, phenyl
+    /// groups on phosphorus are written "Ph".
     static std::optional<Formula> fromSmiles(const QString &smiles, const Style &style);
-
-    /// Takes coordinates from RDKit; the atoms with the property "marked" get a coloured disc behind them.
-    Formula(RDKit::RWMol &molecule, const Style &style);
 
     /// Pixels, with the margin that the labels need.
     QSizeF size() const;
@@ -42,5 +41,7 @@ public:
     void paint(QPainter &painter, QPointF topLeft) const;
 
 private:
+    Formula(RDKit::RWMol &molecule, const Style &style);
+
     std::shared_ptr<QSvgRenderer> m_drawing;
 };

@@ -1,7 +1,7 @@
 #include "tools/make_pictures/nmrcharts.h"
 
 #include "charts/chartgeometry.h"
-#include "tools/make_pictures/motif.h"
+#include "tools/make_pictures/formula.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/shiftaxis.h"
@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -34,17 +35,34 @@ constexpr Nucleus Proton{"1H", "nmr/1h", "/drawing/nmr_1h.tsv", "motif", "/notes
 constexpr Nucleus Carbon{"13C", "nmr/13c", "/drawing/nmr_13c.tsv", "motif2", "/notes/RMN13Cspectro.tsv",
                          -30,   250};
 
-/// Below this many observations a range says little, below the second number it runs from lowest to highest.
-constexpr int FewObservations = 10;
+/// From this many observations on the range is drawn as a bar; below the second number it runs from lowest to
+/// highest. The data keep the ends and the median of a motif, not its single values.
+constexpr int FewestForBar = 20;
 constexpr int ExtremesOnly = 8;
+
+/// What the labels in the structures mean, in the order of the legend.
+struct Label
+{
+    const char *pattern;
+    const char *meaning;
+};
+
+constexpr std::array Labels{
+    Label{R"(R(?!'))", "R carbon group"},
+    Label{"R'", "R' any group or H"},
+    Label{"Ar", "Ar aromatic ring"},
+    Label{"Hal", "Hal halogen"},
+    Label{"X", "X any group"},
+    Label{"Het", "Het heteroaromatic ring"},
+};
 
 struct Motif
 {
     int row = 0;
     QString name;
     QString group;
-    QString smarts;
-    QString lowText; ///< as the table gives it, with its number of decimals
+    QString structure; ///< CXSMILES, the observed atoms numbered 1
+    QString lowText;   ///< as the table gives it, with its number of decimals
     QString typicalText;
     QString highText;
     ShiftRange range;
@@ -86,7 +104,7 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
         motif.row = row;
         motif.name = table.cell(row, nucleus.motifColumn);
         motif.group = table.cell(row, "group");
-        motif.smarts = table.cell(row, "smarts");
+        motif.structure = table.cell(row, "structure");
         motif.lowText = minusSign(table.cell(row, "low"));
         motif.typicalText = minusSign(table.cell(row, "typical"));
         motif.highText = minusSign(table.cell(row, "high"));
@@ -96,6 +114,7 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
             motif.range.typical = table.number(row, "typical");
         if (!table.cell(row, "n").isEmpty())
             motif.observations = int(table.number(row, "n"));
+        motif.range.bar = motif.observations >= FewestForBar;
         if (!motif.isOverview() &&
             !(motif.range.low <= motif.range.typical && motif.range.typical <= motif.range.high))
             table.fail(row, u"the typical shift lies outside its range"_s);
@@ -108,12 +127,25 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
 
 QString basis(const Motif &motif)
 {
-    const QString few = motif.observations < FewObservations ? u" (few data)"_s : QString();
     if (motif.observations == 0)
         return u"general correlation values, not from a set of spectra"_s;
     if (motif.observations < ExtremesOnly)
-        return u"lowest to highest of %1 observations"_s.arg(motif.observations) + few;
-    return u"2.5 to 97.5 percentile of %1 observations"_s.arg(motif.observations) + few;
+        return u"lowest, median and highest of %1 observations"_s.arg(motif.observations);
+    if (!motif.range.bar)
+        return u"ends and median of %1 observations, too few for a bar"_s.arg(motif.observations);
+    return u"2.5 to 97.5 percentile of %1 observations"_s.arg(motif.observations);
+}
+
+/// The labels that the structure has, with their meaning.
+QString legend(const QString &structure)
+{
+    const QString labels = structure.section(QLatin1Char('$'), 1, 1);
+    QStringList meanings;
+    for (const Label &label : Labels) {
+        if (labels.contains(QRegularExpression(QString::fromLatin1(label.pattern))))
+            meanings << QString::fromLatin1(label.meaning);
+    }
+    return meanings.join(u", "_s);
 }
 
 /// Lines of a formula text, one below the other; gives the ordinate below the last one.
@@ -138,8 +170,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
 
     painter.setPen(SoftInk);
     painter.setFont(textFont(10));
-    painter.drawText(QRectF(0, height - 14, 310, 14), Qt::AlignCenter,
-                     u"R carbon group, Ar aromatic ring, wavy bond any group or H"_s);
+    painter.drawText(QRectF(0, height - 14, 310, 14), Qt::AlignCenter, legend(motif.structure));
 
     const QRectF texts(316, 10, Width - 316 - 8, height - 10);
     painter.setPen(Ink);
@@ -284,15 +315,18 @@ QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &o
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(SoftInk);
     painter.setFont(textFont(11));
-    painter.drawText(QPointF(NameLeft, 18), u"Bar: 2.5 to 97.5 percentile of n observations.  Mark: "
-                                            "typical value (median)."_s);
+    QString key = u"Bar: 2.5 to 97.5 percentile of n observations.  Mark: typical value (median)."_s;
+    if (std::any_of(rows.begin(), rows.end(),
+                    [&](int row) { return classes.number(row, "n") < FewestForBar; }))
+        key += u"  Line: below %1 observations."_s.arg(FewestForBar);
+    painter.drawText(QPointF(NameLeft, 18), key);
     paintColumnTitles(painter, {}, RowsTop - 6);
     axis.paintGrid(painter, RowsTop, rowsBottom);
     for (int i = 0; i < rows.size(); ++i) {
         const double top = RowsTop + i * rowHeight;
         const QString label = classes.cell(rows[i], "label");
         const ShiftRange range{classes.number(rows[i], "low"), classes.number(rows[i], "typical"),
-                               classes.number(rows[i], "high")};
+                               classes.number(rows[i], "high"), classes.number(rows[i], "n") >= FewestForBar};
         const double bar = std::min(11.0, rowHeight - 5);
         range.paint(painter, axis, top + (rowHeight - bar) / 2, bar, classColour(label));
         painter.setPen(Ink);
@@ -330,9 +364,9 @@ void drawCharts(const Nucleus &nucleus, const QString &data, const PictureFolder
             pictures.write(name.arg(999 + overviews), drawOverview(classes, rows, motif));
             continue;
         }
-        const std::optional<Formula> formula = motifFormula(motif.smarts, {20, 13});
-        if (!formula)
-            table.fail(motif.row, u"\"%1\" cannot be drawn"_s.arg(motif.smarts));
+        const std::optional<Formula> formula = Formula::fromSmiles(motif.structure, {20, 13});
+        if (!formula || !motif.structure.contains(QLatin1String(":1]")))
+            table.fail(motif.row, u"\"%1\" is no structure with a marked atom"_s.arg(motif.structure));
         pictures.write(name.arg(motif.row + 2 - overviews), drawMotifChart(nucleus, motifs, motif, *formula));
     }
 }

@@ -100,7 +100,13 @@ void ShiftRange::paint(QPainter &painter, const ShiftAxis &axis, double top, dou
     const double width = std::max(3.0, axis.abscissa(low) - left);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
-    painter.drawRoundedRect(QRectF(left, top, width, height), 2, 2);
+    if (bar) {
+        painter.drawRoundedRect(QRectF(left, top, width, height), 2, 2);
+    } else {
+        painter.drawRect(QRectF(left, top + height / 2 - 0.5, width, 1));
+        for (const double end : {left - 1, left + width - 1})
+            painter.drawRect(QRectF(end, top, 2, height));
+    }
     const double middle = axis.abscissa(typical);
     painter.setBrush(Qt::white);
     painter.drawRect(QRectF(middle - 2, top - 2, 4, height + 4));

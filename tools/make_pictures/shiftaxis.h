@@ -46,8 +46,9 @@ struct ShiftRange
     double low = 0;
     double typical = 0;
     double high = 0;
+    bool bar = true; ///< false: too few values for one, a line joins the ends
 
-    /// A bar from high to low with a mark at the typical value, @p bar giving top and height.
+    /// A bar or line from high to low with a mark at the typical value.
     void paint(QPainter &painter, const ShiftAxis &axis, double top, double height,
                const QColor &colour) const;
 };
