@@ -166,8 +166,7 @@ void PictureChartsTest::numberedAtomsAreMarked()
 
 void PictureChartsTest::barsNeedTwentyObservations()
 {
-    // On the whole scale the bar of R-CH2-SO2-R (12 values) would be filled for 8 lines, that of R-CH2-S-R
-    // (43) is.
+    // On the whole scale: R-CH2-S-R has 43 values, R-CH2-SO2-R 12.
     const auto barHeight = [](int chart) {
         const QImage picture(Pictures + QStringLiteral("nmr/1h/%1.gif").arg(chart));
         const QRgb colour = classColour(QStringLiteral("CH2 next to sulfur")).rgb();

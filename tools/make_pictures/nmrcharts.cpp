@@ -103,6 +103,7 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
         Motif motif;
         motif.row = row;
         motif.name = table.cell(row, nucleus.motifColumn);
+        motif.name.replace(QLatin1Char('+'), u"⁺"_s);
         motif.group = table.cell(row, "group");
         motif.structure = table.cell(row, "structure");
         motif.lowText = minusSign(table.cell(row, "low"));

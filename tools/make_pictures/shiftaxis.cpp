@@ -103,7 +103,7 @@ void ShiftRange::paint(QPainter &painter, const ShiftAxis &axis, double top, dou
     if (bar) {
         painter.drawRoundedRect(QRectF(left, top, width, height), 2, 2);
     } else {
-        painter.drawRect(QRectF(left, top + height / 2 - 0.5, width, 1));
+        painter.drawRect(QRectF(left, std::floor(top + height / 2), width, 1));
         for (const double end : {left - 1, left + width - 1})
             painter.drawRect(QRectF(end, top, 2, height));
     }
