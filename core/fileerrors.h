@@ -51,4 +51,33 @@ inline QByteArray readWhole(const QString &path)
     return bytes;
 }
 
+/// RuntimeError 75 if there is something at @p path that is not a regular file: opening a pipe or a device
+/// might block for ever.
+inline void refuseSpecialFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        throw RuntimeError(ErrorNumber::PathAccess, path);
+}
+
+/// Why the file at @p path cannot be written, as a paragraph to follow the message of error 75. Empty if the
+/// reason cannot be seen.
+inline QString reasonNotWritable(const QString &path)
+{
+    constexpr qsizetype LongestName = 255; // bytes, on all common file systems
+    const QFileInfo info(path);
+    const char *reason = nullptr;
+    if (info.isDir())
+        reason = "this is a folder.";
+    else if (info.exists() && !info.isFile())
+        reason = "this is a pipe or a device, not a file.";
+    else if (QFile::encodeName(info.fileName()).size() > LongestName)
+        reason = "the name is too long.";
+    else if (info.exists() && !info.isWritable())
+        reason = "the file is not writable.";
+    else if (!QFileInfo(info.path()).isWritable())
+        reason = "the folder is not writable.";
+    return reason ? QStringLiteral("\n\nReason: ") + QLatin1StringView(reason) : QString();
+}
+
 } // namespace FileErrors

@@ -1,8 +1,9 @@
 #include "options/databasemaintenance.h"
 
 #include "core/filecopy.h"
+#include "core/fileerrors.h"
+#include "core/filelock.h"
 #include "core/module1.h"
-#include "reports/fileattributes.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,7 +12,7 @@ namespace {
 
 void refuseIfInUse(const QString &path)
 {
-    if (FileAttributes::isLockedElsewhere(path))
+    if (FileLock::forbids(FileLock::Access::Write, path))
         throw RuntimeError(ErrorNumber::PermissionDenied, path);
 }
 
@@ -54,7 +55,8 @@ void DatabaseMaintenance::DatabaseSaveCopy()
             warn(QStringLiteral(
                      "Impossible to save '%1'. The file already exists and has a read-only attribute. "
                      "Save it with a different name or in different folder.")
-                     .arg(path));
+                     .arg(path) +
+                 FileErrors::reasonNotWritable(path));
         // Any other failure is silent: that no success is told is the only sign.
     }
 }
@@ -67,6 +69,7 @@ void DatabaseMaintenance::saveCopy()
     if (QFileInfo(path) == QFileInfo(databasePath()))
         throw RuntimeError(ErrorNumber::PermissionDenied, path);
     refuseIfInUse(databasePath());
+    FileErrors::refuseSpecialFile(path);
     refuseIfInUse(path);
     copyFileOver(databasePath(), path);
     m_desktop.messageBox(QStringLiteral("The database was successfully saved!"), Desktop::Information);

@@ -14,9 +14,6 @@ inline constexpr int Archive = 32;
 /// if another process has locked the file.
 int of(const QString &path);
 
-/// Whether another process has locked any part of the file. False if it is not a file or cannot be read.
-bool isLockedElsewhere(const QString &path);
-
 } // namespace FileAttributes
 
 /// Stores the length of the file in bytes as the `ProbedLength` of @p module, 0 if there is no such file or

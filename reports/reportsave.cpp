@@ -1,8 +1,8 @@
 #include "reports/reportsave.h"
 
 #include "core/fileerrors.h"
+#include "core/filelock.h"
 #include "core/module1.h"
-#include "reports/fileattributes.h"
 #include "reports/reportpage.h"
 #include "reports/reports.h"
 
@@ -58,7 +58,8 @@ std::optional<Choice> choose(const ReportContext &context)
 
 void openForOutput(QFile &file)
 {
-    if (FileAttributes::isLockedElsewhere(file.fileName()))
+    FileErrors::refuseSpecialFile(file.fileName());
+    if (FileLock::forbids(FileLock::Access::Write, file.fileName()))
         throw RuntimeError(ErrorNumber::PermissionDenied, file.fileName());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw FileErrors::ofWriting(file);
@@ -116,7 +117,8 @@ void ReportSave::tell(const RuntimeError &error)
     else if (error.number() == ErrorNumber::PathAccess)
         m_desktop.messageBox("Impossible to save '" + path +
                                  "'. The file already exists and has a read-only attribute. Save it with a "
-                                 "different name or in a different folder.",
+                                 "different name or in a different folder." +
+                                 FileErrors::reasonNotWritable(path),
                              Desktop::Warning);
     // Any other failure is silent: the file that is missing or cut short is the only sign.
 }

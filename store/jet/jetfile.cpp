@@ -1,10 +1,10 @@
 #include "store/jet/jetfile.h"
 
 #include "core/fileerrors.h"
+#include "core/filelock.h"
 #include "core/runtimeerror.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -15,9 +15,9 @@ constexpr qint64 MaxFileSize = qint64(512) * 1024 * 1024;
 QByteArray readWhole(const QString &path)
 {
     QFile file(path);
-    // Reading a pipe or a device might block.
-    if (const QFileInfo info(path); info.exists() && !info.isFile())
-        throw RuntimeError(ErrorNumber::PathAccess, path);
+    FileErrors::refuseSpecialFile(path);
+    if (FileLock::forbids(FileLock::Access::Read, path))
+        throw RuntimeError(ErrorNumber::PermissionDenied, path);
     if (!file.open(QIODevice::ReadOnly))
         throw FileErrors::of(file);
     if (file.size() > MaxFileSize)

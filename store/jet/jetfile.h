@@ -17,7 +17,8 @@ public:
     /// Reads a regular file of at most 512 MiB.
     ///
     /// The password is case-sensitive; a file without one opens with any. It does not encrypt the data.
-    /// FileNotFound or another file error if @p path cannot be read, DatabaseFailure if it is not such a
+    /// FileNotFound or another file error if @p path cannot be read, PermissionDenied if another process has
+    /// locked it, DatabaseFailure if it is not such a
     /// database or the password is wrong.
     static JetFile open(const QString &path, const QString &password);
 

@@ -198,9 +198,14 @@ void DatabaseMaintenanceTest::unwritableFolderIsTold()
     QFile::setPermissions(closed, QFile::Permissions(0x7777));
     QCOMPARE(bench.lastText(),
              QStringLiteral("Impossible to save '%1'. The file already exists and has a read-only attribute. "
-                            "Save it with a different name or in different folder.")
+                            "Save it with a different name or in different folder.\n\n"
+                            "Reason: the folder is not writable.")
                  .arg(closed + QStringLiteral("/copy.mdb")));
     QCOMPARE(bench.desktop.boxes.constLast().second, 48);
+    const QString device = bench.path(QStringLiteral("null.mdb")); // a copy would replace it
+    QVERIFY(QFile::link(QStringLiteral("/dev/null"), device));
+    bench.save({device});
+    QVERIFY(bench.lastText().endsWith(QStringLiteral("not a file.")));
 }
 
 void DatabaseMaintenanceTest::restoreReplacesTheWorkingDatabase()

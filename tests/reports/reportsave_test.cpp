@@ -6,6 +6,7 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <sys/stat.h>
 
 class ReportSaveTest final : public QObject
 {
@@ -28,7 +29,8 @@ private Q_SLOTS:
     void readOnlyFileIsRefusedAfterYes();
     void lockedFileIsInUse();
     void emptyLockedFileIsInUse();
-    void folderInTheWayIsTold();
+    void whatIsInTheWayIsTold_data();
+    void whatIsInTheWayIsTold();
     void folderWithoutPermissionIsTold();
     void missingFolderIsSilent();
     void fullDiskIsSilentAndLeavesTheFirstBytes_data();
@@ -277,16 +279,32 @@ void ReportSaveTest::emptyLockedFileIsInUse()
     QCOMPARE(m_module->ProbedLength, 70);
 }
 
-void ReportSaveTest::folderInTheWayIsTold()
+void ReportSaveTest::whatIsInTheWayIsTold_data()
 {
-    QVERIFY(QDir().mkpath(path()));
-    m_desktop->savePaths << path();
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("folder") << "folder.htm"
+                            << "this is a folder.";
+    QTest::newRow("pipe") << "pipe.htm"
+                          << "this is a pipe or a device, not a file.";
+    QTest::newRow("long name") << QString(260, 'x') + ".htm"
+                               << "the name is too long.";
+}
+
+void ReportSaveTest::whatIsInTheWayIsTold()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, reason);
+    QVERIFY(QDir().mkpath(path("folder.htm")));
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe.htm")).constData(), 0600), 0);
+    m_desktop->savePaths << path(name);
     run();
     QCOMPARE(
         m_desktop->boxes,
-        (QList{QPair<QString, int>{"Impossible to save '" + path() +
+        (QList{QPair<QString, int>{"Impossible to save '" + path(name) +
                                        "'. The file already exists and has a read-only attribute. Save it "
-                                       "with a different name or in a different folder.",
+                                       "with a different name or in a different folder.\n\nReason: " +
+                                       reason,
                                    48}}));
     QCOMPARE(m_module->ProbedLength, 75);
     QCOMPARE(m_module->ReportRowClass, QString());
@@ -303,7 +321,7 @@ void ReportSaveTest::folderWithoutPermissionIsTold()
         run();
     }
     QCOMPARE(m_desktop->boxes.size(), 1);
-    QVERIFY(m_desktop->boxes.constFirst().first.endsWith("or in a different folder."));
+    QVERIFY(m_desktop->boxes.constFirst().first.endsWith("Reason: the folder is not writable."));
     QCOMPARE(m_module->ProbedLength, 75);
 }
 

@@ -1,6 +1,7 @@
 #include "store/databaserecovery.h"
 
 #include "store/databaseconnection.h"
+#include "tests/support/filetrouble.h"
 #include "tests/support/scripteddesktop.h"
 
 #include <QDir>
@@ -25,6 +26,8 @@ class DatabaseRecoveryTest final : public QObject
 private Q_SLOTS:
     void init();
     void yesPutsTheOriginalBackAndEnds();
+    void aLockedDatabaseIsAskedAbout_data();
+    void aLockedDatabaseIsAskedAbout();
     void noEndsAndLeavesTheFile();
     void aCopyThatFailsAfterTheErrorsQuestionIsReported();
     void missingTableCopiesToTheFileNobodyOpens();
@@ -80,6 +83,29 @@ void DatabaseRecoveryTest::yesPutsTheOriginalBackAndEnds()
 
     QCOMPARE(desktop.boxes, (QList<QPair<QString, int>>{{Question, 20}, {Success, 64}}));
     QCOMPARE(contentOf("Data/Database_uk.mdb"), QByteArray("original"));
+}
+
+void DatabaseRecoveryTest::aLockedDatabaseIsAskedAbout_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("record lock") << int(LockElsewhere::Record);
+    QTest::newRow("lock of the whole file") << int(LockElsewhere::WholeFile);
+}
+
+void DatabaseRecoveryTest::aLockedDatabaseIsAskedAbout()
+{
+    QFETCH(const int, kind);
+    QVERIFY(
+        QFile::copy(QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb"), path("Data/Database_uk.mdb")));
+    const LockElsewhere lock(path("Data/Database_uk.mdb"), LockElsewhere::Kind(kind));
+    QVERIFY(lock.isLocked());
+    ScriptedDesktop desktop;
+    DatabaseConnection connection;
+    DatabaseRecovery recovery(desktop, connection, m_folder->path());
+
+    QCOMPARE(endOf([&] { recovery.ConnectDatabase(); }), 0);
+
+    QCOMPARE(desktop.boxes, (QList<QPair<QString, int>>{{Question, 20}}));
 }
 
 void DatabaseRecoveryTest::noEndsAndLeavesTheFile()

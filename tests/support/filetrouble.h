@@ -4,6 +4,7 @@
 #include <QString>
 #include <csignal>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -14,13 +15,15 @@
 class LockElsewhere final
 {
 public:
-    explicit LockElsewhere(const QString &path)
+    enum Kind { Record, WholeFile };
+
+    explicit LockElsewhere(const QString &path, Kind kind = Record)
     {
         int ready[2];
         if (pipe(ready) != 0 || (m_child = fork()) < 0)
             qFatal("no second process");
         if (m_child == 0)
-            holdLock(QFile::encodeName(path), ready[1]);
+            holdLock(QFile::encodeName(path), kind, ready[1]);
         close(ready[1]);
         char byte;
         m_locked = read(ready[0], &byte, 1) == 1;
@@ -34,7 +37,7 @@ public:
     bool isLocked() const { return m_locked; }
 
 private:
-    [[noreturn]] static void holdLock(const QByteArray &path, int ready)
+    [[noreturn]] static void holdLock(const QByteArray &path, Kind kind, int ready)
     {
         const int file = open(path.constData(), O_RDWR);
         struct flock lock
@@ -42,7 +45,9 @@ private:
         };
         lock.l_type = F_WRLCK;
         lock.l_whence = SEEK_SET;
-        if (file < 0 || fcntl(file, F_SETLK, &lock) != 0 || write(ready, "1", 1) != 1)
+        const bool held =
+            kind == Record ? fcntl(file, F_SETLK, &lock) == 0 : flock(file, LOCK_EX | LOCK_NB) == 0;
+        if (!held || write(ready, "1", 1) != 1)
             _exit(1);
         for (;;)
             pause();
@@ -75,12 +80,12 @@ class OrdinaryUser final
 public:
     OrdinaryUser() : m_before(geteuid())
     {
-        if (m_before == 0 && seteuid(65534) != 0)
+        if (m_before == 0 && setresuid(65534, 65534, 0) != 0)
             qFatal("cannot become an ordinary user");
     }
     ~OrdinaryUser()
     {
-        if (geteuid() != m_before && seteuid(m_before) != 0)
+        if (geteuid() != m_before && setresuid(m_before, m_before, m_before) != 0)
             qFatal("cannot become root again");
     }
 
