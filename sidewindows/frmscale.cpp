@@ -77,6 +77,7 @@ int frmScale::percent() const
 void frmScale::setPercent(int percent)
 {
     spnScale->setValue(percent);
+    spnScale->selectAll(); // a typed number takes its place
 }
 
 void frmScale::choose(bool now)
