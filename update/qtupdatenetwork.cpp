@@ -1,20 +1,23 @@
 #include "update/qtupdatenetwork.h"
 
 #include <QCursor>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QGuiApplication>
-#include <QNetworkAccessManager>
 #include <QNetworkInterface>
-#include <QNetworkReply>
+#include <QSslSocket>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
-#include <memory>
 #include <optional>
 
+// By the socket and not by QNetworkAccessManager, which keeps the head of an answer in memory however long
+// it is.
 namespace {
 
 constexpr int MostRedirections = 5;
+constexpr qint64 MostHeadBytes = 16'384;
 
 class WaitingPointer final
 {
@@ -25,40 +28,111 @@ public:
     ~WaitingPointer() { QGuiApplication::restoreOverrideCursor(); }
 };
 
-QNetworkRequest requestFor(const QString &address)
+struct Answer
 {
-    QNetworkRequest request{QUrl(address, QUrl::StrictMode)};
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setRawHeader("Cache-Control", "no-cache");
-    request.setRawHeader("Pragma", "no-cache");
-    request.setMaximumRedirectsAllowed(MostRedirections);
-    return request;
+    int status = 0;
+    QByteArray location;
+    std::optional<qint64> length; ///< of the content, if the server tells it
+    QByteArray content;
+};
+
+bool isEncrypted(const QUrl &url)
+{
+    return url.scheme() == QLatin1StringView("https");
+}
+
+bool canBeAsked(const QUrl &url)
+{
+    return (url.scheme() == QLatin1StringView("http") || isEncrypted(url)) && !url.host().isEmpty();
+}
+
+// By HTTP 1.0 an answer has no pieces: the content reaches from the head to the end of the connection.
+QByteArray requestFor(const QUrl &url)
+{
+    const QByteArray host = url.adjusted(QUrl::RemoveUserInfo).authority(QUrl::FullyEncoded).toLatin1();
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    const QByteArray query = url.query(QUrl::FullyEncoded).toLatin1();
+    return "GET " + (path.isEmpty() ? "/" : path) + (query.isEmpty() ? "" : '?' + query) +
+           " HTTP/1.0\r\nHost: " + host +
+           "\r\nCache-Control: no-cache\r\nPragma: no-cache\r\nConnection: close\r\n\r\n";
+}
+
+/// What the server at @p url sends until it closes the connection; nothing if that is not over at @p end or
+/// is more than @p mostBytes.
+std::optional<QByteArray> receive(const QUrl &url, qint64 mostBytes, const QDeadlineTimer &end)
+{
+    QSslSocket socket;
+    QEventLoop loop;
+    QByteArray bytes;
+    QTimer::singleShot(std::chrono::milliseconds(end.remainingTime()), &loop, &QEventLoop::quit);
+    const auto ends = [&](auto signal) {
+        QObject::connect(&socket, signal, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    };
+    ends(&QSslSocket::disconnected);
+    ends(&QSslSocket::errorOccurred);
+    QObject::connect(&socket, isEncrypted(url) ? &QSslSocket::encrypted : &QSslSocket::connected, &loop,
+                     [&] { socket.write(requestFor(url)); });
+    QObject::connect(&socket, &QSslSocket::readyRead, &loop, [&] {
+        bytes += socket.readAll();
+        if (bytes.size() > mostBytes)
+            loop.quit();
+    });
+    if (isEncrypted(url))
+        socket.connectToHostEncrypted(url.host(), quint16(url.port(443)));
+    else
+        socket.connectToHost(url.host(), quint16(url.port(80)));
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+
+    const bool whole = socket.error() == QAbstractSocket::RemoteHostClosedError && bytes.size() <= mostBytes;
+    return whole ? std::optional(bytes) : std::nullopt;
+}
+
+std::optional<Answer> parse(const QByteArray &bytes)
+{
+    const qsizetype headSize = bytes.indexOf("\r\n\r\n");
+    if (headSize < 0 || !bytes.startsWith("HTTP/1."))
+        return std::nullopt;
+    QList<QByteArray> lines = bytes.first(headSize).split('\n');
+    Answer answer;
+    answer.status = lines.takeFirst().mid(9, 3).toInt();
+    answer.content = bytes.sliced(headSize + 4);
+    for (const QByteArray &line : std::as_const(lines)) {
+        const qsizetype colon = line.indexOf(':');
+        const QByteArray name = line.left(colon).trimmed().toLower();
+        const QByteArray value = line.mid(colon + 1).trimmed();
+        if (name == "location")
+            answer.location = value;
+        else if (name == "content-length")
+            answer.length = value.toLongLong();
+        else if (name == "transfer-encoding")
+            return std::nullopt; // nothing that HTTP 1.0 knows
+    }
+    return answer;
 }
 
 /// What @p address holds; nothing unless all of it arrives within the limits.
 std::optional<QByteArray> fetch(const QString &address, const QtUpdateNetwork::Limits &limits)
 {
-    const QNetworkRequest request = requestFor(address);
-    if (!request.url().scheme().startsWith(QLatin1StringView("http")))
-        return std::nullopt;
-    QNetworkAccessManager manager;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(request));
-    QByteArray content;
-    QEventLoop loop;
-    QTimer::singleShot(limits.time, reply.get(), &QNetworkReply::abort);
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, reply.get(), [&] {
-        content += reply->readAll();
-        if (content.size() > limits.bytes)
-            reply->abort();
-    });
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    if (!reply->isFinished())
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
-
-    if (!reply->isFinished() || reply->error() != QNetworkReply::NoError)
-        return std::nullopt;
-    content += reply->readAll();
-    return content.size() > limits.bytes ? std::nullopt : std::optional(content);
+    const QDeadlineTimer end(limits.time);
+    QUrl url(address, QUrl::StrictMode);
+    for (int redirections = 0; canBeAsked(url) && redirections <= MostRedirections; ++redirections) {
+        const std::optional<QByteArray> bytes = receive(url, MostHeadBytes + limits.bytes, end);
+        const std::optional<Answer> answer = bytes ? parse(*bytes) : std::nullopt;
+        if (!answer)
+            return std::nullopt;
+        const qint64 size = answer->content.size();
+        if (answer->status == 200)
+            return size <= limits.bytes && size == answer->length.value_or(size)
+                       ? std::optional(answer->content)
+                       : std::nullopt;
+        if (answer->status / 100 != 3 || answer->location.isEmpty())
+            return std::nullopt;
+        const bool encrypted = isEncrypted(url);
+        url = url.resolved(QUrl::fromEncoded(answer->location, QUrl::StrictMode));
+        if (encrypted && !isEncrypted(url))
+            return std::nullopt;
+    }
+    return std::nullopt;
 }
 
 } // namespace

@@ -71,6 +71,10 @@ private:
             return answer(QByteArray(8'000'000, 'x'));
         if (path == "/endless")
             return "HTTP/1.0 200 OK\r\n\r\n" + QByteArray(8'000'000, 'x');
+        if (path == "/huge-head")
+            return answer(Good, "200 OK", "Filler: " + QByteArray(200'000, 'x') + "\r\n");
+        if (path == "/in-pieces")
+            return "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nsome \r\n0\r\n\r\n";
         if (path == "/truncated")
             return answer(Good + Good).chopped(Good.size());
         if (path == "/moved")
@@ -139,6 +143,8 @@ void UpdateNetworkTest::onlyAWholeAnswerReachesTheDisk_data()
     row("/moved", true, Good);
     row("/huge", false);
     row("/endless", false);
+    row("/huge-head", false);
+    row("/in-pieces", false);
     row("/slow", false);
     row("/trickle", false);
     row("/truncated", false);
