@@ -114,7 +114,7 @@ void UserFolderTest::theProgramRunsOnBothFolders()
     write(user("Data/elements/1.jpg"), read(executables + "/Data/elements/2.jpg"_L1));
     m_desktop.savePaths = QStringList{user("elements.htm")};
 
-    QCOMPARE(run(user(), executables,
+    QCOMPARE(run(user(), executables, m_desktop,
                  [&](Form1 &form) {
                      form.executeCommand(1108); // elements
                      form.executeCommand(1124); // export
