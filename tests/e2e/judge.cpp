@@ -102,6 +102,8 @@ void Judge::report(const QString &what, const QString &text, const QWidget &wher
 void Judge::look(QWidget &window)
 {
     QApplication::processEvents(); // layouts follow the texts
+    for (auto *field : window.findChildren<QLineEdit *>())
+        field->deselect(); // a selected part is painted apart from the rest, each cut at the other
     const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
     QList<PaintedText> texts = PaintedTexts::of(window);
     texts.removeIf([&](const PaintedText &text) { return isOutOfSight(text, window); });
