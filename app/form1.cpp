@@ -171,7 +171,7 @@ void Form1::buildStatusBar()
     constexpr int Spacing = 30; // of the status bar, altogether
     const int needed = m_panel1->minimumWidth() + m_panel3->minimumSizeHint().width() +
                        m_findBar->minimumSizeHint().width() + Spacing;
-    setMinimumWidth(qMin(needed, screen()->availableSize().width()));
+    setMinimumWidth(qMin(needed, screen()->availableSize().width() - Controls::WindowFrame.width()));
     m_findBar->ResetSearchPanel();
 }
 
