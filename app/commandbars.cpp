@@ -8,8 +8,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPainter>
-#include <QStyle>
 #include <QToolBar>
 
 namespace {
@@ -25,32 +23,6 @@ constexpr std::array Themes{
     Theme{0, Qt::ToolButtonIconOnly, 16},       Theme{1, Qt::ToolButtonIconOnly, 22},
     Theme{2, Qt::ToolButtonTextBesideIcon, 18}, Theme{3, Qt::ToolButtonTextOnly, 16},
     Theme{5, Qt::ToolButtonTextUnderIcon, 24},  Theme{6, Qt::ToolButtonIconOnly, 32},
-};
-
-/// Fusion draws the three lines of a tool bar pixel by pixel, handed out to several threads: half a
-/// millisecond of every start. Here they are filled, with the same look.
-class CommandBar final : public QToolBar
-{
-public:
-    using QToolBar::QToolBar;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        if (style()->name() != QLatin1StringView("fusion"))
-            return QToolBar::paintEvent(event);
-        const QColor light(255, 255, 255, 90);
-        const QColor shadow(0, 0, 0, 60);
-        const QColor ground = palette().color(QPalette::Window);
-        QLinearGradient bevel(rect().topLeft(), rect().bottomLeft());
-        bevel.setColorAt(0, ground.lighter(104));
-        bevel.setColorAt(1, ground);
-        QPainter painter(this);
-        painter.fillRect(rect(), bevel);
-        painter.fillRect(0, 0, width(), 1, light);
-        painter.fillRect(0, height() - 2, width(), 1, shadow);
-        painter.fillRect(0, height() - 1, width(), 1, light);
-    }
 };
 
 } // namespace
@@ -93,7 +65,7 @@ void CommandBars::load(const MenuLayout &layout)
         }
     }
     for (const MenuLayout::Menu &bar : layout.toolBars) {
-        auto *shown = new CommandBar(bar.caption, &m_window);
+        auto *shown = new QToolBar(bar.caption, &m_window);
         m_window.addToolBar(shown);
         shown->setMovable(false);
         shown->setContextMenuPolicy(Qt::PreventContextMenu);

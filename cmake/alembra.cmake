@@ -112,21 +112,21 @@ function(alembra_list_widget_free file)
     file(WRITE "${file}" "${lines}\n")
 endfunction()
 
-# alembra_draw_icons(<variable> <format> <sizes> <svg>...): the icons drawn into the build folder; <variable> gets their
+# alembra_draw_icons(<variable> <sizes> <svg>...): the icons drawn into the build folder; <variable> gets their
 # files, by drawing and by size. See tools/draw_icons.
-function(alembra_draw_icons variable format sizes)
+function(alembra_draw_icons variable sizes)
     set(files)
     foreach(icon IN LISTS ARGN)
         cmake_path(GET icon STEM LAST_ONLY name)
         foreach(size IN LISTS sizes)
-            list(APPEND files "${CMAKE_CURRENT_BINARY_DIR}/${name}-${size}.${format}")
+            list(APPEND files "${CMAKE_CURRENT_BINARY_DIR}/${name}-${size}.png")
         endforeach()
     endforeach()
     list(JOIN sizes "," sizes)
     add_custom_command(
         OUTPUT ${files}
         COMMAND "${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0
-                $<TARGET_FILE:draw_icons> "${CMAKE_CURRENT_BINARY_DIR}" ${format} ${sizes} ${ARGN}
+                $<TARGET_FILE:draw_icons> "${CMAKE_CURRENT_BINARY_DIR}" ${sizes} ${ARGN}
         DEPENDS draw_icons ${ARGN}
         COMMENT "Drawing icons"
         VERBATIM)

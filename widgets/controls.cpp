@@ -20,10 +20,6 @@ QFont Controls::largeType(QFont font)
 {
     font.setPixelSize(15);
     font.setBold(true);
-    // What would fit each letter to the pixels and to its neighbours takes longer than to draw it.
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setKerning(false);
-    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 

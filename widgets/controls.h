@@ -34,9 +34,8 @@ inline constexpr QSize WindowFrame{8, 36};
 /// The largest size that @p window can have on its screen, in logical pixels.
 QSize roomFor(const QWidget &window);
 
-/// @p font as the one large type: bold, 15 pixels high, letters side by side as they are drawn. The title of
-/// the splash and the cells of the periodic table share it, for another size of a typeface costs a start a
-/// millisecond. It is as large as two letters go in a cell: the table is read from the other end of the
+/// @p font as the one large type: bold, 15 pixels high. The title of the splash and the cells of the periodic
+/// table share it. It is as large as two letters go in a cell: the table is read from the other end of the
 /// bench.
 QFont largeType(QFont font);
 

@@ -1,13 +1,10 @@
 #include "widgets/icons.h"
 
-#include <QFile>
+#include <QDir>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmapCache>
-#include <QResource>
-#include <QSvgRenderer>
 
 // Resources of a static library are registered by hand, outside any namespace.
 static void registerIcons()
@@ -17,33 +14,24 @@ static void registerIcons()
 
 namespace {
 
-const auto Svg = QLatin1StringView(".svg");
-
-QString pathOf(const QString &name)
+/// The icon of all sizes that the build has drawn; larger ones are not made up, other ones are scaled down.
+QIcon drawn(const QString &name)
 {
     registerIcons();
-    return QStringLiteral(":/icons/") + name;
+    QIcon icon;
+    const QDir pictures(QStringLiteral(":/icons"), name + QStringLiteral("-[0-9]*.png"));
+    for (const QFileInfo &picture : pictures.entryInfoList())
+        icon.addFile(picture.filePath());
+    return icon;
 }
 
-/// The picture of this size that the build has drawn; none for sizes that are seldom asked for.
-QImage drawnAtBuild(const QString &path, QSize size)
-{
-    constexpr int BytesPerPixel = 4;
-    const QResource pixels(QStringLiteral("%1-%2.argb").arg(path).arg(size.width()));
-    if (size.height() != size.width() ||
-        pixels.size() != qint64(size.width()) * size.height() * BytesPerPixel)
-        return {};
-    const QImage inProgram(pixels.data(), size.width(), size.height(), QImage::Format_ARGB32_Premultiplied);
-    return inProgram.copy(); // nothing says that its pixels begin there at a multiple of four
-}
-
-/// Draws a drawing at the size that is asked for, once.
-class DrawnIconEngine : public QIconEngine
+/// Shows an icon's lines in the colour that texts on buttons have at the moment.
+class TintedIconEngine final : public QIconEngine
 {
 public:
-    explicit DrawnIconEngine(QString path) : m_path(std::move(path)) {}
+    explicit TintedIconEngine(QIcon lines) : m_lines(std::move(lines)) {}
 
-    QIconEngine *clone() const override { return new DrawnIconEngine(*this); }
+    QIconEngine *clone() const override { return new TintedIconEngine(*this); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -52,87 +40,27 @@ public:
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
-        const QString key = QStringLiteral("%1 %2x%3 %4")
-                                .arg(m_path)
-                                .arg(size.width())
-                                .arg(size.height())
-                                .arg(tint(mode), 0, 16);
-        QPixmap picture;
-        if (!QPixmapCache::find(key, &picture)) {
-            picture = draw(size, mode);
-            QPixmapCache::insert(key, picture);
-        }
-        return picture;
-    }
-
-protected:
-    /// What the picture depends on besides its drawing and its size.
-    virtual QRgb tint(QIcon::Mode) const { return 0; }
-
-    virtual QPixmap draw(const QSize &size, QIcon::Mode) const
-    {
-        if (const QImage drawn = drawnAtBuild(m_path, size); !drawn.isNull())
-            return QPixmap::fromImage(drawn);
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
+        QPixmap picture = m_lines.pixmap(size, 1);
+        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         QPainter painter(&picture);
-        QSvgRenderer(m_path + Svg).render(&painter);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), QGuiApplication::palette().color(group, QPalette::ButtonText));
         return picture;
     }
 
 private:
-    const QString m_path; ///< without its ending
-};
-
-/// Draws an icon's lines in the palette's colour of the moment.
-class TintedIconEngine final : public DrawnIconEngine
-{
-public:
-    using DrawnIconEngine::DrawnIconEngine;
-    QIconEngine *clone() const override { return new TintedIconEngine(*this); }
-
-protected:
-    QRgb tint(QIcon::Mode mode) const override
-    {
-        const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        return QGuiApplication::palette().color(group, QPalette::ButtonText).rgba();
-    }
-
-    QPixmap draw(const QSize &size, QIcon::Mode mode) const override
-    {
-        QPixmap picture = DrawnIconEngine::draw(size, mode);
-        QPainter painter(&picture);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(picture.rect(), QColor::fromRgba(tint(mode)));
-        return picture;
-    }
-};
-
-/// The program's icon. A window manager is given each of its sizes; larger ones belong to the menu entry.
-class ProgramIconEngine final : public DrawnIconEngine
-{
-public:
-    using DrawnIconEngine::DrawnIconEngine;
-    QIconEngine *clone() const override { return new ProgramIconEngine(*this); }
-
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
-    {
-        QList<QSize> sizes;
-        for (const int side : {16, 24, 32, 48, 64})
-            sizes << QSize(side, side);
-        return sizes;
-    }
+    const QIcon m_lines;
 };
 
 } // namespace
 
 QIcon Icons::named(const QString &name)
 {
-    const QString path = pathOf(name);
-    return QFile::exists(path + Svg) ? QIcon(new TintedIconEngine(path)) : QIcon();
+    const QIcon lines = drawn(name);
+    return lines.isNull() ? QIcon() : QIcon(new TintedIconEngine(lines));
 }
 
 QIcon Icons::program()
 {
-    return QIcon(new ProgramIconEngine(pathOf(QStringLiteral("alembra"))));
+    return drawn(QStringLiteral("alembra"));
 }

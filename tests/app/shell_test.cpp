@@ -32,8 +32,6 @@ private Q_SLOTS:
     void unknownIdsArePlacedAndDoNothing();
     void editMenuCopiesFromTheList_data();
     void editMenuCopiesFromTheList();
-    void toolBarLooksAsTheStyleDrawsIt_data();
-    void toolBarLooksAsTheStyleDrawsIt();
     void menuStyleJumpsFromThreeToFive();
     void progressIsRoundedHalfToEvenInSinglePrecision();
 };
@@ -168,34 +166,6 @@ void ShellTest::editMenuCopiesFromTheList()
     QTest::keyClick(window.centralWidget(), Qt::Key_Down);
     choose(Qt::Key_R);
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Water"));
-}
-
-void ShellTest::toolBarLooksAsTheStyleDrawsIt_data()
-{
-    QTest::addColumn<QColor>("window");
-    QTest::newRow("light") << QColor(0xef, 0xef, 0xef);
-    QTest::newRow("dark") << QColor(0x2a, 0x2a, 0x2a);
-}
-
-void ShellTest::toolBarLooksAsTheStyleDrawsIt()
-{
-    QFETCH(const QColor, window);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setPalette(QPalette(window, window));
-    QMainWindow ours;
-    CommandBars bars(ours);
-    MenuLayout layout;
-    layout.toolBars << MenuLayout::Menu{QStringLiteral("Bar"), {}};
-    bars.load(layout);
-    QMainWindow plain;
-    plain.addToolBar(QStringLiteral("Bar"))->setMovable(false);
-    const auto picture = [](QMainWindow &form) {
-        form.findChild<QToolBar *>()->setFixedHeight(30);
-        form.resize(300, 200);
-        form.show();
-        return form.findChild<QToolBar *>()->grab().toImage();
-    };
-    QCOMPARE(picture(ours), picture(plain));
 }
 
 void ShellTest::menuStyleJumpsFromThreeToFive()
