@@ -1,10 +1,12 @@
 #include "widgets/icons.h"
 
-#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
+#include <array>
 
 // Resources of a static library are registered by hand, outside any namespace.
 static void registerIcons()
@@ -14,22 +16,19 @@ static void registerIcons()
 
 namespace {
 
-/// The icon of all sizes that the build has drawn; larger ones are not made up, other ones are scaled down.
-QIcon drawn(const QString &name)
+constexpr std::array LineSizes{16, 18, 22, 24, 32, 48, 64, 80}; // as the build draws them, in pixels
+
+QString pictureOf(const QString &name, int size)
 {
     registerIcons();
-    QIcon icon;
-    const QDir pictures(QStringLiteral(":/icons"), name + QStringLiteral("-[0-9]*.png"));
-    for (const QFileInfo &picture : pictures.entryInfoList())
-        icon.addFile(picture.filePath());
-    return icon;
+    return QStringLiteral(":/icons/%1-%2.png").arg(name).arg(size);
 }
 
 /// Shows an icon's lines in the colour that texts on buttons have at the moment.
 class TintedIconEngine final : public QIconEngine
 {
 public:
-    explicit TintedIconEngine(QIcon lines) : m_lines(std::move(lines)) {}
+    explicit TintedIconEngine(QString name) : m_name(std::move(name)) {}
 
     QIconEngine *clone() const override { return new TintedIconEngine(*this); }
 
@@ -40,7 +39,10 @@ public:
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
-        QPixmap picture = m_lines.pixmap(size, 1);
+        const auto drawn = std::lower_bound(LineSizes.begin(), LineSizes.end() - 1, size.height());
+        QPixmap picture(pictureOf(m_name, *drawn));
+        if (picture.size() != size)
+            picture = picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         const QPalette::ColorGroup group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         QPainter painter(&picture);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
@@ -49,18 +51,20 @@ public:
     }
 
 private:
-    const QIcon m_lines;
+    const QString m_name;
 };
 
 } // namespace
 
 QIcon Icons::named(const QString &name)
 {
-    const QIcon lines = drawn(name);
-    return lines.isNull() ? QIcon() : QIcon(new TintedIconEngine(lines));
+    return QFile::exists(pictureOf(name, LineSizes.front())) ? QIcon(new TintedIconEngine(name)) : QIcon();
 }
 
 QIcon Icons::program()
 {
-    return drawn(QStringLiteral("alembra"));
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 220}) // the last for the splash and About
+        icon.addFile(pictureOf(QStringLiteral("alembra"), size));
+    return icon;
 }
