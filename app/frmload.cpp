@@ -4,9 +4,9 @@
 #include "core/module1.h"
 #include "core/versionrecord.h"
 #include "widgets/controls.h"
-#include "widgets/icons.h"
 #include "widgets/modulepanel.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <cmath>
@@ -33,7 +33,7 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     setFont(ModulePanel::fittingFont(font())); // fixed in size like the panes
 
     auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
-    picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
+    picture->setPixmap(QApplication::windowIcon().pixmap(QSize(88, 88), devicePixelRatio()));
     picture->setGeometry(20, 24, 88, 88);
 
     QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 22, 26);

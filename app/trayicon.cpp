@@ -1,9 +1,9 @@
 #include "app/trayicon.h"
 
 #include "core/optionslots.h"
-#include "widgets/icons.h"
 #include "widgets/modaldialogs.h"
 
+#include <QApplication>
 #include <QGuiApplication>
 #include <QStyleHints>
 #include <QTimer>
@@ -24,7 +24,7 @@ constexpr std::array UnloadedWindows{"Form2",       "Form4",    "Form5", "Formhe
 } // namespace
 
 TrayIcon::TrayIcon(QWidget &form, const OptionSlots &options)
-    : QObject(&form), m_form(form), m_options(options), m_icon(Icons::program(), this),
+    : QObject(&form), m_form(form), m_options(options), m_icon(QApplication::windowIcon(), this),
       m_doubleClick(QGuiApplication::styleHints()->mouseDoubleClickInterval())
 {
     m_clock.start();

@@ -2,6 +2,7 @@
 // menu and a label.
 
 #include "app/frmload.h"
+#include "widgets/icons.h"
 #include "widgets/qtdesktop.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ int main(int argc, char **argv)
 {
     constexpr int Ticks = 37;
     const QApplication application(argc, argv);
+    QApplication::setWindowIcon(Icons::program());
     QApplication::setQuitOnLastWindowClosed(false);
     QtDesktop desktop;
     QMainWindow window;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double SaveTarget = 3;
+constexpr double SaveTarget = 4;
 constexpr double GrowthTarget = 1.1;
 constexpr int Lists[] = {0, 1, 2, 3, 4, 6, 7, 8, 24, 25}; // of `ListView3`, those of the report
 constexpr int SubItems = 5;

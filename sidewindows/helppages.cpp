@@ -75,7 +75,6 @@ HelpPages::HelpPages() : QWidget(nullptr, Qt::Window)
     setObjectName(u"frmHelpPages"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"Alembra help"_s);
-    setWindowIcon(Icons::program());
     setPalette(Readable::ownLinks(QApplication::palette()));
 
     auto *split = new QSplitter(this);
