@@ -272,7 +272,7 @@ void Form1::run(const Command &command)
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
     case CommandKind::Options:
         // Unlike a failure of other commands, a window that cannot be loaded ends the program.
-        return atEdge(m_desktop, [this] { m_options->open(); });
+        return endOnError(m_desktop, [this] { m_options->open(); });
     case CommandKind::Export:
         return m_reportSave.run([this] { return reportContext(); });
     case CommandKind::Find:

@@ -70,7 +70,7 @@ int run(int &argc, char **argv)
     const QString shippedFolder = appFolder == executables ? QString() : executables;
     QtDesktop desktop;
     int status = 1;
-    atEdge(desktop, [&] { status = Main(desktop, appFolder, shippedFolder, scale, left.session); });
+    endOnError(desktop, [&] { status = Main(desktop, appFolder, shippedFolder, scale, left.session); });
     return status;
 }
 

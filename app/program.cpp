@@ -90,7 +90,7 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     LaterTables laterTables(store, loader, recovery);
     frmload splash;
     Form1 form(module, store, laterTables, desktop, scale);
-    atEdge(desktop, [&] { // here, so that a failure is reported while the splash is on the screen
+    endOnError(desktop, [&] { // here, so that a failure is reported while the splash is on the screen
         form.load(splash, loader);
         form.show();
         if (session.isEmpty() && module.OptionSlots(Slot::TipAtStart).equals(1))

@@ -198,7 +198,7 @@ void BiochemistryPane::addTitles(const Section &section, const char *frame, int 
 void BiochemistryPane::openStructure(int row)
 {
     if (m_module.OptionSlots(Slot::Structures).equals(1))
-        atEdge(m_desktop, [&] {
+        endOnError(m_desktop, [&] {
             openStructureWindow(m_module, *window(), row + 1, m_store.lists.ListView3[9].text(row));
         });
 }

@@ -160,7 +160,7 @@ void GeneticCodeSection::showCodons()
 {
     if (Comb2->currentIndex() < 0)
         return;
-    atEdge(m_desktop, [&] {
+    endOnError(m_desktop, [&] {
         const QStringList codons = GeneticCode::codons(m_store.tables.GeneticCodeData, Comb2->currentIndex());
         for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
             tbm[codon].setText(codons[codon - 1]);

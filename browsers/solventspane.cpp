@@ -162,6 +162,7 @@ void SolventsPane::chooseNucleus(SolventTabs::Nucleus nucleus)
 void SolventsPane::openStructure(int row)
 {
     if (m_module.OptionSlots(Slot::Structures).equals(1))
-        atEdge(m_desktop,
-               [&] { openStructureWindow(m_module, *window(), row + 1, m_store.lists.ListView1.text(row)); });
+        endOnError(m_desktop, [&] {
+            openStructureWindow(m_module, *window(), row + 1, m_store.lists.ListView1.text(row));
+        });
 }

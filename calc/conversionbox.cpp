@@ -65,7 +65,7 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
     TextBoxM2->installEventFilter(this);
     buildLists(units);
     connect(TabStrip3, &TabStrip::tabClicked, this,
-            [this](int tab) { atEdge(m_desktop, [&] { clickTab(tab); }); });
+            [this](int tab) { endOnError(m_desktop, [&] { clickTab(tab); }); });
     // A text pasted by the mouse or dropped comes without a key.
     connect(TextBoxM1, &QLineEdit::textEdited, this, &ConversionBox::convert);
     showLists(1);
@@ -161,7 +161,7 @@ void ConversionBox::reset()
 
 void ConversionBox::convert()
 {
-    atEdge(m_desktop, [this] {
+    endOnError(m_desktop, [this] {
         const int decimals = CalcTabs::decimals(m_module.OptionSlots);
         TextBoxM1->setDecimales(decimals);
         TextBoxM2->setDecimales(decimals);

@@ -82,7 +82,7 @@ void SolverBox::buildFields(QBoxLayout &line)
         if (each.field < TextBoxM7Count) {
             TextBoxM7.add(each.field, field);
             connect(field, &QLineEdit::textChanged, this,
-                    [this, changed = each.field] { atEdge(m_desktop, [&] { watch(changed); }); });
+                    [this, changed = each.field] { endOnError(m_desktop, [&] { watch(changed); }); });
         } else {
             Controls::named(field, CalcTabs::name(each.field));
         }
@@ -161,7 +161,7 @@ void SolverBox::showTab(int number)
 
 void SolverBox::calculate()
 {
-    atEdge(m_desktop, [this] {
+    endOnError(m_desktop, [this] {
         const Outcome outcome = Solver::solve(TabStrip4->selectedTab(), texts(), vaporisationEntropy());
         for (const Change &change : outcome.changes)
             write(change);

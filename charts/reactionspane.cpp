@@ -89,14 +89,14 @@ void ReactionsPane::buildList()
     ListView3.add(31, list);
     (new TitleFrame({}, this, TitleFrame::OneLine))->addTitles(*list, Label2, {105});
     connect(list, &RowListView::rowClicked, this,
-            [this](int row) { atEdge(m_desktop, [&] { chooseRow(row); }); });
+            [this](int row) { endOnError(m_desktop, [&] { chooseRow(row); }); });
 }
 
 void ReactionsPane::buildViews()
 {
     const auto addOption = [this](View view, const QString &caption) {
         auto *option = new OptionButton(caption, this);
-        option->mouseReleased = [this] { atEdge(m_desktop, [this] { changeView(); }); };
+        option->mouseReleased = [this] { endOnError(m_desktop, [this] { changeView(); }); };
         optorga.add(view, option);
     };
     addOption(Equation, QStringLiteral("Bilan général"));

@@ -200,7 +200,7 @@ void SpectroscopyPane::connectControls()
     connect(Comboana, &DropDown::chosen, this, &SpectroscopyPane::changeMode);
     const auto connectList = [this](int index, auto handler) {
         connect(&ListView3[index], &RowListView::rowClicked, this,
-                [this, handler](int row) { atEdge(m_desktop, [&] { handler(row); }); });
+                [this, handler](int row) { endOnError(m_desktop, [&] { handler(row); }); });
     };
     connectList(15, [this](int row) { showNmrChart(ProtonCharts, row); });
     connectList(16, [this](int row) { showNmrChart(CarbonCharts, row); });

@@ -57,9 +57,9 @@ public:
     [[noreturn]] void endWithReport(const RuntimeError &error) { endWithMessage(error.report()); }
 };
 
-/// Runs @p handler at the edge to the event loop: an error that met no trap ends the program with its report.
+/// Runs an event handler. A RuntimeError that leaves it ends the program with its report.
 template<class Handler>
-void atEdge(Desktop &desktop, Handler handler)
+void endOnError(Desktop &desktop, Handler handler)
 {
     try {
         handler();

@@ -245,13 +245,16 @@ void ElectronicsPane::addResult(int index, const QString &title, int unitIndex, 
 
 void ElectronicsPane::connectControls()
 {
-    const auto atEdgeOf = [this](auto handler) { return [this, handler] { atEdge(m_desktop, handler); }; };
+    const auto endingOnError = [this](auto handler) {
+        return [this, handler] { endOnError(m_desktop, handler); };
+    };
     connect(TabStrip11, &QTabBar::currentChanged, this, &ElectronicsPane::showTab);
     connect(Combo3, &DropDown::chosen, this, &ElectronicsPane::changeRingCount);
     for (const ResistorCode::Ring &ring : ResistorCode::rings())
-        connect(&Combo2[ring.list], &DropDown::chosen, this, atEdgeOf([this, &ring] { chooseRing(ring); }));
+        connect(&Combo2[ring.list], &DropDown::chosen, this,
+                endingOnError([this, &ring] { chooseRing(ring); }));
     for (DropDown *list : {Combo4, &Combo2[10]})
-        connect(list, &DropDown::chosen, this, atEdgeOf([this] { decodeMarking(); }));
+        connect(list, &DropDown::chosen, this, endingOnError([this] { decodeMarking(); }));
     connect(&m_tables, &LaterTables::changed, this, [this] {
         if (!m_tables.areRead())
             emptyChoices();

@@ -135,7 +135,7 @@ void ElementsPane::focusElement(int element)
 
 void ElementsPane::select(int element)
 {
-    atEdge(m_desktop, [&] {
+    endOnError(m_desktop, [&] {
         m_panel.select(element);
         showPanel();
         m_findBar.ResetSearchPanel();
@@ -144,7 +144,7 @@ void ElementsPane::select(int element)
 
 void ElementsPane::move(Direction direction)
 {
-    atEdge(m_desktop, [&] {
+    endOnError(m_desktop, [&] {
         const bool fromPick = m_findBar.isPickInUse();
         const bool moved = m_panel.move(direction, fromPick);
         m_table->focusElement(m_panel.CurrentElement);
@@ -161,7 +161,7 @@ void ElementsPane::move(Direction direction)
 
 void ElementsPane::pick(const QString &name)
 {
-    atEdge(m_desktop, [&] {
+    endOnError(m_desktop, [&] {
         m_panel.pick(name);
         focusElement(m_panel.LastComboElement);
         showPanel();
@@ -181,7 +181,7 @@ void ElementsPane::zoom()
 {
     if (m_module1.OptionSlots(Slot::ElementZoom).equals(0))
         return;
-    atEdge(m_desktop, [this] {
+    endOnError(m_desktop, [this] {
         const ElementPanel::Zoom zoomed = m_panel.zoom();
         openZoomWindow(*window(), zoomed.caption, zoomed.picturePath);
     });
@@ -189,8 +189,8 @@ void ElementsPane::zoom()
 
 void ElementsPane::showCrystal()
 {
-    atEdge(m_desktop,
-           [this] { openCrystalWindow(*window(), m_panel.CrystalName, m_panel.crystalPicturePath()); });
+    endOnError(m_desktop,
+               [this] { openCrystalWindow(*window(), m_panel.CrystalName, m_panel.crystalPicturePath()); });
 }
 
 void ElementsPane::showPanel()

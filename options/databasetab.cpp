@@ -50,8 +50,8 @@ DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
 
     connect(Command10, &QPushButton::clicked, this, [this] { m_maintenance.open(); });
     connect(Command1, &QPushButton::clicked, this,
-            [this] { atEdge(m_desktop, [this] { m_maintenance.DatabaseSaveCopy(); }); });
-    connect(Command2, &QPushButton::clicked, this, [this] { atEdge(m_desktop, [this] { restore(); }); });
+            [this] { endOnError(m_desktop, [this] { m_maintenance.DatabaseSaveCopy(); }); });
+    connect(Command2, &QPushButton::clicked, this, [this] { endOnError(m_desktop, [this] { restore(); }); });
 }
 
 QPushButton *DatabaseTab::addAction(const QString &labelName, const QString &text, const QString &buttonName,

@@ -127,7 +127,7 @@ void Formoptions::applyGridLines()
 
 void Formoptions::accept()
 {
-    atEdge(m_desktop, [this] {
+    endOnError(m_desktop, [this] {
         controls.store(m_module.OptionSlots);
         applyGridLines();
         Q_EMIT optionsChanged();

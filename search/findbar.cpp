@@ -62,10 +62,10 @@ void FindBar::connectControls()
 {
     connect(Picture2, &QToolButton::clicked, this, &FindBar::closeByUser);
     connect(TextBoxM6, &QLineEdit::textChanged, this,
-            [this] { atEdge(m_desktop, [this] { searchTextChanged(); }); });
-    connect(case1, &QCheckBox::clicked, this, [this] { atEdge(m_desktop, [this] { caseClicked(); }); });
+            [this] { endOnError(m_desktop, [this] { searchTextChanged(); }); });
+    connect(case1, &QCheckBox::clicked, this, [this] { endOnError(m_desktop, [this] { caseClicked(); }); });
     Command11.connectEach(&QPushButton::clicked, this, [this](int index) {
-        atEdge(m_desktop, [this, index] { walk(Find::Direction(index)); });
+        endOnError(m_desktop, [this, index] { walk(Find::Direction(index)); });
     });
     connect(Combo2_3, &QComboBox::activated, this, [this] {
         if (isPickInUse())

@@ -114,7 +114,7 @@ void frmTip::storeWish(bool wanted)
 
 void frmTip::accept()
 {
-    atEdge(m_desktop, [this] {
+    endOnError(m_desktop, [this] {
         m_module1.WriteOptions();
         close();
     });

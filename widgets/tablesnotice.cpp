@@ -22,7 +22,7 @@ TablesNotice::TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWi
     button->setAccessibleDescription(text->text());
     row->addWidget(button);
     connect(button, &QPushButton::clicked, this,
-            [&tables, &desktop] { atEdge(desktop, [&] { tables.read(); }); });
+            [&tables, &desktop] { endOnError(desktop, [&] { tables.read(); }); });
     connect(&tables, &LaterTables::changed, this, [this, &tables] { setVisible(!tables.areRead()); });
     setVisible(!tables.areRead());
 }

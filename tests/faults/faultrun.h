@@ -34,7 +34,7 @@ public:
         });
         whenItStands.start(0);
         try {
-            atEdge(desktop, [&] { Main(desktop, folder.root()); });
+            endOnError(desktop, [&] { Main(desktop, folder.root()); });
         } catch (const ProcessEnded &) {
             whenItStands.stop();
         }
