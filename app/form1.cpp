@@ -246,7 +246,7 @@ void Form1::restoreAndRaise()
 void Form1::executeCommand(int id)
 {
     if (const Command *command = findCommand(id))
-        passingOverErrors([&] { run(*command); });
+        ignoringErrors([&] { run(*command); });
     updateCommands();
 }
 

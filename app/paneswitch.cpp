@@ -17,7 +17,7 @@ void PaneSwitch::show(PanelId id, const std::function<void()> &beforePanelText)
     if (m_clearChartPanels)
         m_clearChartPanels();
     if (beforePanelText)
-        passingOverErrors(beforePanelText);
+        ignoringErrors(beforePanelText);
     setPanelText(id);
 }
 

@@ -102,7 +102,7 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     splash.close();
     form.showStartModule();
     if (!session.isEmpty())
-        passingOverErrors([&] { Session::restore(session, form, laterTables); });
+        ignoringErrors([&] { Session::restore(session, form, laterTables); });
     complete = &form;
     return QApplication::exec();
 }

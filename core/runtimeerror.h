@@ -54,13 +54,13 @@ private:
     QByteArray m_what;
 };
 
-/// Runs @p step and ignores a RuntimeError, where the behaviour requires it.
+/// Runs @p step. A RuntimeError ends the step and nothing else.
 template<class Step>
-void passingOverErrors(Step step)
+void ignoringErrors(Step step)
 {
     try {
         step();
     } catch (const RuntimeError &) {
-        // Ignored on purpose: execution continues after the failed step.
+        // Ignored on purpose: the caller goes on with its next step.
     }
 }

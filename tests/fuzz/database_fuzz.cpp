@@ -35,12 +35,12 @@ void readAllTables(const QByteArray &bytes)
 {
     const JetFile file = JetFile::fromBytes(bytes, DatabasePassword);
     for (const QString &name : file.tables()) {
-        passingOverErrors([&] {
+        ignoringErrors([&] {
             const JetDefinition table = file.table(name);
             JetCursor cursor = file.rows(table);
             while (cursor.next()) {
                 for (const JetColumn &column : table.columns)
-                    passingOverErrors([&] { cursor.text(column); });
+                    ignoringErrors([&] { cursor.text(column); });
             }
         });
     }
@@ -67,7 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QByteArray catalogued = SampleDatabases::catalogued(2);
     if (size == 0)
         return 0;
-    passingOverErrors([&] {
+    ignoringErrors([&] {
         if (data[0] % 8 == 0)
             start(changed(catalogued, data + 1, size - 1));
         else if (data[0] % 8 == 1)
