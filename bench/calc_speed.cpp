@@ -22,9 +22,9 @@ constexpr double Result = 123.456 / 7;
 void bareNumbers(int read, int written)
 {
     for (; read > 0; --read)
-        Numbers::read(Input);
+        Numbers::parseLocal(Input);
     for (; written > 0; --written)
-        Numbers::write(Result);
+        Numbers::formatLocal(Result);
 }
 
 void conversions(Measure &measure)

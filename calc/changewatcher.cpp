@@ -13,7 +13,7 @@ constexpr char OutOfBounds[] = "Please use a value between 0 and 1";
 
 double number(const QString &text)
 {
-    const std::optional<double> number = Numbers::read(text);
+    const std::optional<double> number = Numbers::parseLocal(text);
     if (!number)
         throw RuntimeError(ErrorNumber::TypeMismatch, text);
     return *number;
@@ -44,8 +44,8 @@ bool isZeroBeingTyped(const QString &text)
 // The echo of what is being typed: 1 - 0.94 is not 0.06 to the last digit, and the 0.06 must stay as it is.
 bool isComplement(const QString &text, const QString &partner)
 {
-    const std::optional<double> fraction = Numbers::read(partner);
-    return fraction && text == Numbers::write(1 - *fraction);
+    const std::optional<double> fraction = Numbers::parseLocal(partner);
+    return fraction && text == Numbers::formatLocal(1 - *fraction);
 }
 
 ChangeWatcher::Reaction keepSumOfOne(Field changed, Field partner, const FieldTexts &texts)
@@ -60,7 +60,7 @@ ChangeWatcher::Reaction keepSumOfOne(Field changed, Field partner, const FieldTe
     if (fraction <= 1 && isComplement(text, texts[partner]))
         return {};
     if (fraction <= 1)
-        return {{}, {{partner, Numbers::write(1 - fraction)}}};
+        return {{}, {{partner, Numbers::formatLocal(1 - fraction)}}};
     return {QString::fromLatin1(OutOfBounds), {{changed, {}}, {partner, {}}}};
 }
 

@@ -34,7 +34,7 @@ Calculation::Calculation(const FieldTexts &texts, std::optional<double> vaporisa
 
 Checked Calculation::operator[](Field field) const
 {
-    const std::optional<double> number = Numbers::read(m_texts[field]);
+    const std::optional<double> number = Numbers::parseLocal(m_texts[field]);
     if (!number)
         throw RuntimeError(ErrorNumber::TypeMismatch, m_texts[field]);
     return *number;
@@ -42,7 +42,7 @@ Checked Calculation::operator[](Field field) const
 
 void Calculation::write(Field field, Checked number)
 {
-    m_texts[field] = Numbers::write(number.value());
+    m_texts[field] = Numbers::formatLocal(number.value());
     m_outcome.changes.append({field, m_texts[field]});
 }
 

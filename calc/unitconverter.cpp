@@ -51,7 +51,7 @@ bool isLoneMinus(const QString &text)
 
 QString written(double result)
 {
-    return std::isfinite(result) ? Numbers::write(result) : QString();
+    return std::isfinite(result) ? Numbers::formatLocal(result) : QString();
 }
 
 bool isPosition(int position, size_t count)
@@ -72,7 +72,7 @@ QString convertByFormula(const QString &input, UnitPair pair, Tab tab, std::span
     const int difference = units[size_t(pair.from)].code - units[size_t(pair.to)].code;
     if (difference == SameUnit)
         return input; // character for character, without a way through the numbers
-    const std::optional<double> number = Numbers::read(input);
+    const std::optional<double> number = Numbers::parseLocal(input);
     for (const Formula &formula : formulas) {
         if (number && formula.difference == difference)
             return written(formula.convert(*number));
@@ -133,7 +133,7 @@ QString UnitConverter::convertByFactors(const QString &input)
     }
     if (input.isEmpty() || isLoneMinus(input))
         return QStringLiteral("0");
-    const std::optional<double> number = Numbers::read(input);
+    const std::optional<double> number = Numbers::parseLocal(input);
     if (!number || !isPosition(m_pair.from, m_factors.size()) || !isPosition(m_pair.to, m_factors.size()))
         return {};
     return written((*number * m_factors[size_t(m_pair.from)].factor) / m_factors[size_t(m_pair.to)].factor);

@@ -40,7 +40,7 @@ bool fits(const Parts &entry, const NumberEntry &field)
     const QString text = entry.text();
     return (field.length <= 0 || text.size() <= field.length) &&
            (field.takesMinus || entry.minus.isEmpty()) && (field.decimals > 0 || entry.point.isEmpty()) &&
-           entry.fraction.size() <= std::max(field.decimals, 0) && Numbers::read(text);
+           entry.fraction.size() <= std::max(field.decimals, 0) && Numbers::parseLocal(text);
 }
 
 // "1,234", but neither "0,234" nor "1,234E5".
@@ -99,7 +99,7 @@ std::optional<QString> NumberEntry::pasted(const QString &text) const
         entry.replace(sign, point);
     }
     std::optional<Parts> parts = partsOf(entry);
-    const std::optional<double> number = Numbers::read(entry);
+    const std::optional<double> number = Numbers::parseLocal(entry);
     if (!parts || !number)
         return std::nullopt;
     const qsizetype free = length > 0 ? length - (entry.size() - parts->fraction.size()) : decimals;
@@ -107,7 +107,7 @@ std::optional<QString> NumberEntry::pasted(const QString &text) const
     if (parts->fraction.size() > room)
         round(*parts, room);
     // Nothing is left of a number that rounds to 0.
-    if (!fits(*parts, *this) || (*number != 0 && Numbers::read(parts->text()) == 0.0))
+    if (!fits(*parts, *this) || (*number != 0 && Numbers::parseLocal(parts->text()) == 0.0))
         return std::nullopt;
     return parts->text();
 }

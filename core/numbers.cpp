@@ -11,57 +11,54 @@ QLocale withoutGroups(QLocale locale)
     return locale;
 }
 
-// Made once: a locale is costly to set up, and a conversion runs at every key press.
 const QLocale &userLocale()
 {
     static const QLocale locale = withoutGroups(QLocale::system());
     return locale;
 }
 
-const QLocale &fixedLocale()
+const QLocale &invariantLocale()
 {
     static const QLocale locale = withoutGroups(QLocale::c());
     return locale;
 }
 
-std::optional<double> readBy(const QLocale &locale, QStringView text)
+std::optional<double> parse(const QLocale &locale, QStringView text)
 {
-    // QLocale would read "inf" and "nan", and would forgive blanks around the number.
+    // QLocale would read "inf" and "nan", and would accept blanks around the number.
     for (const QChar c : text) {
-        if (c.isSpace() || (c.isLetter() && c != QLatin1Char('e') && c != QLatin1Char('E')))
+        if (c.isSpace() || (c.isLetter() && c != u'e' && c != u'E'))
             return std::nullopt;
     }
     bool ok = false;
     const double number = locale.toDouble(text, &ok);
-    if (!ok || !std::isfinite(number))
-        return std::nullopt;
-    return number;
+    return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<double> Numbers::read(QStringView text)
+std::optional<double> Numbers::parseLocal(QStringView text)
 {
-    return readBy(userLocale(), text);
+    return parse(userLocale(), text);
 }
 
-QString Numbers::write(double number)
+QString Numbers::formatLocal(double number)
 {
-    // The separator alone is the user's. The signs and digits of some locales, Swedish "×10^" among them, are
-    // texts that QLocale writes but does not read.
-    return writeFixed(number).replace(QLatin1Char('.'), decimalPoint());
+    // Only the separator is the user's: QLocale cannot parse the signs and digits that it writes in some
+    // locales, such as the Swedish "×10^".
+    return formatInvariant(number).replace(u'.', decimalPoint());
 }
 
-std::optional<double> Numbers::readFixed(QStringView text)
+std::optional<double> Numbers::parseInvariant(QStringView text)
 {
-    return readBy(fixedLocale(), text);
+    return parse(invariantLocale(), text);
 }
 
-QString Numbers::writeFixed(double number)
+QString Numbers::formatInvariant(double number)
 {
     if (number == 0)
         number = 0; // never "-0"
-    return fixedLocale().toString(number, 'G', 15);
+    return invariantLocale().toString(number, 'G', 15);
 }
 
 QString Numbers::decimalPoint()

@@ -6,21 +6,20 @@
 
 /// Numbers to text and back.
 ///
-/// What a user types and reads has the decimal separator of the desktop's locale and no group separators;
-/// what stands in a file ("fixed") goes by the C locale. Written numbers have up to 15 significant digits, no
-/// trailing zeros, and the exponent form ("1E-20") for very large and very small values; all of them can be
-/// read again.
+/// What a user types and reads ("local") has the decimal separator of the desktop's locale; what a file
+/// contains ("invariant") follows the C locale. Neither has group separators. Formatted numbers have up to 15
+/// significant digits, no trailing zeros, and an exponent ("1E-20") if they are very large or very small; all
+/// of them can be parsed again.
 namespace Numbers {
 
 /// Nothing if @p text is not a number of the user's locale: group separators, "inf", "nan", hexadecimal and
-/// blanks are refused, as is a number beyond the range of a double.
-std::optional<double> read(QStringView text);
+/// blanks are rejected, as is a number beyond the range of a double.
+std::optional<double> parseLocal(QStringView text);
+QString formatLocal(double number);
 
-QString write(double number);
-
-/// The same by the C locale.
-std::optional<double> readFixed(QStringView text);
-QString writeFixed(double number);
+/// The same in the C locale.
+std::optional<double> parseInvariant(QStringView text);
+QString formatInvariant(double number);
 
 /// The decimal separator of the user's locale: "." or "," in most.
 QString decimalPoint();

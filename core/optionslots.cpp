@@ -64,7 +64,7 @@ private:
         m_rest = m_rest.sliced(end);
         if (text.isEmpty())
             return {};
-        if (const std::optional<double> number = Numbers::readFixed(text))
+        if (const std::optional<double> number = Numbers::parseInvariant(text))
             return *number;
         return text.toString();
     }

@@ -9,7 +9,7 @@ double Value::toNumber() const
         return *number;
     if (isEmpty())
         return 0;
-    const std::optional<double> number = Numbers::readFixed(std::get<QString>(m_value));
+    const std::optional<double> number = Numbers::parseInvariant(std::get<QString>(m_value));
     if (!number)
         throw RuntimeError(ErrorNumber::TypeMismatch, std::get<QString>(m_value));
     return *number;
@@ -19,7 +19,7 @@ QString Value::toText() const
 {
     if (const auto *text = std::get_if<QString>(&m_value))
         return *text;
-    return isEmpty() ? QString() : Numbers::writeFixed(std::get<double>(m_value));
+    return isEmpty() ? QString() : Numbers::formatInvariant(std::get<double>(m_value));
 }
 
 bool Value::equals(double number) const

@@ -51,9 +51,9 @@ Eia96::Marking Eia96::decode(const QString &code, const QString &valeur, const Q
     Marking marking{code, QString(letter).remove(QLatin1Char(' ')), std::nullopt};
     if (code.isEmpty() || letter.isEmpty())
         return marking;
-    const std::optional<double> base = Numbers::readFixed(valeur);
+    const std::optional<double> base = Numbers::parseInvariant(valeur);
     if (!base)
         throw RuntimeError(ErrorNumber::TypeMismatch, valeur);
-    marking.value = Numbers::write(*base * multiplierOf(letter));
+    marking.value = Numbers::formatLocal(*base * multiplierOf(letter));
     return marking;
 }

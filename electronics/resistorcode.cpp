@@ -10,7 +10,7 @@ enum Column { Couleur, Coef1, Coef2, Coef3, Mult, Tol, Temp, Col };
 
 double number(const QString &cell)
 {
-    const std::optional<double> value = Numbers::readFixed(cell);
+    const std::optional<double> value = Numbers::parseInvariant(cell);
     if (!value)
         throw RuntimeError(ErrorNumber::TypeMismatch, cell);
     return *value;
@@ -109,7 +109,7 @@ ResistorCode::Fields ResistorCode::result(const QString &ringCount) const
     if (hasRing(ringCount, 6))
         digits += m_digitCode[2];
     Fields fields;
-    fields.resistance = Numbers::write(number(m_multiplier) * number(digits));
+    fields.resistance = Numbers::formatLocal(number(m_multiplier) * number(digits));
     // A resistor without a ring for the tolerance keeps to 20 percent.
     fields.tolerance = hasRing(ringCount, 8) ? m_tolerance : QStringLiteral("20");
     if (hasRing(ringCount, 9))

@@ -102,7 +102,7 @@ QString ElementPanel::picturePathOf(const QString &file) const
 
 ElementPanel::Zoom ElementPanel::zoom()
 {
-    const std::optional<double> number = Numbers::read(lblatome[2]);
+    const std::optional<double> number = Numbers::parseLocal(lblatome[2]);
     if (!number)
         throw RuntimeError(ErrorNumber::TypeMismatch, lblatome[2]);
     // Whatever is no row at all is the same error as the first row beyond the table.

@@ -45,12 +45,12 @@ qint64 FileFigures::folderSize(const QString &path)
 
 QString FileFigures::kilobytes(qint64 bytes)
 {
-    return Numbers::write(double(bytes) / 1024) + QStringLiteral(" Ko");
+    return Numbers::formatLocal(double(bytes) / 1024) + QStringLiteral(" Ko");
 }
 
 QString FileFigures::megabytes(qint64 bytes)
 {
-    return Numbers::write(std::nearbyint(double(bytes) / 1048576 * 100) / 100) + QStringLiteral(" Mo");
+    return Numbers::formatLocal(std::nearbyint(double(bytes) / 1048576 * 100) / 100) + QStringLiteral(" Mo");
 }
 
 QString FileFigures::modificationDate(const QString &path)

@@ -74,7 +74,7 @@ private:
         if (const std::optional<QString> entry = m_box.numberEntry().typed(text))
             return entry;
         const QString entry = withoutBareExponent(text);
-        return Numbers::read(entry) ? std::optional(entry) : std::nullopt;
+        return Numbers::parseLocal(entry) ? std::optional(entry) : std::nullopt;
     }
 
     const TextBoxM &m_box;
@@ -135,7 +135,7 @@ QString TextBoxM::limits() const
     if (m_tipodedato != AnyText) {
         const double example = m_decimales > 0 ? 12.5 : 12;
         lines << QStringLiteral("Type a number such as %1, or paste one such as 6E23.")
-                     .arg(Numbers::write(m_tipodedato == SignedNumber ? -example : example));
+                     .arg(Numbers::formatLocal(m_tipodedato == SignedNumber ? -example : example));
     }
     if (!most.isEmpty())
         lines << QStringLiteral("At most %1.").arg(most.join(QStringLiteral(" and ")));

@@ -98,14 +98,14 @@ QString numberText(double number)
 {
     if (!std::isfinite(number))
         jetDamage("a number is not finite");
-    return Numbers::write(number);
+    return Numbers::formatLocal(number);
 }
 
 QString singleText(float number)
 {
     if (!std::isfinite(number))
         jetDamage("a number is not finite");
-    return Numbers::write(QByteArray::number(double(number), 'g', 7).toDouble());
+    return Numbers::formatLocal(QByteArray::number(double(number), 'g', 7).toDouble());
 }
 
 // On day 0 only the time, at midnight only the date, else both. Before day 0 the time of day still counts

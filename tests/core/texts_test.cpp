@@ -68,7 +68,7 @@ void TextsTest::fixedNumbers()
 {
     QFETCH(QString, text);
     QFETCH(bool, isNumber);
-    QCOMPARE(Numbers::readFixed(text).has_value(), isNumber);
+    QCOMPARE(Numbers::parseInvariant(text).has_value(), isNumber);
 }
 
 void TextsTest::numbersAreWrittenShort_data()
@@ -88,7 +88,7 @@ void TextsTest::numbersAreWrittenShort()
 {
     QFETCH(double, number);
     QFETCH(QString, text);
-    QCOMPARE(Numbers::writeFixed(number), text);
+    QCOMPARE(Numbers::formatInvariant(number), text);
 }
 
 void TextsTest::copyReplacesWholeOrNotAtAll()
