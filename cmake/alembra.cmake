@@ -133,14 +133,23 @@ function(alembra_draw_icons variable sizes)
     set(${variable} ${files} PARENT_SCOPE)
 endfunction()
 
-# alembra_test_program(<name> SOURCES <files> LINK <targets>): a Qt test program; <name>.cpp includes "<name>.moc".
+# alembra_test_program(<name> SOURCES <files> LINK <targets>): a Qt test program; each <class>_test.cpp includes
+# "<class>_test.moc". Without a <name>.cpp that has a main() of its own, the classes are TestClass<...> and share one.
 function(alembra_test_program name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
-    set(moc "${CMAKE_CURRENT_BINARY_DIR}/${name}.moc")
-    add_executable(${name} ${ARG_SOURCES} "${moc}")
+    if(NOT "${name}.cpp" IN_LIST ARG_SOURCES)
+        list(APPEND ARG_SOURCES "${PROJECT_SOURCE_DIR}/tests/support/testmain.cpp")
+    endif()
+    add_executable(${name} ${ARG_SOURCES})
     # One step, where AUTOMOC takes three: a second of each test.
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)
-    qt_generate_moc(${name}.cpp "${moc}" TARGET ${name})
+    foreach(source IN LISTS ARG_SOURCES)
+        if(source MATCHES "^(.*_test)\\.cpp$")
+            set(moc "${CMAKE_CURRENT_BINARY_DIR}/${CMAKE_MATCH_1}.moc")
+            qt_generate_moc(${source} "${moc}" TARGET ${name})
+            target_sources(${name} PRIVATE "${moc}")
+        endif()
+    endforeach()
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
     target_compile_definitions(${name} PRIVATE ALEMBRA_FOLDER="${ALEMBRA_FOLDER}"
