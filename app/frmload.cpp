@@ -36,11 +36,11 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     picture->setPixmap(QApplication::windowIcon().pixmap(QSize(88, 88), devicePixelRatio()));
     picture->setGeometry(20, 24, 88, 88);
 
-    QLabel *title = addLine("lblTitle", VersionRecord::applicationTitle(), 22, 26);
+    QLabel *title = addLine("lblTitle", VersionRecord::ApplicationTitle, 22, 26);
     title->setFont(Controls::largeType(title->font()));
     addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
-    addLine("lblDescription", VersionRecord::comments(), 72, 68);
-    addLine("lblcopy", VersionRecord::legalNotice(), 142, 48);
+    addLine("lblDescription", VersionRecord::Comments, 72, 68);
+    addLine("lblcopy", VersionRecord::LegalNotice, 142, 48);
 
     auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
     doing->setGeometry(20, 192, WindowSize.width() - 40, 18);

@@ -36,7 +36,7 @@ void CodePage::append(QStringView text, QByteArray &bytes)
     char *out = bytes.data() + before;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        // A surrogate pair is one character, so it gives one question mark.
+        // A surrogate pair is one character: one question mark.
         if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
         const int byte = byteOf(c.unicode());

@@ -5,14 +5,14 @@
 #include <QString>
 #include <QStringList>
 
-/// The seam to everything outside the program that a user or the system answers: message boxes, the save
-/// dialog, opening a link, the beep, pauses and the end of the process. Tests answer in its place.
+/// The seam to everything that the user or the system answers: message boxes, the save dialog, opening a
+/// link, the beep, pauses and the end of the process. Tests replace it.
 class Desktop
 {
     Q_DISABLE_COPY_MOVE(Desktop)
 
 public:
-    /// Style numbers of message boxes; they add up. Without YesNo the box has one button, OK.
+    /// Style numbers of message boxes, to be added. Without YesNo the box has one button, OK.
     enum Style { Critical = 16, Question = 32, Warning = 48, Information = 64, YesNo = 4 };
     enum Answer { Ok = 1, Yes = 6, No = 7 };
 
@@ -31,29 +31,28 @@ public:
     /// above 15 that make up the icon are read as a number, so 68 is the information icon with Yes and No.
     virtual Answer messageBox(const QString &text, int style) = 0;
 
-    /// The chosen path, whole. A cancelled dialog is RuntimeError 32755. Existing files are not asked about.
+    /// The full chosen path. RuntimeError 32755 if the user cancels. Does not ask about existing files.
     virtual QString saveFile(const SaveRequest &request) = 0;
 
-    /// Hands a web address or the path of a file to the program that the desktop has for it. Failure is
-    /// silent.
+    /// Opens a web address or a file in the desktop's default application. Failure is silent.
     virtual void openTarget(const QString &target) = 0;
 
-    /// What the desktop says of a program for the kind of file that @p path is.
+    /// Whether the desktop has an application for the file type of @p path.
     enum class Viewer { None, Known, Unknown };
     virtual Viewer viewerOf(const QString &path) = 0;
 
     virtual void beep() = 0;
 
-    /// Lets the event loop run for @p milliseconds without burning the processor.
+    /// Runs the event loop for @p milliseconds, without busy waiting.
     virtual void pause(int milliseconds) = 0;
 
-    /// Ends the process at once, without any clean-up. It never returns; a test's stand-in throws.
+    /// Ends the process at once, without clean-up. Never returns; the tests' version throws.
     [[noreturn]] virtual void endProcess(int status) = 0;
 
-    /// A critical box, the same on standard error, and the end with status 1.
+    /// Shows @p text in a critical box and on standard error, then ends the process with status 1.
     [[noreturn]] void endWithMessage(const QString &text);
 
-    /// Ends with the run-time error report.
+    /// The same with the run-time error report.
     [[noreturn]] void endWithReport(const RuntimeError &error) { endWithMessage(error.report()); }
 };
 

@@ -5,26 +5,21 @@
 #include <QFile>
 #include <QSaveFile>
 
-namespace {
-
-constexpr qint64 PieceSize = 1 << 20;
-
-} // namespace
-
 void copyFileOver(const QString &source, const QString &destination)
 {
     QFile from(source);
     if (!from.open(QIODevice::ReadOnly))
         throw FileErrors::of(from);
-    // Written to a temporary file that replaces the destination at the end, so a failed copy changes nothing
-    // and a file can be copied onto itself.
+    // A temporary file replaces the destination at the end, so a failed copy changes nothing and a file can
+    // be copied onto itself.
     QSaveFile to(destination);
     if (!to.open(QIODevice::WriteOnly)) {
         // Qt reports an existing file without write permission as a failed write.
         throw to.error() == QFileDevice::WriteError ? RuntimeError(ErrorNumber::PathAccess, destination)
                                                     : FileErrors::ofWriting(to);
     }
-    // Read until nothing comes: an unreadable file claims to be at its end.
+    constexpr qint64 PieceSize = 1 << 20;
+    // Not until atEnd(): an unreadable file claims to be at its end.
     for (bool more = true; more;) {
         const QByteArray piece = from.read(PieceSize);
         more = !piece.isEmpty();

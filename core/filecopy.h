@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Copies @p source over @p destination, replacing it whole or leaving it as it was. RuntimeError 53 without
-/// a source, 75 or 70 for a destination that cannot be written, 61 on a full disk, 76 without its folder.
+/// Replaces @p destination by a copy of @p source, or leaves it as it was. RuntimeError 53 without a source,
+/// 75 or 70 if the destination cannot be written, 61 if the disk is full, 76 if the folder does not exist.
 void copyFileOver(const QString &source, const QString &destination);

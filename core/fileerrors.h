@@ -6,31 +6,26 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// Maps failed file operations to the error numbers of the platform.
+/// Maps failed file operations to error numbers.
 namespace FileErrors {
 
-/// For a @p file that could not be opened, read or written.
+/// The error of a @p file that could not be opened, read or written.
 inline RuntimeError of(const QFileDevice &file)
 {
     const QString path = file.fileName();
     const QFileInfo info(path);
     if (info.isDir())
         return RuntimeError(ErrorNumber::PathAccess, path);
-    switch (file.error()) {
-    case QFileDevice::ResourceError:
-    case QFileDevice::WriteError:
+    if (file.error() == QFileDevice::ResourceError || file.error() == QFileDevice::WriteError)
         return RuntimeError(ErrorNumber::DiskFull, path);
-    case QFileDevice::PermissionsError:
+    if (file.error() == QFileDevice::PermissionsError)
         return RuntimeError(ErrorNumber::PathAccess, path);
-    default:
-        break;
-    }
     if (!info.dir().exists())
         return RuntimeError(ErrorNumber::PathNotFound, path);
     return RuntimeError(info.exists() ? ErrorNumber::PathAccess : ErrorNumber::FileNotFound, path);
 }
 
-/// For a @p file that could not be created or replaced. Never "file not found".
+/// The error of a @p file that could not be created or replaced: never 53.
 inline RuntimeError ofWriting(const QFileDevice &file)
 {
     const RuntimeError error = of(file);
@@ -39,7 +34,7 @@ inline RuntimeError ofWriting(const QFileDevice &file)
                : error;
 }
 
-/// All bytes of the file at @p path. RuntimeError 53, 76 or 75 where it cannot be opened or read to its end.
+/// The content of the file at @p path. RuntimeError 53, 76 or 75 if it cannot be opened or fully read.
 inline QByteArray readWhole(const QString &path)
 {
     QFile file(path);
@@ -51,8 +46,8 @@ inline QByteArray readWhole(const QString &path)
     return bytes;
 }
 
-/// RuntimeError 75 if there is something at @p path that is not a regular file: opening a pipe or a device
-/// might block for ever.
+/// RuntimeError 75 if @p path exists but is not a regular file: opening a pipe or a device could block for
+/// ever.
 inline void refuseSpecialFile(const QString &path)
 {
     const QFileInfo info(path);
@@ -60,8 +55,8 @@ inline void refuseSpecialFile(const QString &path)
         throw RuntimeError(ErrorNumber::PathAccess, path);
 }
 
-/// Why the file at @p path cannot be written, as a paragraph to follow the message of error 75. Empty if the
-/// reason cannot be seen.
+/// Why the file at @p path cannot be written: a paragraph to append to the message of error 75. Empty if
+/// unknown.
 inline QString reasonNotWritable(const QString &path)
 {
     constexpr qsizetype LongestName = 255; // bytes, on all common file systems
@@ -77,7 +72,7 @@ inline QString reasonNotWritable(const QString &path)
         reason = "the file is not writable.";
     else if (!QFileInfo(info.path()).isWritable())
         reason = "the folder is not writable.";
-    return reason ? QStringLiteral("\n\nReason: ") + QLatin1StringView(reason) : QString();
+    return reason ? QString("\n\nReason: ") + reason : QString();
 }
 
 } // namespace FileErrors

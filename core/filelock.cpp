@@ -6,8 +6,9 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
-// The system has two kinds of locks that know nothing of each other.
 namespace {
+
+// The system has two kinds of locks, independent of each other.
 
 bool recordLockForbids(FileLock::Access access, int file)
 {
@@ -19,7 +20,7 @@ bool recordLockForbids(FileLock::Access access, int file)
     return fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
 }
 
-// Closing the file gives up the lock that this takes if it may.
+// If this takes the lock, closing the file releases it.
 bool wholeFileLockForbids(FileLock::Access access, int file)
 {
     const int kind = access == FileLock::Access::Read ? LOCK_SH : LOCK_EX;
@@ -30,9 +31,9 @@ bool wholeFileLockForbids(FileLock::Access access, int file)
 
 bool FileLock::forbids(Access access, const QString &path)
 {
-    // Opening a pipe might wait for its other end.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || // opening a pipe could block
+        !file.open(QIODevice::ReadOnly))
         return false;
     return recordLockForbids(access, file.handle()) || wholeFileLockForbids(access, file.handle());
 }

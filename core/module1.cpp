@@ -18,7 +18,7 @@ QString optionsFile(const QString &folder)
 QString Module1::ReadOptions(const QString &request, const QString &folder)
 {
     AppFolder = folder;
-    if (request == QLatin1StringView("opt"))
+    if (request == u"opt")
         OptionSlots.read(optionsFile(AppFolder));
     return {};
 }

@@ -4,43 +4,43 @@
 
 #include <QString>
 
-/// The program-wide values. `Main` creates the only one; all others get a reference.
+/// The program-wide values. `Main` creates the only instance; everyone else gets a reference.
 struct Module1
 {
-    /// The folder of the user's files, options and database: that of the executable unless the command line
-    /// names another. "/" as separator, without one at its end.
+    /// The folder of the user's files, options and database: the executable's folder unless the command line
+    /// names another. Separator "/", none at the end.
     QString AppFolder;
 
-    /// The folder of the executable where it is not `AppFolder`, otherwise empty.
+    /// The executable's folder if it is not `AppFolder`, otherwise empty.
     QString ShippedFolder;
 
     ::OptionSlots OptionSlots;
 
-    /// Number of unit names in the lists of the conversions, for the statistics.
+    /// Number of unit names in the conversions, for the statistics.
     int UnitItemCount = 0;
 
-    /// The chart or structure last chosen by its one-based number.
+    /// One-based number of the chart or structure last chosen.
     int SelectedChart = 0;
 
     /// Class of the last row written to a report, "teven" or "tnoteven"; empty before the first row of a run.
-    /// It continues from table to table and from report to report.
+    /// Tables and reports continue the alternation.
     QString ReportRowClass;
 
-    /// File length in bytes, set by ProbeFileLength. After a save: the number of its error, or 0.
+    /// File length in bytes, set by ProbeFileLength. After a save, its error number or 0.
     qint64 ProbedLength = 0;
 
-    /// Stores @p folder as `AppFolder` and, only if @p request is "opt", reads the options file in it.
-    /// The result is always empty. A failure is the RuntimeError of OptionSlots::read.
+    /// Sets `AppFolder` to @p folder and, if @p request is "opt", reads its options file. The result is
+    /// always empty. RuntimeError as in OptionSlots::read.
     QString ReadOptions(const QString &request, const QString &folder);
 
-    /// Writes the options file back. A failure is the RuntimeError of OptionSlots::write.
+    /// Writes the options file. RuntimeError as in OptionSlots::write.
     void WriteOptions() const;
 
-    /// The folder that holds the shipped @p file ("Data/ir/1.gif"): `AppFolder` if the user put one there,
-    /// otherwise that of the executable.
+    /// The folder of the shipped @p file ("Data/ir/1.gif"): `AppFolder` if the file is there, otherwise the
+    /// executable's folder.
     const QString &folderOf(const QString &file) const;
 
-    /// The path of the shipped @p file, by folderOf().
+    /// The path of the shipped @p file, from folderOf().
     QString shippedFile(const QString &file) const { return folderOf(file) + u'/' + file; }
 
     /// "1.1.0"

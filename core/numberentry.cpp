@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QChar DecimalSigns[]{u'.', u','};
@@ -20,15 +22,15 @@ struct Parts
     QString text() const { return minus + whole + point + fraction + exponent; }
 };
 
-// Any part may be empty, so a sign alone has parts too.
+// Any part may be empty: a lone sign is valid.
 std::optional<Parts> partsOf(const QString &text)
 {
-    static const QRegularExpression Form(
-        QStringLiteral("^([-%1]?)(\\d*)(%2?)(\\d*)(E[-+]?\\d+)?$")
-            .arg(QRegularExpression::escape(QLocale::system().negativeSign()),
-                 QRegularExpression::escape(Numbers::decimalPoint())),
-        QRegularExpression::UseUnicodePropertiesOption | QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = Form.match(text);
+    static const QString Form = u"^([-%1]?)(\\d*)(%2?)(\\d*)(E[-+]?\\d+)?$"_s.arg(
+        QRegularExpression::escape(QLocale::system().negativeSign()),
+        QRegularExpression::escape(Numbers::decimalPoint()));
+    static const QRegularExpression Entry(Form, QRegularExpression::UseUnicodePropertiesOption |
+                                                    QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = Entry.match(text);
     if (!match.hasMatch())
         return std::nullopt;
     return Parts{match.captured(1), match.captured(2), match.captured(3), match.captured(4),
@@ -46,11 +48,11 @@ bool fits(const Parts &entry, const NumberEntry &field)
 // "1,234", but neither "0,234" nor "1,234E5".
 bool mayBeThousands(const QString &text)
 {
-    static const QRegularExpression Thousands(QStringLiteral("^\\W?[1-9]\\d{0,2}[.,]\\d{3}$"));
+    static const QRegularExpression Thousands(u"^\\W?[1-9]\\d{0,2}[.,]\\d{3}$"_s);
     return Thousands.match(text).hasMatch();
 }
 
-/// The first @p count of @p digits, rounded by the next one; one digit more if it carries that far.
+/// The first @p count of @p digits, rounded half up; one more digit if the first one carries.
 QString rounded(QString digits, qsizetype count)
 {
     const bool up = digits[count].digitValue() >= 5;
@@ -61,7 +63,7 @@ QString rounded(QString digits, qsizetype count)
         if (!nine)
             return digits;
     }
-    return up ? QLatin1Char('1') + digits : digits;
+    return up ? u'1' + digits : digits;
 }
 
 void round(Parts &number, qsizetype decimals)
@@ -83,7 +85,7 @@ std::optional<QString> NumberEntry::typed(QString text) const
     if (!parts)
         return std::nullopt;
     if (parts->whole.isEmpty() && parts->fraction.isEmpty() && !parts->point.isEmpty())
-        parts->whole = QLatin1Char('0');
+        parts->whole = u'0';
     if (parts->text() == parts->minus)
         return takesMinus ? std::optional(text) : std::nullopt;
     return fits(*parts, *this) ? std::optional(parts->text()) : std::nullopt;
@@ -106,7 +108,7 @@ std::optional<QString> NumberEntry::pasted(const QString &text) const
     const qsizetype room = std::clamp<qsizetype>(free, 0, std::max(decimals, 0));
     if (parts->fraction.size() > room)
         round(*parts, room);
-    // Nothing is left of a number that rounds to 0.
+    // A number other than 0 must not round to 0.
     if (!fits(*parts, *this) || (*number != 0 && Numbers::parseLocal(parts->text()) == 0.0))
         return std::nullopt;
     return parts->text();

@@ -3,21 +3,21 @@
 #include <QString>
 #include <optional>
 
-/// The limits of a field for one number, and what becomes of an entry under them. Numbers have the decimal
-/// sign of the user's locale.
+/// The limits of a number field, and what they make of an entry. Numbers have the decimal separator of the
+/// user's locale.
 struct NumberEntry
 {
     bool takesMinus = false;
-    int decimals = 0; ///< most digits after the decimal sign; 0 or less takes no decimal sign
-    int length = 0;   ///< most characters; 0 or less is no limit
+    int decimals = 0; ///< maximum number of decimals; 0 or less rejects the decimal separator
+    int length = 0;   ///< maximum number of characters; 0 or less is no limit
 
-    /// The entry that a key makes of a field, @p text being what it would leave there. A "." and a "," are
-    /// both the decimal sign; one without a digit gets its zero, and a minus alone is on its way to a number.
-    /// Nothing if the key is refused.
+    /// The new entry if a key press would make it @p text; nothing if the key is rejected. "." and "," both
+    /// count as the decimal separator; a separator without a digit gets a leading zero; a lone minus is
+    /// accepted.
     std::optional<QString> typed(QString text) const;
 
-    /// The entry that a pasted text makes of a field: also a number in E notation, rounded to the decimals
-    /// and the length of the field. Nothing if @p text is not plainly one number, as where a sign may be that
-    /// of thousands: 1,234 is never 1.234, and the other way round where a comma is the decimal sign.
+    /// The new entry if @p text is pasted: a number, also in E notation, rounded to the decimals and the
+    /// length of the field. Nothing if @p text is ambiguous: where the decimal separator is a point, 1,234
+    /// may mean a thousand, and the other way round.
     std::optional<QString> pasted(const QString &text) const;
 };

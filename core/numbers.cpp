@@ -1,5 +1,7 @@
 #include "core/numbers.h"
 
+#include "core/runtimeerror.h"
+
 #include <QLocale>
 #include <cmath>
 
@@ -35,6 +37,13 @@ std::optional<double> parse(const QLocale &locale, QStringView text)
     return ok && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
+double require(std::optional<double> number, const QString &text)
+{
+    if (!number)
+        throw RuntimeError(ErrorNumber::TypeMismatch, text);
+    return *number;
+}
+
 } // namespace
 
 std::optional<double> Numbers::parseLocal(QStringView text)
@@ -59,6 +68,16 @@ QString Numbers::formatInvariant(double number)
     if (number == 0)
         number = 0; // never "-0"
     return invariantLocale().toString(number, 'G', 15);
+}
+
+double Numbers::requireLocal(const QString &text)
+{
+    return require(parseLocal(text), text);
+}
+
+double Numbers::requireInvariant(const QString &text)
+{
+    return require(parseInvariant(text), text);
 }
 
 QString Numbers::decimalPoint()

@@ -17,9 +17,13 @@ namespace Numbers {
 std::optional<double> parseLocal(QStringView text);
 QString formatLocal(double number);
 
-/// The same in the C locale.
+/// RuntimeError 13 if @p text is not a number.
+double requireLocal(const QString &text);
+
+// The same in the C locale.
 std::optional<double> parseInvariant(QStringView text);
 QString formatInvariant(double number);
+double requireInvariant(const QString &text);
 
 /// The decimal separator of the user's locale: "." or "," in most.
 QString decimalPoint();

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Takes delimited values from a text one at a time: a comma or a line's end closes a value.
+/// Reads delimited values one by one. A comma or the end of the line ends a value.
 class DelimitedReader
 {
 public:
@@ -37,7 +37,7 @@ private:
 
     void skipDelimiter()
     {
-        if (m_rest.startsWith(QLatin1StringView("\r\n")))
+        if (m_rest.startsWith(u"\r\n"))
             m_rest = m_rest.sliced(2);
         else if (!m_rest.isEmpty() && isDelimiter(m_rest.front()))
             m_rest = m_rest.sliced(1);
@@ -45,7 +45,7 @@ private:
 
     static bool isDelimiter(QChar c) { return c == u',' || c == u'\r' || c == u'\n'; }
 
-    // Up to the next quote, or to the end of the file where there is none.
+    // Up to the next quote or, without one, to the end of the file.
     Value quoted()
     {
         m_rest = m_rest.sliced(1);
@@ -102,12 +102,10 @@ void OptionSlots::read(const QString &path)
     const QString text = CodePage::decode(FileErrors::readWhole(path));
     DelimitedReader reader(text);
     while (!reader.atEnd()) {
-        if (m_counter > LastIndex)
+        if (m_readCount > LastIndex)
             throw RuntimeError(ErrorNumber::Subscript, path);
-        (*this)(m_counter) = reader.next();
-        ++m_counter;
+        m_slots[size_t(m_readCount++)] = reader.next();
     }
-    m_lastIndex = m_counter - 1;
 }
 
 void OptionSlots::write(const QString &path) const
@@ -115,7 +113,7 @@ void OptionSlots::write(const QString &path) const
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw FileErrors::ofWriting(file);
-    for (int index = 0; index <= m_lastIndex; ++index)
+    for (int index = 0; index < m_readCount; ++index)
         file.write(delimited((*this)(index)) + "\r\n");
     if (!file.flush() || file.error() != QFileDevice::NoError)
         throw FileErrors::ofWriting(file);

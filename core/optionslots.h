@@ -4,7 +4,7 @@
 
 #include <array>
 
-/// The slots that have a name in the code. The slots in between contain the unit names.
+/// The slots with a name in the code. The others contain unit names.
 enum class Slot {
     Decimals = 0,
     GridLines = 53,
@@ -29,11 +29,11 @@ enum class Slot {
     IrInFrequency = 89,
 };
 
-/// All settings of the program and the unit names of the conversions: 101 values identified by position.
+/// All settings of the program and the unit names of the conversions: 101 values, identified by position.
 ///
-/// Their file, `options_uk.ini`, has one value on each line, in Windows-1252 with CR LF: texts in double
-/// quotes, numbers without. Reading and writing share a counter that is never reset, and writing stops at the
-/// last index read, so the file keeps its length.
+/// Their file, `options_uk.ini`, has one value per line, in Windows-1252 with CR LF; texts are quoted.
+/// Reading continues where the last read ended. Writing stops at the last value read, so the file keeps its
+/// length.
 class OptionSlots final
 {
 public:
@@ -48,15 +48,13 @@ public:
     /// Fills the slots from the file. RuntimeError 53, 75 or 70 if it cannot be opened, 9 at the 102nd value.
     void read(const QString &path);
 
-    /// Replaces the file, in place and without a copy of the old one. RuntimeError 70, 75, 76 or 61 if it
-    /// fails.
+    /// Overwrites the file in place, without a backup. RuntimeError 70, 75, 76 or 61.
     void write(const QString &path) const;
 
     /// Index of the last value read; -1 before reading and for an empty file.
-    int lastIndex() const { return m_lastIndex; }
+    int lastIndex() const { return m_readCount - 1; }
 
 private:
     std::array<Value, LastIndex + 1> m_slots;
-    int m_counter = 0;
-    int m_lastIndex = -1;
+    int m_readCount = 0;
 };

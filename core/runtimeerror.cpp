@@ -19,7 +19,6 @@ constexpr std::array Wordings{
     Wording{ErrorNumber::DivisionByZero, "Division by zero"},
     Wording{ErrorNumber::TypeMismatch, "Type mismatch"},
     Wording{ErrorNumber::FileNotFound, "File not found"},
-    Wording{ErrorNumber::DeviceError, "Device I/O error"},
     Wording{ErrorNumber::DiskFull, "Disk full"},
     Wording{ErrorNumber::PermissionDenied, "Permission denied"},
     Wording{ErrorNumber::PathAccess, "Path/File access error"},
@@ -41,7 +40,7 @@ QString wording(int number)
 {
     for (const Wording &entry : Wordings) {
         if (entry.number == number)
-            return QString::fromLatin1(entry.text);
+            return entry.text;
     }
     return u"Application-defined or object-defined error"_s;
 }

@@ -12,7 +12,6 @@ inline constexpr int Subscript = 9;
 inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
-inline constexpr int DeviceError = 57;
 inline constexpr int DiskFull = 61;
 inline constexpr int PermissionDenied = 70;
 inline constexpr int PathAccess = 75;
@@ -31,19 +30,18 @@ inline constexpr int DatabaseFailure = static_cast<int>(0x80004005);
 
 } // namespace ErrorNumber
 
-/// The only exception type of the program: an error number of the platform and its subject.
-///
-/// It is caught only where the behaviour requires it; an uncaught one ends the process with its report.
+/// The only exception type of the program. Caught only where the behaviour requires it; otherwise it ends the
+/// process with its report.
 class RuntimeError final : public std::exception
 {
 public:
-    /// @p subject names the file, table or control concerned; it may be empty.
+    /// @p subject is the file, table or control concerned, or empty.
     explicit RuntimeError(int number, QString subject = {});
 
     int number() const { return m_number; }
     const QString &subject() const { return m_subject; }
 
-    /// "Run-time error '53':", an empty line, the wording of the number and, on the next line, the subject.
+    /// "Run-time error '53':", an empty line, the description and, on the next line, the subject.
     QString report() const;
 
     const char *what() const noexcept override { return m_what.constData(); }

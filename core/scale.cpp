@@ -13,7 +13,7 @@ constexpr std::array Steps{Scale::Least, 90, Scale::Normal, 110, 125, 150, 175, 
 constexpr QLatin1StringView Choice("Scale/Choice");
 constexpr QLatin1StringView Desktop("Scale/Desktop");
 
-/// A number out of a file that anybody can edit; 0 for none.
+/// 0 if there is none. Anybody can edit the file, so it is clamped.
 int read(const QSettings &settings, QLatin1StringView key)
 {
     const int percent = settings.value(key).toInt();

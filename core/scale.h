@@ -2,7 +2,7 @@
 
 #include <QSize>
 
-/// How large the program is: one scale for all of its windows, in per cent of their normal size.
+/// The scale of all windows, in per cent of their normal size.
 struct Scale
 {
     static constexpr int Least = 75;
@@ -10,26 +10,24 @@ struct Scale
     static constexpr int Most = 250;
 
     int percent = Normal;   ///< of this run
-    int byDesktop = Normal; ///< what the size of the desktop's type asks for
+    int byDesktop = Normal; ///< from the desktop's font size
 
-    /// For a desktop that writes in @p points: windows are made for 10 points, and up to that they are
-    /// normal.
+    /// For a desktop font of @p points: 100 up to 10 points, for which the windows are made.
     static int ofType(double points);
 
-    /// The next step up or down; the same at the end.
+    /// The next step up or down; unchanged at either end.
     static int larger(int percent);
     static int smaller(int percent);
 
-    /// The largest at which a window of that normal size fits into @p room.
+    /// The largest scale at which a window of normal size @p window fits into @p room.
     static int fitting(QSize window, QSize room);
 
-    /// What the next start takes before it knows the desktop: the user's choice, or what the desktop asked
-    /// for the last time.
+    /// What a start uses before it knows the desktop: the user's choice or the desktop's last scale.
     static int remembered();
 
-    /// What this run should have: the user's choice, or what the desktop asks for now, which is remembered.
+    /// What this run should use: the user's choice or the desktop's scale. Remembers the latter.
     static int wanted(int byDesktop);
 
-    /// Remembers the user's choice. The one that the desktop asks for goes on following the desktop.
+    /// Remembers the user's choice. Choosing the desktop's scale means following the desktop.
     void choose(int choice) const;
 };

@@ -5,7 +5,7 @@
 
 namespace {
 
-// By the layout of the typeface: upper case "A" to "Z", then lower case "a" to "z".
+// The layout of the typeface, "A" to "Z" and "a" to "z".
 constexpr std::array<char16_t, 26> UpperCase{
     u'Α', u'Β', u'Χ', u'Δ', u'Ε', u'Φ', u'Γ', u'Η', u'Ι', u'ϑ', u'Κ', u'Λ', u'Μ',
     u'Ν', u'Ο', u'Π', u'Θ', u'Ρ', u'Σ', u'Τ', u'Υ', u'ς', u'Ω', u'Ξ', u'Ψ', u'Ζ',

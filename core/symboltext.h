@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// Converts texts that are stored for a Symbol typeface ("a" for alpha) to Unicode, because a desktop may not
-/// have such a typeface. Stored texts and reports keep the letters.
+/// Converts texts stored for a Symbol typeface ("a" is alpha) to Unicode, because a desktop may not have such
+/// a typeface. Stored texts and reports keep the letters.
 namespace SymbolText {
 
-/// Each letter becomes the Greek letter that the typeface shows for it; digits and punctuation stay.
+/// Replaces each letter by the Greek letter of the typeface; digits and punctuation stay.
 QString toUnicode(const QString &letters);
 
-/// The same for the decay modes of isotopes, whose capitals are abbreviations and stay: "e, SF" is "ε, SF".
+/// The same for decay modes, whose capitals are abbreviations and stay: "e, SF" becomes "ε, SF".
 QString decayModes(const QString &letters);
 
 } // namespace SymbolText

@@ -2,10 +2,8 @@
 
 #include <QSettings>
 
-/// What is kept for a user, whichever program folder is started: a file in the user's own folder for
-/// settings.
+/// Settings of the user, independent of the program folder.
 inline QSettings userSettings()
 {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Alembra"),
-                     QStringLiteral("Alembra_uk"));
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, "Alembra", "Alembra_uk");
 }

@@ -3,9 +3,7 @@
 #include <QString>
 #include <variant>
 
-/// The value of an option slot: empty, a number or a text.
-///
-/// Empty equals the number 0 and never 1; a text never equals a number, even if it reads like one.
+/// The value of an option slot: empty, a number or a text. Empty equals 0; a text never equals a number.
 class Value final
 {
 public:
@@ -16,17 +14,14 @@ public:
 
     bool isEmpty() const { return std::holds_alternative<std::monostate>(m_value); }
     bool isText() const { return std::holds_alternative<QString>(m_value); }
-    bool isNumber() const { return std::holds_alternative<double>(m_value); }
 
-    /// The number; 0 when empty. A text that reads as a number in the file's notation ("." as separator)
-    /// gives it, any other text is a type mismatch: RuntimeError 13.
+    /// The number; 0 if empty. A text is parsed in the C locale; RuntimeError 13 if it is not a number.
     double toNumber() const;
 
-    /// The text; a number in the notation of the options file: 15 significant digits, "." as separator.
+    /// The text, or the number in the C locale with up to 15 significant digits.
     QString toText() const;
 
-    /// True if this is the number @p number, or empty and @p number is 0.
-    bool equals(double number) const;
+    bool equals(double number) const { return *this == Value(number) || (isEmpty() && number == 0); }
 
     friend bool operator==(const Value &a, const Value &b) { return a.m_value == b.m_value; }
 

@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize PictureSize{88, 88};
@@ -21,8 +23,8 @@ constexpr int TextWidth = 330;
 
 frmAbout::frmAbout(Desktop &desktop, QWidget &form1) : SideWindow("frmAbout", form1), m_desktop(desktop)
 {
-    setWindowTitle(QStringLiteral("About ") + VersionRecord::applicationTitle());
-    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
+    setWindowTitle(u"About "_s + VersionRecord::ApplicationTitle);
+    auto *picture = Controls::label(u"Image1"_s, {}, this);
     picture->setPixmap(Icons::program().pixmap(PictureSize, devicePixelRatio()));
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetFixedSize);
@@ -36,11 +38,11 @@ frmAbout::frmAbout(Desktop &desktop, QWidget &form1) : SideWindow("frmAbout", fo
 
 QLayout *frmAbout::buildTexts()
 {
-    QLabel *lblTitle = Controls::heading(QStringLiteral("lblTitle"), VersionRecord::applicationTitle(), this);
+    QLabel *lblTitle = Controls::heading(u"lblTitle"_s, VersionRecord::ApplicationTitle, this);
     QFont large = lblTitle->font();
     large.setPointSizeF(large.pointSizeF() * 1.9);
     lblTitle->setFont(large);
-    auto *Line1 = Controls::named(new QFrame(this), QStringLiteral("Line1"));
+    auto *Line1 = Controls::named(new QFrame(this), u"Line1"_s);
     Line1->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
 
     auto *column = new QVBoxLayout;
@@ -52,11 +54,11 @@ QLayout *frmAbout::buildTexts()
         column->addWidget(label);
     };
     column->addWidget(lblTitle);
-    addText("lblVersion", QStringLiteral("Version %1").arg(Module1::version()));
-    addText("lblDisclaimer", VersionRecord::fileDescription());
+    addText("lblVersion", u"Version %1"_s.arg(Module1::version()));
+    addText("lblDisclaimer", VersionRecord::FileDescription);
     column->addWidget(Line1);
-    addText("lblcopy", VersionRecord::legalNotice());
-    addText("Label5", QStringLiteral("Published in ") + VersionRecord::noticeYears());
+    addText("lblcopy", VersionRecord::LegalNotice);
+    addText("Label5", u"Published in "_s + VersionRecord::NoticeYears);
     column->addLayout(buildAddresses());
     return column;
 }
@@ -64,26 +66,25 @@ QLayout *frmAbout::buildTexts()
 QLayout *frmAbout::buildAddresses()
 {
     const QString webSite = QLatin1StringView(BuildSettings::WebSite);
-    auto *Label1 = Controls::named(new LinkLabel(webSite, webSite, this), QStringLiteral("Label1"));
-    QLabel *Label2 = Controls::label(QStringLiteral("Label2"), VersionRecord::contactAddress(), this);
+    auto *Label1 = Controls::named(new LinkLabel(webSite, webSite, this), u"Label1"_s);
+    QLabel *Label2 = Controls::label(u"Label2"_s, VersionRecord::contactAddress(), this);
     Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
     connect(Label1, &LinkLabel::clicked, this,
             [this](const QString &target) { m_desktop.openTarget(target); });
 
     auto *grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
-    grid->addWidget(Controls::label(QStringLiteral("Label3"), QStringLiteral("Website: "), this), 0, 0);
+    grid->addWidget(Controls::label(u"Label3"_s, u"Website: "_s, this), 0, 0);
     grid->addWidget(Label1, 0, 1, Qt::AlignLeft);
-    grid->addWidget(Controls::label(QStringLiteral("Label4"), QStringLiteral("E-mail:"), this), 1, 0);
+    grid->addWidget(Controls::label(u"Label4"_s, u"E-mail:"_s, this), 1, 0);
     grid->addWidget(Label2, 1, 1);
     return grid;
 }
 
 QLayout *frmAbout::buildButtons()
 {
-    auto *cmdSysInfo = Controls::named(new QPushButton(QStringLiteral("&System infos..."), this),
-                                       QStringLiteral("cmdSysInfo"));
-    QPushButton *cmdOk = makeOkButton(QStringLiteral("cmdOk"));
+    auto *cmdSysInfo = Controls::named(new QPushButton(u"&System infos..."_s, this), u"cmdSysInfo"_s);
+    QPushButton *cmdOk = makeOkButton(u"cmdOk"_s);
     cmdSysInfo->setMinimumWidth(104);
     cmdSysInfo->setAutoDefault(false);
     cmdOk->setFocus();
@@ -98,7 +99,7 @@ QLayout *frmAbout::buildButtons()
 void frmAbout::StartSysInfo()
 {
     // Where a registry names a program for this, it is started; there is none here, so the last step is left.
-    m_desktop.messageBox(QStringLiteral("Les informations système ne sont pas disponibles actuellement"), 0);
+    m_desktop.messageBox(u"Les informations système ne sont pas disponibles actuellement"_s, 0);
 }
 
 void openAbout(Desktop &desktop, QWidget &form1)
