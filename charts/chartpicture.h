@@ -4,9 +4,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// A picture area that charts are painted into: `Picture3`, `Picture4`. Its frame clips it.
-///
-/// A chart is shown at its own size. Positions are twips; the area grows with what is painted into it.
+/// A picture area for charts: `Picture3`, `Picture4`. It takes the size of its chart; its frame clips it.
+/// Positions are twips.
 class ChartPicture final : public QWidget
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     /// Paints @p picture with its left edge at @p left and its top at 0.
     void paint(const QImage &picture, double left);
 
-    /// Moves what is painted up by that many logical pixels, within the area.
+    /// Moves the chart up by @p rise logical pixels within the area.
     void setRise(int rise);
 
     bool isClear() const { return m_picture.isNull(); }

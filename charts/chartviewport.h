@@ -5,8 +5,8 @@
 
 /// The frame that shows a part of a chart: `grdFrame19`.
 ///
-/// While its scroll bar is shown, the wheel and the keys of the bar work in the frame too, which then takes
-/// part in the Tab order; the outline around it tells when it has the focus.
+/// While its scroll bar is shown, it forwards the wheel and the keys to the bar and is in the Tab order. The
+/// outline around it marks the focus.
 class ChartViewport final : public QWidget
 {
     Q_OBJECT

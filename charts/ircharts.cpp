@@ -3,33 +3,32 @@
 #include "core/optionslots.h"
 #include "store/rowlist.h"
 
-#include <QStringList>
+#include <QMap>
+
+using namespace Qt::StringLiterals;
 
 namespace IrCharts {
 
 std::optional<QString> title(const QString &ChartKey)
 {
-    static const QStringList groups{
-        QStringLiteral("Aliphatics, aliphatics halide"),
-        QStringLiteral("Oxygen-containing compounds"),
-        QStringLiteral("Nitrogen-containing compounds"),
-        QStringLiteral("Sulfur, Phosphorous, Silicium"),
-        QStringLiteral("Aromatics"),
-        QStringLiteral("Functionalized aromatics"),
+    static const QMap<QString, QString> titles{
+        {u"1"_s, u"Aliphatics, aliphatics halide"_s},
+        {u"2"_s, u"Oxygen-containing compounds"_s},
+        {u"3"_s, u"Nitrogen-containing compounds"_s},
+        {u"4"_s, u"Sulfur, Phosphorous, Silicium"_s},
+        {u"5"_s, u"Aromatics"_s},
+        {u"6"_s, u"Functionalized aromatics"_s},
     };
-    for (int group = 1; group <= groups.size(); ++group) {
-        if (ChartKey == QString::number(group))
-            return groups[group - 1];
-    }
-    return std::nullopt;
+    const auto found = titles.find(ChartKey);
+    return found == titles.end() ? std::nullopt : std::optional(*found);
 }
 
 int bandsOf(const RowList &bands, QStringView motif, const QString &title)
 {
-    const QStringView firstPart = motif.first(qMax(0, motif.indexOf(QLatin1Char(','))));
+    const QStringView firstPart = motif.first(qMax(0, motif.indexOf(u',')));
     for (const QStringView name : {motif, firstPart, QStringView(title)}) {
-        for (int row = 0; !name.isEmpty() && row < bands.rowCount(); ++row) {
-            if (bands.cell(row, 0).startsWith(name))
+        for (int row = 0; row < bands.rowCount(); ++row) {
+            if (!name.isEmpty() && bands.cell(row, 0).startsWith(name))
                 return row;
         }
     }
@@ -38,7 +37,7 @@ int bandsOf(const RowList &bands, QStringView motif, const QString &title)
 
 QString file(const QString &ChartKey)
 {
-    return QStringLiteral("Data/ir/%1.gif").arg(ChartKey);
+    return u"Data/ir/%1.gif"_s.arg(ChartKey);
 }
 
 const Graduation &graduation(const OptionSlots &slots)

@@ -20,9 +20,11 @@
 #include <QScrollBar>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// Logical pixels, as on the pane of the spectra: a column with the list, the picture right of it.
+// Logical pixels. The list is on the left, the picture on the right, as on the Spectroscopy pane.
 constexpr int Margin = 4;
 constexpr int StripHeight = 30;
 constexpr int ListTop = StripHeight + 2 + TitleFrame::OneLine + 2;
@@ -33,8 +35,7 @@ constexpr int ScrollBarWidth = 16;
 constexpr int FrameWidth = ModulePanel::Size.width() - PictureLeft - ScrollBarWidth - Margin;
 constexpr int FrameHeight = ModulePanel::Size.height() - PictureTop - Margin;
 
-/// Answers to the release of the mouse over it alone: a view that is chosen by the keyboard waits for the
-/// next.
+/// Reacts only to a mouse release over it: a view chosen by the keyboard applies to the next reaction.
 class OptionButton final : public QRadioButton
 {
 public:
@@ -68,23 +69,22 @@ void ReactionsPane::buildContents()
     takeRows();
 }
 
-// Combo5 chooses nothing: the list is the same for all its entries. The others are never seen.
+// Combo5 has no effect on the list. The other two are never visible.
 void ReactionsPane::buildIdleControls()
 {
-    auto *Combo5 = Controls::named(new QComboBox(this), QStringLiteral("Combo5"));
-    Combo5->setAccessibleName(tr("Order of the reactions"));
-    Combo5->addItems({QStringLiteral("Reaction name"), QStringLiteral("Type of transformation"),
-                      QStringLiteral("Protecting groups")});
+    auto *Combo5 = Controls::named(new QComboBox(this), u"Combo5"_s);
+    Combo5->setAccessibleName(u"Order of the reactions"_s);
+    Combo5->addItems({u"Reaction name"_s, u"Type of transformation"_s, u"Protecting groups"_s});
     Combo5->setGeometry(Margin, 2, ListWidth, StripHeight - 4);
-    Controls::named(new QLineEdit(this), QStringLiteral("Text4"))->hide();
-    Controls::named(new QPushButton(this), QStringLiteral("Command3"))->hide();
+    Controls::named(new QLineEdit(this), u"Text4"_s)->hide();
+    Controls::named(new QPushButton(this), u"Command3"_s)->hide();
 }
 
 void ReactionsPane::buildList()
 {
-    auto *list = new RowListView({}, m_store.lists.ListView3[31],
-                                 {{QStringLiteral("Nom de réaction"), ListWidth - 22}}, this);
-    list->setAccessibleName(tr("Reactions"));
+    auto *list =
+        new RowListView({}, m_store.lists.ListView3[31], {{u"Nom de réaction"_s, ListWidth - 22}}, this);
+    list->setAccessibleName(u"Reactions"_s);
     list->setGeometry(Margin, ListTop, ListWidth, height() - Margin - ListTop);
     ListView3.add(31, list);
     (new TitleFrame({}, this, TitleFrame::OneLine))->addTitles(*list, Label2, {105});
@@ -99,20 +99,18 @@ void ReactionsPane::buildViews()
         option->mouseReleased = [this] { endOnError(m_desktop, [this] { changeView(); }); };
         optorga.add(view, option);
     };
-    addOption(Equation, QStringLiteral("Bilan général"));
-    addOption(Mechanism, QStringLiteral("Mécanisme"));
+    addOption(Equation, u"Bilan général"_s);
+    addOption(Mechanism, u"Mécanisme"_s);
     optorga[Equation].setChecked(true);
     int right = width() - Margin - ScrollBarWidth;
     for (const View view : {Mechanism, Equation}) {
-        QRadioButton &option = optorga[view];
-        const QSize size = option.sizeHint();
-        option.setGeometry(right - size.width(), (StripHeight - size.height()) / 2, size.width(),
-                           size.height());
+        const QSize size = optorga[view].sizeHint();
+        optorga[view].setGeometry({{right - size.width(), (StripHeight - size.height()) / 2}, size});
         right -= size.width() + 16;
     }
     setTabOrder(&optorga[Equation], &optorga[Mechanism]);
 
-    Label55 = Controls::heading(QStringLiteral("Label55"), {}, this);
+    Label55 = Controls::heading(u"Label55"_s, {}, this);
     Label55->setGeometry(PictureLeft + 7, 2, right - PictureLeft - 7, StripHeight - 4);
 }
 
@@ -122,14 +120,14 @@ void ReactionsPane::buildPicture()
     outline->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
     outline->setForegroundRole(QPalette::Mid);
     outline->setGeometry(PictureLeft, PictureTop, FrameWidth, FrameHeight);
-    grdFrame35 = Controls::named(new QWidget(this), QStringLiteral("grdFrame35"));
+    auto *grdFrame35 = Controls::named(new QWidget(this), u"grdFrame35"_s);
     grdFrame35->setGeometry(outline->geometry().adjusted(1, 1, -1, -1));
-    Picture4 = new ChartPicture(QStringLiteral("Picture4"), grdFrame35);
-    SourceImage2 = new PictureBox(QStringLiteral("SourceImage2"), this);
+    Picture4 = new ChartPicture(u"Picture4"_s, grdFrame35);
+    SourceImage2 = new PictureBox(u"SourceImage2"_s, this);
     SourceImage2->hide();
 
-    // Has a range and moves, but the picture stays where it is.
-    VScroll1 = Controls::named(new QScrollBar(Qt::Vertical, this), QStringLiteral("VScroll1"));
+    // Moving it does not scroll the picture.
+    VScroll1 = Controls::named(new QScrollBar(Qt::Vertical, this), u"VScroll1"_s);
     VScroll1->setGeometry(PictureLeft + FrameWidth, PictureTop, ScrollBarWidth, FrameHeight);
     VScroll1->hide();
 
@@ -138,7 +136,7 @@ void ReactionsPane::buildPicture()
     notice->move(outline->geometry().center() - notice->rect().center());
 }
 
-// The views read the selected row, so there is one as soon as there are rows.
+// The views need a selected row.
 void ReactionsPane::takeRows()
 {
     const bool anyRows = m_store.lists.ListView3[31].rowCount() > 0;
@@ -160,7 +158,7 @@ void ReactionsPane::changeView()
 {
     const int row = ListView3[31].selectedRow();
     if (row < 0)
-        throw RuntimeError(ErrorNumber::ObjectNotSet, QStringLiteral("ListView3(31)"));
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"ListView3(31)"_s);
     showReaction(row);
 }
 
@@ -174,7 +172,7 @@ void ReactionsPane::showReaction(int row)
     Picture4->paint(SourceImage2->picture(), ReactionCharts::PaintLeft);
     setScrollRange();
     const double pictureWidth = WindowUnits::pictureUnits(SourceImage2->picture().width());
-    const double frameWidth = grdFrame35->width() * WindowUnits::TwipsPerPixel;
+    const double frameWidth = Picture4->parentWidget()->width() * WindowUnits::TwipsPerPixel;
     Picture4->moveTo(ReactionCharts::left(frameWidth, pictureWidth), ReactionCharts::Top);
     Label55->setText(m_store.lists.ListView3[31].text(ChartKey - 1));
     ListView3[31].setFocus();

@@ -15,11 +15,11 @@ class QScrollBar;
 struct DataStore;
 struct Module1;
 
-/// `frmrea`: the equation or the mechanism of the reaction picked in a list, a picture file named by the row.
+/// `frmrea`: the equation or the mechanism of the reaction selected in a list, from a picture file.
 ///
-/// A missing file ends the program with the run-time error report, and so does a release of the mouse on one
-/// of the two views while no reaction is selected. The list has no rows until the user has its table read;
-/// until then the views are disabled. As soon as it has rows the first one is selected.
+/// A missing file ends the program with the run-time error report, and so does a mouse release on a view
+/// without a selected reaction. Until the user has the table read, the list is empty and the views are
+/// disabled; after that the first row is selected.
 class ReactionsPane final : public ModulePanel
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     ReactionsPane(const Module1 &module1, DataStore &store, LaterTables &tables, Desktop &desktop,
                   QWidget *parent);
 
-    /// This pane's part of what every pane switch clears: picture and name.
+    /// Clears picture and name, at every pane switch.
     void ClearChartPanels();
 
 protected:
@@ -53,13 +53,12 @@ private:
     LaterTables &m_tables;
     Desktop &m_desktop;
 
-    int ChartKey = 0; ///< one-based position of the row on show
+    int ChartKey = 0; ///< one-based position of the shown row
 
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 31
     ControlArray<QLabel> Label2{"Label2"};
     ControlArray<QRadioButton> optorga{"optorga"}; ///< by View
     QLabel *Label55 = nullptr;
-    QWidget *grdFrame35 = nullptr;
     ChartPicture *Picture4 = nullptr;
     PictureBox *SourceImage2 = nullptr;
     QScrollBar *VScroll1 = nullptr;

@@ -15,7 +15,7 @@ ScaleLabel::ScaleLabel(const QString &name, const QString &text, int chartLeft, 
 void ScaleLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QStringList marks = text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList marks = text().split(u' ', Qt::SkipEmptyParts);
     for (int mark = 0; mark < marks.size(); ++mark) {
         const int tick = m_chartLeft + ChartGeometry::IrLeft + mark * ChartGeometry::IrStep;
         const QRect place(tick - ChartGeometry::IrStep / 2, 0, ChartGeometry::IrStep, height());

@@ -1,31 +1,15 @@
 #pragma once
 
-#include <QStringList>
 #include <array>
 #include <optional>
 
 /// What `frmana` shows, in the order of `Comboana`.
 enum class SpectroscopyMode { ProtonNmr, CarbonNmr, IrCharts, IrTable };
 
-/// What choosing a mode does to the controls of the pane.
+/// What choosing a mode does to the chart and its texts.
 namespace SpectroscopyModes {
 
-inline constexpr int Count = 4;
-
-/// The items of `Comboana`.
-const QStringList &captions();
-
-/// A control and whether it is shown, by the mode.
-struct Visibility
-{
-    const char *control;
-    std::array<bool, Count> shown;
-};
-
-const QList<Visibility> &visibility();
-
-/// Where the chart and what goes with it stand, in twips; `Picture3` within `grdFrame19`, the others within
-/// `grdFrame17(0)`.
+/// Twips; `Picture3` within `grdFrame19`, the others within `grdFrame17(0)`.
 struct Places
 {
     int Picture3Left;
@@ -36,14 +20,26 @@ struct Places
     int VScroll10Height;
 };
 
+inline constexpr Places NmrPlaces{60, 0, 840, 6840, 840, 6825};
+inline constexpr Places IrPlaces{-60, 100, 1080, 6720, 1170, 6630};
+
 struct Settings
 {
-    bool emptiesTitle;            ///< of `Label20`; otherwise the title of the last chart stays
-    std::optional<Places> places; ///< none: they stay as they are
-    const char *heading;          ///< of `Label2(104)`; null: it stays
-    const char *toolTip;          ///< of `Command1`, where help balloons are on; null: it stays
+    bool emptiesTitle;            ///< of `Label20`; otherwise the title of the last chart remains
+    std::optional<Places> places; ///< none: unchanged
+    const char *heading;          ///< of `Label2(104)`; null: unchanged
+    const char *toolTip;          ///< of `Command1`, if help balloons are on; null: unchanged
 };
 
-const Settings &settings(SpectroscopyMode mode);
+inline constexpr const char *Heading = "Functional group";
+inline constexpr const char *References = "Display explanation of references";
+
+/// By mode. The infrared charts keep the title of the last NMR chart until a row is chosen.
+inline constexpr std::array<Settings, 4> AllSettings{{
+    {true, NmrPlaces, Heading, References},
+    {true, NmrPlaces, Heading, References},
+    {false, IrPlaces, Heading, "Display color code"},
+    {false, std::nullopt, nullptr, nullptr},
+}};
 
 } // namespace SpectroscopyModes

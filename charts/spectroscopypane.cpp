@@ -21,11 +21,13 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// Logical pixels. A column with the selector and a list of charts; right of it the chart with its title.
+// Logical pixels. Selector and list are on the left, the chart with its title on the right.
 constexpr int Margin = 4;
-constexpr int StripHeight = 30; // behind the selector and the title
+constexpr int StripHeight = 30; // with the selector and the title
 constexpr int ListTop = StripHeight + 2 + TitleFrame::OneLine + 2;
 constexpr int ListWidth = 260;
 constexpr int ListHeight = ModulePanel::Size.height() - Margin - ListTop;
@@ -39,7 +41,7 @@ constexpr int RepaintPause = 10; // ms
 
 QFrame *makeFrame(const char *name, const QRect &place, QWidget *parent)
 {
-    auto *frame = Controls::named(new QFrame(parent), QLatin1StringView(name));
+    auto *frame = Controls::named(new QFrame(parent), name);
     frame->setGeometry(place);
     return frame;
 }
@@ -74,7 +76,6 @@ void SpectroscopyPane::buildContents()
     buildChart();
     buildScales();
     buildIrTable();
-    // The first mode, as a choice of it leaves it; there is nothing yet that could wait for a repaint.
     applyMode(SpectroscopyMode(mode()));
     placeIrLabels();
     connectControls();
@@ -87,18 +88,19 @@ void SpectroscopyPane::buildSelector()
     line->setFrameStyle(int(QFrame::HLine) | int(QFrame::Plain));
     line->setForegroundRole(QPalette::Mid);
 
-    Comboana = new DropDown(QStringLiteral("Comboana"), this);
-    Comboana->setAccessibleName(tr("Kind of spectra"));
-    Comboana->addItems(SpectroscopyModes::captions());
+    Comboana = new DropDown(u"Comboana"_s, this);
+    Comboana->setAccessibleName(u"Kind of spectra"_s);
+    Comboana->addItems({u"Proton NMR (1H NMR)"_s, u"Carbon NMR (13C NMR)"_s, u"Infrared (IR) - Charts"_s,
+                        u"Infrared (IR) - Table"_s});
     Comboana->setGeometry(Margin, 2, ListWidth, StripHeight - 4);
 }
 
 void SpectroscopyPane::buildLists()
 {
     Shape2.add(7, makeFrame("", {Margin, ListTop, ListWidth, ListHeight}, this));
-    addChartList(15, tr("Proton NMR charts"));
-    addChartList(16, tr("Carbon NMR charts"));
-    auto &list = addChartList(5, tr("Infrared charts"));
+    addChartList(15, u"Proton NMR charts"_s);
+    addChartList(16, u"Carbon NMR charts"_s);
+    auto &list = addChartList(5, u"Infrared charts"_s);
     auto *titles = new TitleFrame({}, this, TitleFrame::OneLine);
     titles->addTitles(list, Label2, {104});
     grdFrame17.add(1, titles);
@@ -106,9 +108,8 @@ void SpectroscopyPane::buildLists()
 
 RowListView &SpectroscopyPane::addChartList(int index, const QString &accessibleName)
 {
-    // Motifs are as long as they are: a line more rather than half a name.
-    const ListColumn column{QStringLiteral("Functional group"), ListWidth - ScrollBarWidth - 4,
-                            ListColumn::Kind::Wrapped};
+    // Motifs can be long; they wrap instead of being cut off.
+    const ListColumn column{u"Functional group"_s, ListWidth - ScrollBarWidth - 4, ListColumn::Kind::Wrapped};
     auto *list = new RowListView({}, m_store.lists.ListView3[index], {column}, this);
     list->setAccessibleName(accessibleName);
     list->setGeometry(Margin, ListTop, ListWidth, ListHeight);
@@ -118,53 +119,50 @@ RowListView &SpectroscopyPane::addChartList(int index, const QString &accessible
 void SpectroscopyPane::buildChart()
 {
     auto *box = makeFrame("", {ChartLeft, 0, width() - ChartLeft, height()}, this);
-    box->setAutoFillBackground(true); // covers the strip behind the selector
+    box->setAutoFillBackground(true); // over the strip of the selector
     grdFrame17.add(0, box);
-    grdFrame17.add(2, makeFrame("", {}, this));
 
-    Label20 = Controls::heading(QStringLiteral("Label20"), {}, box);
+    Label20 = Controls::heading(u"Label20"_s, {}, box);
     Label20->setGeometry(ViewportLeft + 11, 2, ViewportWidth - 60, StripHeight - 4);
     Shape2.add(4, makeFrame("", {0, StripHeight, box->width(), 1}, box));
     Shape2[4].setFrameStyle(int(QFrame::HLine) | int(QFrame::Plain));
+    Shape2[4].setForegroundRole(QPalette::Mid);
     Shape2.add(5, makeFrame("", {}, box));
     Shape2[5].setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
-    Shape2[4].setForegroundRole(QPalette::Mid);
     Shape2[5].setForegroundRole(QPalette::Mid);
 
-    VScroll10 = Controls::named(new QScrollBar(Qt::Vertical, box), QStringLiteral("VScroll10"));
+    VScroll10 = Controls::named(new QScrollBar(Qt::Vertical, box), u"VScroll10"_s);
     VScroll10->setMinimum(ChartScroll::Minimum);
     VScroll10->setSingleStep(20 * WindowUnits::TwipsPerPixel);
-    grdFrame19 = new ChartViewport(QStringLiteral("grdFrame19"), *VScroll10, Shape2[5], box);
-    grdFrame19->setAccessibleName(tr("Chart"));
-    Picture3 = new ChartPicture(QStringLiteral("Picture3"), grdFrame19);
-    SourceImage = new PictureBox(QStringLiteral("SourceImage"), box);
+    grdFrame19 = new ChartViewport(u"grdFrame19"_s, *VScroll10, Shape2[5], box);
+    grdFrame19->setAccessibleName(u"Chart"_s);
+    Picture3 = new ChartPicture(u"Picture3"_s, grdFrame19);
+    SourceImage = new PictureBox(u"SourceImage"_s, box);
     SourceImage->hide();
 
-    auto *credit = Controls::label(
-        QStringLiteral("Label19(25)"),
-        QStringLiteral("Shifts: nmrshiftdb2, open database of NMR spectra (MRC-15-582)"), box);
-    credit->setGeometry(ViewportLeft + 11, CreditTop, ViewportWidth - 60, 20);
+    m_credit = Controls::label(u"Label19(25)"_s,
+                               u"Shifts: nmrshiftdb2, open database of NMR spectra (MRC-15-582)"_s, box);
+    m_credit->setGeometry(ViewportLeft + 11, CreditTop, ViewportWidth - 60, 20);
 
-    Command1 = Controls::named(new QPushButton(QStringLiteral("?"), box), QStringLiteral("Command1"));
-    Command1->setAccessibleName(tr("Explanation of the chart"));
+    Command1 = Controls::named(new QPushButton(u"?"_s, box), u"Command1"_s);
+    Command1->setAccessibleName(u"Explanation of the chart"_s);
     Command1->setGeometry(box->width() - Margin - 28, 2, 28, StripHeight - 4);
 }
 
 void SpectroscopyPane::buildScales()
 {
     QFrame &box = grdFrame17[0];
-    const int pictureLeft =
-        WindowUnits::pixels(SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places->Picture3Left) +
-        WindowUnits::pixels(IrCharts::PaintLeft);
+    const int pictureLeft = WindowUnits::pixels(SpectroscopyModes::IrPlaces.Picture3Left) +
+                            WindowUnits::pixels(IrCharts::PaintLeft);
     const auto makeScale = [&](const char *name, const char *text) {
-        auto *scale = new ScaleLabel(QLatin1StringView(name), QLatin1StringView(text), pictureLeft, &box);
+        auto *scale = new ScaleLabel(name, text, pictureLeft, &box);
         scale->setGeometry(ViewportLeft, 51, ViewportWidth, 20);
         return scale;
     };
     Label24 = makeScale("Label24", IrCharts::WaveNumbers);
     Label27 = makeScale("Label27", IrCharts::Wavelengths);
-    Label25 = Controls::label(QStringLiteral("Label25"), {}, &box);
-    Label26 = Controls::label(QStringLiteral("Label26"), {}, &box);
+    Label25 = Controls::label(u"Label25"_s, {}, &box);
+    Label26 = Controls::label(u"Label26"_s, {}, &box);
     Label25->setGeometry(0, StripHeight + 3, 140, 18);
     Label26->setGeometry(0, StripHeight + 3, 11, 18);
     captionIrScale();
@@ -172,27 +170,26 @@ void SpectroscopyPane::buildScales()
 
 void SpectroscopyPane::buildIrTable()
 {
-    // In the order of the table, which is not that of the columns as a chemist would name them.
-    auto *list = new RowListView({}, m_store.lists.ListView3[27],
-                                 {{QStringLiteral("Functional group"), 330},
-                                  {QStringLiteral("Bond"), 380},
-                                  {QStringLiteral("Frequency (cm-1)"), 200}},
-                                 this);
-    list->setAccessibleName(tr("Infrared bands"));
-    list->showAsRecipes(); // groups of compounds stand as rows without bands
+    auto *list =
+        new RowListView({}, m_store.lists.ListView3[27],
+                        {{u"Functional group"_s, 330}, {u"Bond"_s, 380}, {u"Frequency (cm-1)"_s, 200}}, this);
+    list->setAccessibleName(u"Infrared bands"_s);
+    list->showAsRecipes(); // rows without bands are headings
     list->setGeometry(Margin, ListTop, width() - 2 * Margin, ListHeight);
     ListView3.add(27, list);
-    (new TitleFrame(QStringLiteral("frmirb"), this, TitleFrame::OneLine))
-        ->addTitles(*list, Label2, {106, 107, 108});
+    auto *titles = new TitleFrame(u"frmirb"_s, this, TitleFrame::OneLine);
+    titles->addTitles(*list, Label2, {106, 107, 108});
+    frmirb = titles;
 }
 
-// What holds a value or a place without ever being seen.
+// Never visible.
 void SpectroscopyPane::buildHiddenControls()
 {
-    Text3 = Controls::named(new QLineEdit(this), QStringLiteral("Text3"));
+    Text3 = Controls::named(new QLineEdit(this), u"Text3"_s);
     Text3->hide();
-    Shape2.add(8, makeFrame("", {}, this));
-    Shape2.add(9, makeFrame("", {}, this));
+    grdFrame17.add(2, makeFrame("", {}, this)).hide();
+    Shape2.add(8, makeFrame("", {}, this)).hide();
+    Shape2.add(9, makeFrame("", {}, this)).hide();
 }
 
 void SpectroscopyPane::connectControls()
@@ -217,7 +214,7 @@ void SpectroscopyPane::connectControls()
 void SpectroscopyPane::changeMode()
 {
     Picture3->clear();
-    // A pending repaint finishes before the lists are swapped.
+    // Let a pending repaint finish before the lists change.
     m_desktop.pause(RepaintPause);
     applyMode(SpectroscopyMode(mode()));
     if (SpectroscopyMode(mode()) == SpectroscopyMode::IrTable)
@@ -227,18 +224,16 @@ void SpectroscopyPane::changeMode()
 
 void SpectroscopyPane::applyMode(SpectroscopyMode mode)
 {
-    for (const SpectroscopyModes::Visibility &each : SpectroscopyModes::visibility())
-        control(each.control).setVisible(each.shown[size_t(mode)]);
+    showControls(mode);
     grdFrame19->setScrollable(false);
-
-    const SpectroscopyModes::Settings &settings = SpectroscopyModes::settings(mode);
+    const SpectroscopyModes::Settings &settings = SpectroscopyModes::AllSettings[size_t(mode)];
     if (settings.emptiesTitle)
         Label20->clear();
-    Label20->setEnabled(settings.emptiesTitle); // a title that is left over is that of no chart on screen
+    Label20->setEnabled(settings.emptiesTitle); // a remaining title belongs to no chart shown
     if (settings.heading)
-        Label2[104].setText(QLatin1StringView(settings.heading));
+        Label2[104].setText(settings.heading);
     if (settings.toolTip && m_module1.OptionSlots(Slot::ToolTips).equals(1))
-        Command1->setToolTip(QLatin1StringView(settings.toolTip));
+        Command1->setToolTip(settings.toolTip);
     if (const auto &places = settings.places) {
         Picture3->moveTo(places->Picture3Left, places->Picture3Top);
         grdFrame19->setGeometry(ViewportLeft, WindowUnits::pixels(places->grdFrame19Top), ViewportWidth,
@@ -248,6 +243,31 @@ void SpectroscopyPane::applyMode(SpectroscopyMode mode)
         VScroll10->setPageStep(places->grdFrame19Height);
         Shape2[5].setGeometry(grdFrame19->geometry().adjusted(-1, -1, 1, 1));
     }
+}
+
+void SpectroscopyPane::showControls(SpectroscopyMode mode)
+{
+    const bool nmr = mode == SpectroscopyMode::ProtonNmr || mode == SpectroscopyMode::CarbonNmr;
+    const bool chart = mode != SpectroscopyMode::IrTable;
+    const std::pair<QWidget *, bool> visibility[]{
+        {&ListView3[15], mode == SpectroscopyMode::ProtonNmr},
+        {&ListView3[16], mode == SpectroscopyMode::CarbonNmr},
+        {&ListView3[5], mode == SpectroscopyMode::IrCharts},
+        {&ListView3[27], !chart},
+        {frmirb, !chart},
+        {&grdFrame17[0], chart},
+        {&Shape2[4], chart},
+        {&Shape2[5], chart},
+        {m_credit, nmr},
+        {Label20, chart},
+        {Label24, false},
+        {Label25, false},
+        {Label26, false},
+        {Label27, false},
+        {Command1, chart},
+    };
+    for (const auto &[control, shown] : visibility)
+        control->setVisible(shown);
 }
 
 void SpectroscopyPane::showNmrChart(const NmrCharts &charts, int row)
@@ -274,14 +294,13 @@ void SpectroscopyPane::showIrChart(int row)
     m_bandsWanted = row;
     showIrScale();
     loadChart(m_module1.shippedFile(IrCharts::file(ChartKey)));
-    const auto &places = SpectroscopyModes::settings(SpectroscopyMode::IrCharts).places;
-    Picture3->moveTo(places->Picture3Left, places->Picture3Top);
+    Picture3->moveTo(SpectroscopyModes::IrPlaces.Picture3Left, SpectroscopyModes::IrPlaces.Picture3Top);
     Picture3->paint(SourceImage->picture(), IrCharts::PaintLeft);
     setScrollRange();
     ListView3[5].setFocus();
 }
 
-// The table follows the choice of a chart when it is next shown.
+// Scrolls the table to the bands of the chart chosen last.
 void SpectroscopyPane::showBands()
 {
     if (m_bandsWanted < 0)
@@ -313,8 +332,8 @@ void SpectroscopyPane::setScrollRange()
     VScroll10->setValue(ChartScroll::Minimum);
 }
 
-// The range ends above the foot of a chart of more than 800 pixels. What is missing at its end, the picture
-// rises within its area, a part of it with each step.
+// The scroll range is too short for charts of more than 800 pixels. The picture makes up for the missing part
+// by rising within its area, in proportion to the scroll value.
 void SpectroscopyPane::scroll(int value)
 {
     const bool infrared = Controls::isShown(ListView3[5]);
@@ -328,8 +347,8 @@ void SpectroscopyPane::scroll(int value)
 void SpectroscopyPane::captionIrScale()
 {
     const IrCharts::Graduation &graduation = IrCharts::graduation(m_module1.OptionSlots);
-    Label26->setText(SymbolText::toUnicode(QLatin1StringView(graduation.quantity)));
-    Label25->setText(QLatin1StringView(graduation.unit));
+    Label26->setText(SymbolText::toUnicode(graduation.quantity));
+    Label25->setText(graduation.unit);
 }
 
 void SpectroscopyPane::showIrScale()
@@ -365,8 +384,7 @@ void SpectroscopyPane::applyIrGraduation()
 void SpectroscopyPane::refreshToolTips()
 {
     if (isBuilt())
-        ToolTips::refresh(m_module1.OptionSlots, *Command1,
-                          QStringLiteral("Display explanation of references"));
+        ToolTips::refresh(m_module1.OptionSlots, *Command1, SpectroscopyModes::References);
 }
 
 void SpectroscopyPane::ClearChartPanels()
@@ -378,11 +396,4 @@ void SpectroscopyPane::ClearChartPanels()
     for (QWidget *scale : QList<QWidget *>{Label26, Label25, Label24, Label27})
         scale->hide();
     grdFrame19->setScrollable(false);
-}
-
-QWidget &SpectroscopyPane::control(const char *name) const
-{
-    auto *found = findChild<QWidget *>(QLatin1StringView(name));
-    Q_ASSERT_X(found, "SpectroscopyPane", name);
-    return *found;
 }

@@ -25,8 +25,7 @@ struct Module1;
 /// `frmana`: charts of NMR shifts and infrared bands, and the table of infrared bands, by the mode in
 /// `Comboana`.
 ///
-/// Charts are picture files, loaded when their row is clicked. A missing one ends the program with the
-/// run-time error report. Positions are twips.
+/// A click on a row loads its picture file. A missing file ends the program with the run-time error report.
 class SpectroscopyPane final : public ModulePanel
 {
     Q_OBJECT
@@ -34,34 +33,32 @@ class SpectroscopyPane final : public ModulePanel
 public:
     SpectroscopyPane(Module1 &module1, DataStore &store, Desktop &desktop, QWidget *parent);
 
-    /// Where `Comboana` stands, from 0.
+    /// The selected entry of `Comboana`, from 0.
     int mode() const;
 
-    /// Selects the entry of `Comboana` and runs its handler, also if it stands there already.
+    /// Selects the entry of `Comboana` and runs its handler, even if it is already selected.
     void selectMode(int mode);
 
-    /// By its own setting, whether or not the pane is on show.
+    /// The list's own setting, whether or not the pane is shown.
     bool isListView3_27Shown() const;
 
-    /// This pane's part of what every pane switch clears: picture, title, scale and scroll bar.
+    /// Clears picture, title, scale and scroll bar, at every pane switch.
     void ClearChartPanels();
 
-    /// Gives or takes the help balloon of `Command1`, by the option. In every mode it is that of the NMR
-    /// charts, until the next choice of a mode.
+    /// Sets or removes the help balloon of `Command1`, by the option. Until the next choice of a mode it is
+    /// that of the NMR charts.
     void refreshToolTips();
 
-    /// Moves the quantity and the unit of the infrared scale to their places, by the option "IR graduation".
+    /// Places the quantity and the unit of the infrared scale, by the option "IR graduation".
     void placeIrLabels();
 
-    /// Puts the infrared scale on show, by the option, if the list of its charts is shown; otherwise only
-    /// places and captions change. A chart need not be on show.
+    /// Updates the infrared scale, by the option, and shows it if the list of infrared charts is shown.
     void applyIrGraduation();
 
 Q_SIGNALS:
     void modeChanged();
 
-    /// `Command1` was pressed: with the infrared charts the colour code of the bonds is wanted (`Formhelp3`),
-    /// with the NMR charts the abbreviations of the references (`Formhelp2`).
+    /// `Command1` was pressed with the infrared charts (`Formhelp3`) or the NMR charts (`Formhelp2`).
     void colourCodeRequested();
     void referencesRequested();
 
@@ -80,6 +77,7 @@ private:
 
     void changeMode();
     void applyMode(SpectroscopyMode mode);
+    void showControls(SpectroscopyMode mode);
     void showNmrChart(const NmrCharts &charts, int row);
     void showIrChart(int row);
     void showBands();
@@ -88,13 +86,12 @@ private:
     void scroll(int value);
     void captionIrScale();
     void showIrScale();
-    QWidget &control(const char *name) const;
 
     Module1 &m_module1;
     DataStore &m_store;
     Desktop &m_desktop;
 
-    QString ChartKey;       ///< names the picture file of the chart last chosen
+    QString ChartKey;       ///< of the chart last chosen
     int m_bandsWanted = -1; ///< row of ListView3(5) whose bands the table has not shown yet
 
     DropDown *Comboana = nullptr;
@@ -102,6 +99,8 @@ private:
     ControlArray<QLabel> Label2{"Label2"};            ///< titles of the lists
     ControlArray<QFrame> grdFrame17{"grdFrame17"};
     ControlArray<QFrame> Shape2{"Shape2"};
+    QWidget *frmirb = nullptr;
+    QLabel *m_credit = nullptr; ///< `Label19(25)`
     PictureBox *SourceImage = nullptr;
     ChartViewport *grdFrame19 = nullptr;
     ChartPicture *Picture3 = nullptr;
