@@ -1,7 +1,6 @@
 #include "electronics/eia96.h"
 
 #include "core/numbers.h"
-#include "core/runtimeerror.h"
 
 #include <array>
 
@@ -27,7 +26,7 @@ constexpr std::array<Multiplier, 8> Multipliers{{
 double multiplierOf(const QString &letter)
 {
     for (const Multiplier &each : Multipliers) {
-        if (letter == QLatin1StringView(each.letter))
+        if (letter == each.letter)
             return each.value;
     }
     return 0;
@@ -35,25 +34,18 @@ double multiplierOf(const QString &letter)
 
 } // namespace
 
-const QStringList &Eia96::letters()
+QStringList Eia96::letters()
 {
-    static const QStringList table = [] {
-        QStringList letters;
-        for (const Multiplier &each : Multipliers)
-            letters << QLatin1StringView(each.letter);
-        return letters;
-    }();
-    return table;
+    QStringList letters;
+    for (const Multiplier &each : Multipliers)
+        letters << each.letter;
+    return letters;
 }
 
 Eia96::Marking Eia96::decode(const QString &code, const QString &valeur, const QString &letter)
 {
-    Marking marking{code, QString(letter).remove(QLatin1Char(' ')), std::nullopt};
-    if (code.isEmpty() || letter.isEmpty())
-        return marking;
-    const std::optional<double> base = Numbers::parseInvariant(valeur);
-    if (!base)
-        throw RuntimeError(ErrorNumber::TypeMismatch, valeur);
-    marking.value = Numbers::formatLocal(*base * multiplierOf(letter));
+    Marking marking{code, QString(letter).remove(u' '), std::nullopt};
+    if (!code.isEmpty() && !letter.isEmpty())
+        marking.value = Numbers::formatLocal(Numbers::requireInvariant(valeur) * multiplierOf(letter));
     return marking;
 }

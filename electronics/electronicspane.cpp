@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Logical pixels.
@@ -22,7 +24,7 @@ constexpr QRect Room(0, TabsHeight + 2, ModulePanel::Size.width(),
 constexpr int FieldHeight = 28;
 constexpr int LabelHeight = 20;
 
-// The lists of the rings stand in the order of the bands, each below its own.
+// A list of ring colours, below its band.
 struct Column
 {
     int list;
@@ -41,7 +43,7 @@ constexpr std::array<Column, 6> Columns{{
     {9, 5, "Temperature coefficient:", 752, 184},
 }};
 
-// The captions of rings that do not apply: the given light grey, and on a dark desktop one that is read.
+// Captions of rings that do not apply; the second is readable on a dark desktop.
 constexpr QColor LightGrey(0xe0, 0xe0, 0xe0);
 constexpr QColor GreyOnDark(0xa0, 0xa0, 0xa0);
 
@@ -55,13 +57,7 @@ QList<int> bandCentres()
 
 QString ohm()
 {
-    return SymbolText::toUnicode(QStringLiteral("W"));
-}
-
-/// "R (   )" with the sign of the unit in its gap.
-QString withOhm(const char *title)
-{
-    return QString::fromLatin1(title).replace(QLatin1StringView("   "), ohm());
+    return SymbolText::toUnicode(u"W"_s);
 }
 
 } // namespace
@@ -73,15 +69,16 @@ ElectronicsPane::ElectronicsPane(DataStore &store, LaterTables &tables, Desktop 
 
 void ElectronicsPane::buildContents()
 {
-    TabStrip11 = Controls::named(new QTabBar(this), QStringLiteral("TabStrip11"));
+    TabStrip11 = Controls::named(new QTabBar(this), u"TabStrip11"_s);
     TabStrip11->setExpanding(false);
     for (const char *tab : {"Color code", "Normalized values", "EIA-96 coding"})
-        TabStrip11->addTab(QString::fromLatin1(tab));
+        TabStrip11->addTab(tab);
     TabStrip11->setGeometry(Margin, 2, width() - 2 * Margin, TabsHeight - 2);
     buildColourCode();
     buildSeries();
     buildEia96();
-    buildNotice();
+    m_notice = new TablesNotice(0, m_tables, m_desktop, this);
+    m_notice->adjustSize();
     connectControls();
     Combo3->choose(1);
     showTab(TabStrip11->currentIndex());
@@ -89,19 +86,17 @@ void ElectronicsPane::buildContents()
 
 void ElectronicsPane::buildColourCode()
 {
-    frmgen = Controls::named(new QFrame(this), QStringLiteral("frmgen"));
+    frmgen = Controls::named(new QFrame(this), u"frmgen"_s);
     frmgen->setGeometry(Room);
     const Column &first = Columns.front();
-    QLabel *caption =
-        addLabel18(3, QStringLiteral("Number of rings:"), {first.left, 18, 136, FieldHeight}, frmgen);
-    Combo3 = new DropDown(QStringLiteral("Combo3"), frmgen);
+    QLabel *caption = addLabel18(3, u"Number of rings:"_s, {first.left, 18, 136, FieldHeight}, frmgen);
+    Combo3 = new DropDown(u"Combo3"_s, frmgen);
     Combo3->addItems(ResistorCode::ringCounts());
     Combo3->setGeometry(first.left + 140, 18, 64, FieldHeight);
     caption->setBuddy(Combo3);
 
-    auto *Command2 =
-        Controls::named(new QPushButton(QStringLiteral("?"), frmgen), QStringLiteral("Command2"));
-    Command2->setAccessibleName(tr("Mnemonic of the colours"));
+    auto *Command2 = Controls::named(new QPushButton(u"?"_s, frmgen), u"Command2"_s);
+    Command2->setAccessibleName(u"Mnemonic of the colours"_s);
     Command2->setGeometry(Columns.back().left + Columns.back().width - 28, 18, 28, FieldHeight);
     connect(Command2, &QPushButton::clicked, this, &ElectronicsPane::mnemonicRequested);
 
@@ -115,16 +110,16 @@ void ElectronicsPane::buildColourCode()
 void ElectronicsPane::buildRings()
 {
     constexpr int LabelTop = 232;
-    addLabel18(6, QStringLiteral("Significative numbers:"),
+    addLabel18(6, u"Significative numbers:"_s,
                {Columns.front().left, LabelTop - LabelHeight - 2, 396, LabelHeight}, frmgen);
     for (const Column &column : Columns) {
-        QLabel *label = addLabel18(column.label, QString::fromLatin1(column.caption),
+        QLabel *label = addLabel18(column.label, column.caption,
                                    {column.left, LabelTop, column.width, LabelHeight}, frmgen);
         DropDown *list = addList(column.list, {},
                                  {column.left, LabelTop + LabelHeight, column.width, FieldHeight}, frmgen);
         list->showRows(
-            new RowListModel(m_store.lists.Combo2[column.list], {{tr("Colour"), column.width}}, list));
-        list->setAccessibleName(QString::fromLatin1(column.caption));
+            new RowListModel(m_store.lists.Combo2[column.list], {{u"Colour"_s, column.width}}, list));
+        list->setAccessibleName(column.caption);
         label->setBuddy(list);
     }
 }
@@ -132,10 +127,9 @@ void ElectronicsPane::buildRings()
 void ElectronicsPane::buildResults()
 {
     constexpr int Top = 324;
-    addResult(7, tr("Resistance"), 18, ohm(), {Columns[0].left, Top}, frmgen);
-    addResult(8, tr("Tolerance"), 19, QStringLiteral("%"), {Columns[3].left, Top}, frmgen);
-    addResult(9, tr("Temperature coefficient"), 20, QStringLiteral("ppm / °C"), {Columns[5].left, Top},
-              frmgen);
+    addResult(7, u"Resistance"_s, 18, ohm(), {Columns[0].left, Top}, frmgen);
+    addResult(8, u"Tolerance"_s, 19, u"%"_s, {Columns[3].left, Top}, frmgen);
+    addResult(9, u"Temperature coefficient"_s, 20, u"ppm / °C"_s, {Columns[5].left, Top}, frmgen);
 }
 
 void ElectronicsPane::buildSeries()
@@ -143,14 +137,14 @@ void ElectronicsPane::buildSeries()
     constexpr int ListTop = TabsHeight + 6 + TitleFrame::Height;
     QList<ListColumn> columns;
     for (const char *series : {"E3", "E6", "E12", "E24", "E48", "E96", "E192"})
-        columns << ListColumn{QString::fromLatin1(series), 130, ListColumn::Kind::Number};
+        columns << ListColumn{series, 130, ListColumn::Kind::Number};
     auto *list = new RowListView({}, m_store.lists.ListView3[28], columns, this);
-    list->setAccessibleName(tr("Standard series of resistances"));
+    list->setAccessibleName(u"Standard series of resistances"_s);
     list->setGeometry(Margin, ListTop, width() - 2 * Margin, height() - Margin - ListTop);
     ListView3.add(28, list);
-    auto *titles = new TitleFrame(QStringLiteral("grdFrame32"), this);
+    auto *titles = new TitleFrame(u"grdFrame32"_s, this);
     titles->addTitles(*list, Label2, {110, 111, 112, 113, 114, 115, 116});
-    auto *unit = new QLabel(withOhm("R (   )"), titles);
+    auto *unit = new QLabel(u"R (%1)"_s.arg(ohm()), titles);
     unit->setGeometry(8, 0, 120, TitleFrame::Height / 2);
     Label2.add(117, unit);
     grdFrame32 = titles;
@@ -159,15 +153,15 @@ void ElectronicsPane::buildSeries()
 void ElectronicsPane::buildEia96()
 {
     constexpr int ListWidth = 264;
-    frmcms = Controls::named(new QFrame(this), QStringLiteral("frmcms"));
+    frmcms = Controls::named(new QFrame(this), u"frmcms"_s);
     frmcms->setGeometry(Room);
-    auto *grdFrame31 = Controls::named(new QFrame(frmcms), QStringLiteral("grdFrame31"));
+    auto *grdFrame31 = Controls::named(new QFrame(frmcms), u"grdFrame31"_s);
     grdFrame31->setGeometry(Margin, 0, ListWidth, Room.height() - Margin);
     auto *list = new RowListView({}, m_store.lists.ListView3[29],
-                                 {{QStringLiteral("Code"), 110, ListColumn::Kind::Number},
-                                  {withOhm("Value (   )"), 130, ListColumn::Kind::Number}},
+                                 {{u"Code"_s, 110, ListColumn::Kind::Number},
+                                  {u"Value (%1)"_s.arg(ohm()), 130, ListColumn::Kind::Number}},
                                  grdFrame31);
-    list->setAccessibleName(tr("Codes of EIA-96"));
+    list->setAccessibleName(u"Codes of EIA-96"_s);
     list->setGeometry(0, TitleFrame::OneLine + 4, ListWidth, grdFrame31->height() - TitleFrame::OneLine - 4);
     ListView3.add(29, list);
     (new TitleFrame({}, grdFrame31, TitleFrame::OneLine))->addTitles(*list, Label2, {118, 119});
@@ -179,32 +173,25 @@ void ElectronicsPane::buildMarking()
     constexpr int Left = 330;
     constexpr int Width = 150;
     constexpr int Right = Left + Width + 24;
-    QLabel *codeLabel = addLabel18(12, QStringLiteral("Code:"), {Left, 36, Width, LabelHeight}, frmcms);
-    Combo4 = new DropDown(QStringLiteral("Combo4"), frmcms);
-    Combo4->showRows(new RowListModel(m_store.lists.Combo4, {{tr("Code"), Width}}, Combo4));
+    QLabel *codeLabel = addLabel18(12, u"Code:"_s, {Left, 36, Width, LabelHeight}, frmcms);
+    Combo4 = new DropDown(u"Combo4"_s, frmcms);
+    Combo4->showRows(new RowListModel(m_store.lists.Combo4, {{u"Code"_s, Width}}, Combo4));
     Combo4->setGeometry(Left, 36 + LabelHeight, Width, FieldHeight);
     codeLabel->setBuddy(Combo4);
 
-    QLabel *letterLabel =
-        addLabel18(11, QStringLiteral("Multiplicator:"), {Right, 36, Width, LabelHeight}, frmcms);
+    QLabel *letterLabel = addLabel18(11, u"Multiplicator:"_s, {Right, 36, Width, LabelHeight}, frmcms);
     DropDown *letters =
-        addList(10, tr("Multiplicator"), {Right, 36 + LabelHeight, Width, FieldHeight}, frmcms);
+        addList(10, u"Multiplicator"_s, {Right, 36 + LabelHeight, Width, FieldHeight}, frmcms);
     letters->addItems(Eia96::letters());
     letters->setCurrentIndex(-1);
     letterLabel->setBuddy(letters);
 
     auto *chip = new ChipView(Label18, frmcms);
     chip->setGeometry(Left, 124, Right + Width - Left, 110);
-    addResult(10, tr("Resistance"), 21, ohm(), {Left, 262}, frmcms);
-    QLabel *legend = addLabel18(14, QString::fromLatin1(Eia96::Legend),
-                                {Left, 342, Room.width() - Left - Margin, LabelHeight}, frmcms);
+    addResult(10, u"Resistance"_s, 21, ohm(), {Left, 262}, frmcms);
+    QLabel *legend =
+        addLabel18(14, Eia96::Legend, {Left, 342, Room.width() - Left - Margin, LabelHeight}, frmcms);
     legend->setFont(font());
-}
-
-void ElectronicsPane::buildNotice()
-{
-    m_notice = new TablesNotice(0, m_tables, m_desktop, this);
-    m_notice->adjustSize();
 }
 
 QLabel *ElectronicsPane::addLabel18(int index, const QString &text, const QRect &place, QWidget *parent)
@@ -261,7 +248,7 @@ void ElectronicsPane::connectControls()
     });
 }
 
-// What was chosen goes with the rows it was chosen from.
+// The chosen rows are gone.
 void ElectronicsPane::emptyChoices()
 {
     changeRingCount();
@@ -276,7 +263,7 @@ void ElectronicsPane::showTab(int index)
     grdFrame32->setVisible(index == 1);
     ListView3[28].setVisible(index == 1);
     frmcms->setVisible(index == 2);
-    // In the middle of what the tab leaves free: on the last one, right of the list.
+    // Centred in the free area; on the last tab that is right of the list.
     const QPoint middle(index == 2 ? 632 : width() / 2, 466);
     m_notice->move(middle - m_notice->rect().center());
 }
@@ -293,8 +280,8 @@ void ElectronicsPane::changeRingCount()
         tbm[result].clear();
 }
 
-// The labels of the rings that apply stand in the accent of the desktop, the nearest that a palette has to
-// the colour of an active title bar, in its shade for texts.
+// The labels of the rings that apply have the link colour: of the palette's text colours it comes closest to
+// an active title bar.
 void ElectronicsPane::markRings()
 {
     const QString count = Combo3->currentText();
@@ -331,7 +318,7 @@ void ElectronicsPane::chooseRing(const ResistorCode::Ring &ring)
     showResult();
 }
 
-// Nothing happens to the results before all rings that apply are chosen.
+// Changes nothing until all rings that apply are chosen.
 void ElectronicsPane::showResult()
 {
     const QString count = Combo3->currentText();

@@ -18,8 +18,7 @@ class TablesNotice;
 struct DataStore;
 
 /// `frmelec`: the colour code of resistors, the standard series of values and the EIA-96 code, in three tabs.
-///
-/// The lists have no rows until the user has their tables read.
+/// The lists are empty until the user has their tables read.
 class ElectronicsPane final : public ModulePanel
 {
     Q_OBJECT
@@ -28,7 +27,7 @@ public:
     ElectronicsPane(DataStore &store, LaterTables &tables, Desktop &desktop, QWidget *parent);
 
 Q_SIGNALS:
-    /// `Command2` was pressed: the mnemonic of the colours is wanted (`Formhelp4`).
+    /// `Command2` was pressed (`Formhelp4`).
     void mnemonicRequested();
 
 protected:
@@ -42,7 +41,6 @@ private:
     void buildSeries();
     void buildEia96();
     void buildMarking();
-    void buildNotice();
     QLabel *addLabel18(int index, const QString &text, const QRect &place, QWidget *parent);
     DropDown *addList(int index, const QString &accessibleName, const QRect &place, QWidget *parent);
     void addResult(int index, const QString &title, int unitIndex, const QString &unit, const QPoint &place,

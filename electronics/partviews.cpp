@@ -6,7 +6,7 @@
 
 namespace {
 
-// The parts look as they do on the bench, on a light and on a dark desktop alike.
+// The colours of the real parts, on a light and on a dark desktop alike.
 constexpr QColor Lead(0x9a, 0xa0, 0xa6);
 constexpr QColor Body(0xe3, 0xcf, 0xa4);
 constexpr QColor BodyEdge(0xa8, 0x8f, 0x5c);

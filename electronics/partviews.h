@@ -5,14 +5,13 @@
 #include <QFrame>
 #include <QLabel>
 
-/// The drawn resistor of the colour code, with the bands `Shape3` on it. A hidden band is one that is not
-/// chosen.
+/// The drawing of a resistor with its bands `Shape3`. A band is hidden until its colour is chosen.
 class ResistorView final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p bandCentres are the abscissae of the bands, by their index.
+    /// @p bandCentres are the abscissae of the bands, by index.
     ResistorView(const QList<int> &bandCentres, QWidget *parent);
 
     void paintBand(int band, const QColor &colour);
@@ -29,8 +28,7 @@ private:
     ControlArray<QFrame> Shape3{"Shape3"};
 };
 
-/// The drawn resistor for surface mounting, with its marking: the code in `Label18(13)`, the letter in
-/// `Label18(15)`.
+/// The drawing of a surface-mount resistor with its marking: code in `Label18(13)`, letter in `Label18(15)`.
 class ChipView final : public QWidget
 {
     Q_OBJECT

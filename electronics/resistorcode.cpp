@@ -4,21 +4,15 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum Column { Couleur, Coef1, Coef2, Coef3, Mult, Tol, Temp, Col };
 
-double number(const QString &cell)
-{
-    const std::optional<double> value = Numbers::parseInvariant(cell);
-    if (!value)
-        throw RuntimeError(ErrorNumber::TypeMismatch, cell);
-    return *value;
-}
-
 int wholeNumber(const QString &cell)
 {
-    const double value = number(cell);
+    const double value = Numbers::requireInvariant(cell);
     if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
         throw RuntimeError(ErrorNumber::Overflow, cell);
     return Numbers::roundHalfToEven(value);
@@ -35,8 +29,8 @@ ResistorCode::Paint colour(const QString &cell)
 
 const std::array<ResistorCode::Ring, 6> &ResistorCode::rings()
 {
-    // The lists of the digits leave out the two rows without a digit, the last two lists leave out rows here
-    // and there. The band of the tolerance, 5, stands left of that of the temperature, 4.
+    // The lists of digits leave out the two rows without a digit, the last two lists leave out other rows.
+    // Band 5 (tolerance) is left of band 4 (temperature).
     static constexpr std::array<Ring, 6> table{{
         {4, 0, Coef1, 2},
         {5, 1, Coef2, 2},
@@ -48,22 +42,20 @@ const std::array<ResistorCode::Ring, 6> &ResistorCode::rings()
     return table;
 }
 
-const QStringList &ResistorCode::ringCounts()
+QStringList ResistorCode::ringCounts()
 {
-    static const QStringList table{QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5"),
-                                   QStringLiteral("6")};
-    return table;
+    return {u"3"_s, u"4"_s, u"5"_s, u"6"_s};
 }
 
 bool ResistorCode::hasRing(const QString &ringCount, int list)
 {
     switch (list) {
     case 6:
-        return ringCount == QLatin1StringView("5") || ringCount == QLatin1StringView("6");
+        return ringCount == u"5" || ringCount == u"6";
     case 8:
-        return ringCount != QLatin1StringView("3");
+        return ringCount != u"3";
     case 9:
-        return ringCount == QLatin1StringView("6");
+        return ringCount == u"6";
     default:
         return true;
     }
@@ -73,7 +65,7 @@ std::optional<ResistorCode::Paint> ResistorCode::choose(const Ring &ring, int po
 {
     if (ring.firstRow)
         return take(ring, *ring.firstRow + position);
-    // A name that occurs twice counts where it stands last.
+    // If a name occurs twice, the last row counts.
     std::optional<Paint> painted;
     for (int row = 0; row < Colours::rowCount(); ++row) {
         if (m_colours(row, Couleur) == name)
@@ -109,9 +101,10 @@ ResistorCode::Fields ResistorCode::result(const QString &ringCount) const
     if (hasRing(ringCount, 6))
         digits += m_digitCode[2];
     Fields fields;
-    fields.resistance = Numbers::formatLocal(number(m_multiplier) * number(digits));
-    // A resistor without a ring for the tolerance keeps to 20 percent.
-    fields.tolerance = hasRing(ringCount, 8) ? m_tolerance : QStringLiteral("20");
+    fields.resistance =
+        Numbers::formatLocal(Numbers::requireInvariant(m_multiplier) * Numbers::requireInvariant(digits));
+    // Without a tolerance ring, the tolerance is 20 percent.
+    fields.tolerance = hasRing(ringCount, 8) ? m_tolerance : u"20"_s;
     if (hasRing(ringCount, 9))
         fields.temperature = QString::number(m_temperature);
     return fields;
