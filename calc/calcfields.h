@@ -8,8 +8,8 @@
 
 namespace CalcFields {
 
-/// The entry fields of the solution calculators, by what they mean. The first fifteen are `TextBoxM7(0)` to
-/// `TextBoxM7(14)` in this order; the last three mean something else on each of the tabs 1 to 3.
+/// The entry fields of the solution calculators. The first fifteen are `TextBoxM7(0)` to `TextBoxM7(14)`; the
+/// last three change their meaning with tabs 1 to 3.
 enum Field {
     Xn1, ///< molar fractions
     Xn2,
@@ -40,7 +40,7 @@ using CalcFields::Field;
 
 using FieldTexts = std::array<QString, CalcFields::FieldCount>;
 
-/// A text that goes into a field.
+/// A new text for a field.
 struct Change
 {
     Field field;
@@ -49,7 +49,6 @@ struct Change
     friend bool operator==(const Change &a, const Change &b) = default;
 };
 
-/// A set of fields, written as a list of them.
 class FieldSet final
 {
 public:

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 using namespace CalcFields;
 
 namespace {
@@ -13,8 +15,7 @@ namespace {
 constexpr FieldSet ThreeFields{TextBoxM3, TextBoxM4, TextBoxM5};
 constexpr FieldSet FractionFields{Xn1, Xn2, Xm1, Xm2, M1, M2};
 
-// A click on tab 4, 5 or 6 empties the fields of tab 5 and no others: what stands on 4 and 6 outlives a visit
-// to other tabs.
+// A click on tab 4, 5 or 6 empties only the fields of tab 5: those of 4 and 6 survive a visit to other tabs.
 constexpr CalcTab Tabs[]{
     {"Amount of substance",
      "n = m / M",
@@ -81,13 +82,6 @@ constexpr CalcLabel Labels[]{
     {PStar, 17, "P* (mbar, mmHg...)", 1, 1},
 };
 
-constexpr Liquid Liquids[]{{3, "Others", 85}, {2, "Methane", 73}, {1, "Water", 109}};
-
-constexpr Field ClearingOrder[]{TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M1,     M2,
-                                Ci,        Vi,        Cf,        Vf,  T,   Tc,  P,   TcStar, PStar};
-
-constexpr Field OptionsClearingOrder[]{TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M2, M1};
-
 } // namespace
 
 std::span<const CalcTab> CalcTabs::tabs()
@@ -102,27 +96,18 @@ std::span<const CalcLabel> CalcTabs::labels()
 
 std::span<const Liquid> CalcTabs::liquids()
 {
+    static constexpr Liquid Liquids[]{{3, "Others", 85}, {2, "Methane", 73}, {1, "Water", 109}};
     return Liquids;
-}
-
-std::span<const Field> CalcTabs::clearingOrder()
-{
-    return ClearingOrder;
-}
-
-std::span<const Field> CalcTabs::optionsClearingOrder()
-{
-    return OptionsClearingOrder;
 }
 
 QString CalcTabs::name(Field field)
 {
-    return field < TextBoxM7Count ? QStringLiteral("TextBoxM7(%1)").arg(int(field))
-                                  : QStringLiteral("TextBoxM%1").arg(field - TextBoxM3 + 3);
+    return field < TextBoxM7Count ? u"TextBoxM7(%1)"_s.arg(int(field))
+                                  : u"TextBoxM%1"_s.arg(field - TextBoxM3 + 3);
 }
 
-int CalcTabs::decimals(const OptionSlots &OptionSlots)
+int CalcTabs::decimals(const OptionSlots &slots)
 {
-    constexpr double Most = 99; // more than any field takes
-    return Numbers::roundHalfToEven(std::clamp(OptionSlots(Slot::Decimals).toNumber(), 0.0, Most));
+    constexpr double Most = 99; // more than any field accepts
+    return Numbers::roundHalfToEven(std::clamp(slots(Slot::Decimals).toNumber(), 0.0, Most));
 }

@@ -7,20 +7,19 @@
 class OptionSlots;
 struct TabSolver;
 
-/// A tab of `TabStrip4`: what it is called, what it shows and how it calculates. Everything of the calculator
-/// that a tab does not name is hidden on it. A tab without its solver does not compile.
+/// A tab of `TabStrip4`. Fields that it does not name are hidden. A tab without a solver does not compile.
 struct CalcTab
 {
     const char *caption;
     const char *formula;              ///< the text of `lbln(3)`
     std::array<const char *, 3> over; ///< captions of `lbl2(0)` to `lbl2(2)`; null leaves them as they are
     FieldSet fields;
-    FieldSet emptied;   ///< by every click on the tab
+    FieldSet emptied;   ///< by each click on the tab
     bool asksForLiquid; ///< shows `Option10` and `lbln(0)`
     const TabSolver &solver;
 };
 
-/// A field with its label, and its place in the grid of the fields that show together.
+/// A field with its label, and its place among the fields that are visible together.
 struct CalcLabel
 {
     Field field;
@@ -43,25 +42,19 @@ namespace CalcTabs {
 /// In the order of the tabs, tab 1 first.
 std::span<const CalcTab> tabs();
 
-/// One for each field, in the order in which a tab is read and the Tab key goes.
+/// One for each field, in reading and Tab order.
 std::span<const CalcLabel> labels();
 
-/// In the order in which the buttons stand; the first is on at the start.
+/// From top to bottom; the first is the default.
 std::span<const Liquid> liquids();
-
-/// The three fields of tabs 1 to 3, then the fifteen of the array.
-std::span<const Field> clearingOrder();
-
-/// What an OK of the options empties, in its order. The fields of tabs 4 and 6 keep their texts.
-std::span<const Field> optionsClearingOrder();
 
 /// "TextBoxM7(3)"
 QString name(Field field);
 
-/// What slot 0 gives to the `decimales` of the entry fields. RuntimeError 13 if it holds a word.
-int decimals(const OptionSlots &OptionSlots);
+/// Slot 0, as the `decimales` of the entry fields. RuntimeError 13 if it is a word.
+int decimals(const OptionSlots &slots);
 
-/// What stands before the gap in the formula of tab 6 that a delta is drawn into, and the gap itself.
+// The formula of tab 6 up to the gap for a delta, and the gap.
 inline constexpr char BeforeDelta[] = "P = P* . exp [ - (";
 inline constexpr char DeltaGap[] = "   ";
 

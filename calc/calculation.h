@@ -2,30 +2,31 @@
 
 #include "calc/checked.h"
 #include "calc/solver.h"
+#include "core/numbers.h"
 
 #include <span>
+#include <variant>
 
-/// One click on "Calculate" while it runs: the texts it reads, and what has come of it so far.
+/// A running calculation: the texts of the fields at the click on "Calculate" and the outcome so far.
 class Calculation final
 {
 public:
     Calculation(const FieldTexts &texts, std::optional<double> vaporisationEntropy);
 
-    /// A field counts as filled when its text is not empty; nothing is trimmed.
+    /// The fields that were not empty at the click; blanks count.
     FieldSet filled() const { return m_filled; }
     const QString &text(Field field) const { return m_texts[field]; }
 
-    /// The number in a field. RuntimeError 13 if its text is none.
-    Checked operator[](Field field) const;
+    /// RuntimeError 13 if the text is not a number.
+    Checked operator[](Field field) const { return Numbers::requireLocal(m_texts[field]); }
 
     /// J/(mol K)
     std::optional<Checked> vaporisationEntropy() const { return m_vaporisationEntropy; }
 
-    /// From now on the field reads as the text written. What counted as filled at the click stays so.
+    /// Later reads of the field see the new text; filled() does not change.
     void write(Field field, Checked number);
 
-    /// A message ends the click.
-    void refuse(const char *message) { m_outcome.message = QString::fromLatin1(message); }
+    void refuse(const char *message) { m_outcome.message = message; }
 
     const Outcome &outcome() const { return m_outcome; }
 
@@ -36,16 +37,16 @@ private:
     Outcome m_outcome;
 };
 
-/// A row of a tab's table: what to do when these fields are filled and those are empty.
+/// If these fields are filled and those are empty: the message to show, or the calculation.
 struct Pattern
 {
     FieldSet filled;
     FieldSet empty;
-    void (*act)(Calculation &);
+    std::variant<const char *, void (*)(Calculation &)> answer;
 };
 
-/// What a tab does at a click on "Calculate": first it counts, then it checks, then the first pattern that
-/// fits decides.
+/// What a click on "Calculate" does on a tab: count the filled fields, run the check, then apply the first
+/// pattern that fits.
 struct TabSolver
 {
     FieldSet counted;

@@ -34,11 +34,9 @@ void CalculationsPane::buildContents()
 
 void CalculationsPane::emptyEntryFields()
 {
+    using namespace CalcFields;
     if (!isBuilt())
         return;
-    const auto order = CalcTabs::optionsClearingOrder();
-    constexpr size_t SharedFields = 3;
-    m_solver->empty(order.first(SharedFields));
+    m_solver->empty({TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M1, M2});
     m_conversions->reset();
-    m_solver->empty(order.subspan(SharedFields));
 }

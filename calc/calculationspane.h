@@ -15,11 +15,10 @@ class CalculationsPane final : public ModulePanel
     Q_OBJECT
 
 public:
-    /// Everything given outlives the pane; @p units are filled before the pane is built.
     CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists, const UnitLists &units,
                      QWidget *parent);
 
-    /// What an OK of the options does: empties the entry fields, apart from those of the tabs 4 and 6.
+    /// Empties the entry fields except those of tabs 4 and 6, after an OK in the options.
     void emptyEntryFields();
 
 protected:

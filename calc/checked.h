@@ -4,11 +4,8 @@
 
 #include <cmath>
 
-/// A number of the calculators. Its arithmetic never yields infinity or "not a number": the operation that
-/// would stops the calculation there.
-///
-/// Errors: RuntimeError 11 for a division by zero (0/0 too), 6 for any other result that is no finite number,
-/// 5 for the logarithm of what is not positive.
+/// A finite number. Operations throw instead of yielding infinity or NaN: RuntimeError 11 for a division by
+/// zero (also 0/0), 5 for the logarithm of a number that is not positive, 6 otherwise.
 class Checked final
 {
 public:
@@ -27,7 +24,7 @@ public:
     }
     Checked operator-() const { return -m_value; }
 
-    /// Exact, without any tolerance.
+    /// Exact, without tolerance.
     friend bool operator==(Checked a, Checked b) { return a.m_value == b.m_value; }
 
     friend Checked exp(Checked x) { return finite(std::exp(x.m_value)); }

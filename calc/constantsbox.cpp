@@ -4,31 +4,30 @@
 #include "widgets/tabstrip.h"
 #include "widgets/titleframe.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Gap = 6;
 
-// The titles that some tabs have no data for, and their columns.
-constexpr int Dimension = 29;
-constexpr int DimensionInUnits = 38;
+// Columns of units that some tabs have no data for, and their titles `Label2`.
 constexpr int DimensionColumn = 3;
+constexpr int DimensionTitle = 29;
 constexpr int DimensionInUnitsColumn = 4;
-
-constexpr int BaseUnits = 1;
-constexpr int MolecularPhysics = 6;
+constexpr int DimensionInUnitsTitle = 38;
 
 bool hasDimensions(int tab)
 {
-    return tab != BaseUnits;
+    return tab != 1; // base units
 }
 
 bool hasDimensionsInUnits(int tab)
 {
-    return tab != BaseUnits && tab != MolecularPhysics;
+    return hasDimensions(tab) && tab != 6; // molecular physics
 }
 
-/// A tab strip across the top of @p place, behind a heading where it needs one; what is left of the place is
-/// for the lists.
+/// A tab strip at the top of @p place, after a heading if there is one. Leaves in @p place the room for the
+/// lists.
 TabStrip *makeStrip(const QString &name, const QString &caption, const QStringList &tabs, QRect &place,
                     QWidget *parent)
 {
@@ -45,7 +44,7 @@ TabStrip *makeStrip(const QString &name, const QString &caption, const QStringLi
     return strip;
 }
 
-/// One list above the other; the first one shows. A click on a tab shows its list and hides the others.
+/// Lists in the same place, one for each tab. The first is visible.
 template<class Array>
 void makeStack(ControlArray<RowListView> &views, Array &lists, int count, const QList<ListColumn> &columns,
                const QRect &place, TabStrip &strip)
@@ -76,26 +75,26 @@ void ConstantsBox::buildConstants(RowLists &lists, const QRect &place)
 {
     QRect room = place;
     TabStrip *strip = makeStrip(
-        QStringLiteral("TabStrip6"), QStringLiteral("Constants"),
+        u"TabStrip6"_s, u"Constants"_s,
         {"Universal", "Electromagnetic", "Atomic / nuclear", "Physico-chemical", "Mathematical"}, room, this);
     makeStack(ListView2, lists.ListView2, 5, {{"Name", 310}, {"Symbol", 90}, {"Value", 170}, {"Units", 130}},
               room, *strip);
-    auto *frmunit1 = new TitleFrame(QStringLiteral("frmunit1"), this, TitleFrame::OneLine);
+    auto *frmunit1 = new TitleFrame(u"frmunit1"_s, this, TitleFrame::OneLine);
     frmunit1->addTitles(ListView2[0], Label2, {0, 1, 2, 3});
 }
 
 void ConstantsBox::buildUnits(RowLists &lists, const QRect &place)
 {
     QRect room = place;
-    TabStrip *strip = makeStrip(QStringLiteral("TabStrip5"), {},
+    TabStrip *strip = makeStrip(u"TabStrip5"_s, {},
                                 {"SI units", "Space / Time", "Mecanical", "Temperature / Heat",
                                  "Electromagnetism", "Molecular physics", "Radiations"},
                                 room, this);
     makeStack(ListView7, lists.ListView7, 7,
               {{"Name", 213}, {"Unit", 175}, {"Symb.", 80}, {"Dimension", 118}, {"Dimension SI units", 130}},
               room, *strip);
-    auto *frmunit2 = new TitleFrame(QStringLiteral("frmunit2"), this, TitleFrame::OneLine);
-    frmunit2->addTitles(ListView7[0], Label2, {37, 36, 35, Dimension, DimensionInUnits});
+    auto *frmunit2 = new TitleFrame(u"frmunit2"_s, this, TitleFrame::OneLine);
+    frmunit2->addTitles(ListView7[0], Label2, {37, 36, 35, DimensionTitle, DimensionInUnitsTitle});
     for (const auto &[index, view] : ListView7) {
         view->setColumnHidden(DimensionColumn, !hasDimensions(index + 1));
         view->setColumnHidden(DimensionInUnitsColumn, !hasDimensionsInUnits(index + 1));
@@ -106,6 +105,6 @@ void ConstantsBox::buildUnits(RowLists &lists, const QRect &place)
 
 void ConstantsBox::showUnitTitles(int tab)
 {
-    Label2[Dimension].setVisible(hasDimensions(tab));
-    Label2[DimensionInUnits].setVisible(hasDimensionsInUnits(tab));
+    Label2[DimensionTitle].setVisible(hasDimensions(tab));
+    Label2[DimensionInUnitsTitle].setVisible(hasDimensionsInUnits(tab));
 }

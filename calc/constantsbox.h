@@ -7,7 +7,7 @@
 
 struct RowLists;
 
-/// The physical constants and the SI units: two tab strips, each over a stack of lists of which one shows.
+/// The physical constants and the SI units: two tab strips, each above its lists, one list for each tab.
 class ConstantsBox final : public QWidget
 {
     Q_OBJECT

@@ -11,20 +11,22 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int Decimals = 10; // until slot 0 tells otherwise
+constexpr int Decimals = 10; // until slot 0 is read
 constexpr int MaxLength = 25;
 
 QStringList captions()
 {
     QStringList captions;
     for (const Quantity &quantity : Units::quantities())
-        captions << QString::fromLatin1(quantity.caption);
+        captions << quantity.caption;
     return captions;
 }
 
-/// The unit lists show a name that is too long with its symbol: "millimeter of merc… (mmHg)".
+/// Elides long unit names before their symbol: "millimeter of merc… (mmHg)".
 class UnitNames final : public QStyledItemDelegate
 {
 public:
@@ -34,7 +36,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        const qsizetype symbol = option->text.lastIndexOf(QLatin1StringView(" ("));
+        const qsizetype symbol = option->text.lastIndexOf(u" ("_s);
         const int margin = option->widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
         const int room = option->rect.width() - 2 * margin;
         const QFontMetrics &metrics = option->fontMetrics;
@@ -54,11 +56,10 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
           return UnitPair{list(Units::quantity(tab).inputList).currentRow(),
                           list(Units::quantity(tab).resultList).currentRow()};
       }),
-      TabStrip3(new TabStrip(QStringLiteral("TabStrip3"), captions(), TabStrip::Down, this)),
-      TextBoxM1(Controls::named(new TextBoxM(TextBoxM::SignedNumber, Decimals, MaxLength, this),
-                                QStringLiteral("TextBoxM1"))),
-      TextBoxM2(
-          Controls::named(new TextBoxM(TextBoxM::SignedNumber, 0, 0, this), QStringLiteral("TextBoxM2")))
+      TabStrip3(new TabStrip(u"TabStrip3"_s, captions(), TabStrip::Down, this)),
+      TextBoxM1(
+          Controls::named(new TextBoxM(TextBoxM::SignedNumber, Decimals, MaxLength, this), u"TextBoxM1"_s)),
+      TextBoxM2(Controls::named(new TextBoxM(TextBoxM::SignedNumber, 0, 0, this), u"TextBoxM2"_s))
 {
     TextBoxM2->setReadOnly(true);
     TextBoxM1->installEventFilter(this);
@@ -66,7 +67,7 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
     buildLists(units);
     connect(TabStrip3, &TabStrip::tabClicked, this,
             [this](int tab) { endOnError(m_desktop, [&] { clickTab(tab); }); });
-    // A text pasted by the mouse or dropped comes without a key.
+    // A mouse paste or a drop has no key event.
     connect(TextBoxM1, &QLineEdit::textEdited, this, &ConversionBox::convert);
     showLists(1);
     reset();
@@ -81,9 +82,9 @@ void ConversionBox::buildLists(const UnitLists &units)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(3);
-    column->addWidget(Controls::heading({}, QStringLiteral("Conversions"), this));
+    column->addWidget(Controls::heading({}, u"Conversions"_s, this));
     column->addWidget(TabStrip3);
-    QWidget *before = TabStrip3; // in the order of the Tab key, which is that of the eye
+    QWidget *before = TabStrip3; // in Tab order
     const auto addNext = [&](QWidget *next, int stretch) {
         column->addWidget(next, stretch);
         setTabOrder(std::exchange(before, next), next);
@@ -97,13 +98,13 @@ void ConversionBox::buildLists(const UnitLists &units)
         for (const Quantity &each : Units::quantities())
             addNext(&list(each.*which), 1);
     };
-    addHalf(QStringLiteral("From"), TextBoxM1, &Quantity::inputList);
-    addHalf(QStringLiteral("To"), TextBoxM2, &Quantity::resultList);
+    addHalf(u"From"_s, TextBoxM1, &Quantity::inputList);
+    addHalf(u"To"_s, TextBoxM2, &Quantity::resultList);
 }
 
-QListWidget &ConversionBox::buildList(int number, const QStringList &names, int start)
+void ConversionBox::buildList(int number, const QStringList &names, int start)
 {
-    auto *list = Controls::named(new QListWidget(this), QStringLiteral("List%1").arg(number));
+    auto *list = Controls::named(new QListWidget(this), u"List%1"_s.arg(number));
     m_lists[size_t(number - 1)] = list;
     list->addItems(names);
     for (int row = 0; row < list->count(); ++row)
@@ -111,11 +112,9 @@ QListWidget &ConversionBox::buildList(int number, const QStringList &names, int 
     list->setItemDelegate(new UnitNames(list));
     list->setCurrentRow(start);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list->setAccessibleName(number % 2 == 1 ? QStringLiteral("Unit of the number")
-                                            : QStringLiteral("Unit of the result"));
+    list->setAccessibleName(number % 2 == 1 ? u"Unit of the number"_s : u"Unit of the result"_s);
     connect(list, &QListWidget::itemClicked, this, [this, number] { clickList(number); });
     connect(list, &QListWidget::currentRowChanged, this, [this, number] { clickList(number); });
-    return *list;
 }
 
 void ConversionBox::clickTab(int tab)
@@ -138,7 +137,7 @@ void ConversionBox::showLists(int tab)
     scrollToUnits();
 }
 
-// So that the units at work stand in sight, amid their neighbours.
+// Keeps the selected units in view.
 void ConversionBox::scrollToUnits()
 {
     layout()->activate();
@@ -156,7 +155,7 @@ void ConversionBox::showEvent(QShowEvent *event)
 void ConversionBox::reset()
 {
     TextBoxM1->setText({});
-    TextBoxM2->setText(QStringLiteral("0"));
+    TextBoxM2->setText(u"0"_s);
 }
 
 void ConversionBox::convert()
@@ -179,10 +178,10 @@ bool ConversionBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == TextBoxM1 && event->type() == QEvent::KeyRelease)
         convert();
-    // Nothing typed reaches the result; a sign or a point goes no further either.
+    // The result is read-only; a sign or a point must not reach the pane either.
     if (watched == TextBoxM2 && event->type() == QEvent::KeyPress) {
         const QString text = static_cast<QKeyEvent *>(event)->text();
-        return text == QLatin1String("-") || text == QLatin1String(".");
+        return text == u"-" || text == u".";
     }
     return QWidget::eventFilter(watched, event);
 }

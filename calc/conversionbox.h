@@ -16,10 +16,9 @@ class ConversionBox final : public QWidget
     Q_OBJECT
 
 public:
-    /// @p units are filled already.
     ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent);
 
-    /// Back to no input and the result "0"; the selected units stay.
+    /// Empties the input and sets the result to "0"; the selected units stay.
     void reset();
 
 protected:
@@ -28,7 +27,7 @@ protected:
 
 private:
     void buildLists(const UnitLists &units);
-    QListWidget &buildList(int number, const QStringList &names, int start);
+    void buildList(int number, const QStringList &names, int start);
     void clickTab(int tab);
     void showLists(int tab);
     void scrollToUnits();

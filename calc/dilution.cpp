@@ -4,7 +4,7 @@ using namespace CalcFields;
 
 namespace {
 
-// Compared as texts, code by code, not as numbers: "9" is above "10".
+// Compared as text, not as numbers: "9" is above "10".
 void refuseRisingConcentration(Calculation &c)
 {
     const QString &initialText = c.text(Ci);
@@ -13,14 +13,12 @@ void refuseRisingConcentration(Calculation &c)
         c.refuse("The initial concentration must be higher than the final one");
 }
 
-void refuseInconsistentData(Calculation &c)
+/// Refuses data whose two relations disagree.
+bool agree(Calculation &c, Checked a, Checked b)
 {
-    c.refuse("Impossible to perform calculation due to inconsistent data");
-}
-
-void refuseTooLittleData(Calculation &c)
-{
-    c.refuse("Not enough data to perform calculation");
+    if (!(a == b))
+        c.refuse("Impossible to perform calculation due to inconsistent data");
+    return a == b;
 }
 
 void solveCiAndRatio(Calculation &c)
@@ -49,10 +47,8 @@ void solveVfAndRatio(Calculation &c)
 
 void solveRatio(Calculation &c)
 {
-    if (c[Vf] * c[Cf] == c[Vi] * c[Ci])
+    if (agree(c, c[Vf] * c[Cf], c[Vi] * c[Ci]))
         c.write(T, c[Cf] / c[Ci]);
-    else
-        refuseInconsistentData(c);
 }
 
 void solveFinalState(Calculation &c)
@@ -61,8 +57,7 @@ void solveFinalState(Calculation &c)
     c.write(Vf, c[Vi] / c[T]);
 }
 
-// Ci is T x Cf here and in solveCi, although the formula line gives T = Cf / Ci: that is how this tab
-// answers.
+// Here and in solveCi, Ci is T x Cf, although the formula shown gives T = Cf / Ci. Intended.
 void solveInitialState(Calculation &c)
 {
     c.write(Ci, c[T] * c[Cf]);
@@ -71,38 +66,30 @@ void solveInitialState(Calculation &c)
 
 void solveVi(Calculation &c)
 {
-    if (c[Vf] * c[Cf] / c[Ci] == c[Vf] * c[T])
+    if (agree(c, c[Vf] * c[Cf] / c[Ci], c[Vf] * c[T]))
         c.write(Vi, c[T] * c[Vf]);
-    else
-        refuseInconsistentData(c);
 }
 
-// So the data are accepted by one relation, and Ci comes from the other.
+// Checks with one relation and calculates Ci with the other.
 void solveCi(Calculation &c)
 {
-    if (c[Vf] * c[Cf] / c[Vi] == c[Cf] / c[T])
+    if (agree(c, c[Vf] * c[Cf] / c[Vi], c[Cf] / c[T]))
         c.write(Ci, c[T] * c[Cf]);
-    else
-        refuseInconsistentData(c);
 }
 
 void solveCf(Calculation &c)
 {
-    if (c[Vi] * c[Ci] / c[Vf] == c[T] * c[Ci])
+    if (agree(c, c[Vi] * c[Ci] / c[Vf], c[T] * c[Ci]))
         c.write(Cf, c[Vi] * c[Ci] / c[Vf]);
-    else
-        refuseInconsistentData(c);
 }
 
 void solveVf(Calculation &c)
 {
-    if (c[Vi] * c[Ci] / c[Cf] == c[Vi] / c[T])
+    if (agree(c, c[Vi] * c[Ci] / c[Cf], c[Vi] / c[T]))
         c.write(Vf, c[Vi] / c[T]);
-    else
-        refuseInconsistentData(c);
 }
 
-// With T, one concentration and the volume of the other state nothing fits, and nothing is said.
+// {Vi, Cf, T} and {Ci, Vf, T} match no pattern: nothing happens.
 constexpr Pattern DilutionPatterns[]{
     {{Vf, Cf, Vi}, {Ci, T}, solveCiAndRatio},
     {{Vf, Cf, Ci}, {Vi, T}, solveViAndRatio},
@@ -115,11 +102,9 @@ constexpr Pattern DilutionPatterns[]{
     {{Vf, Cf, Vi, T}, {Ci}, solveCi},
     {{Vf, Vi, Ci, T}, {Cf}, solveCf},
     {{Cf, Vi, Ci, T}, {Vf}, solveVf},
-    {{T, Vf, Vi}, {Cf, Ci}, refuseTooLittleData},
-    {{T, Cf, Ci}, {Vf, Vi}, refuseTooLittleData},
-    {{Ci, Vi, Cf, Vf, T},
-     {},
-     [](Calculation &c) { c.refuse("Please leave 1 empty field to perform calculation"); }},
+    {{T, Vf, Vi}, {Cf, Ci}, "Not enough data to perform calculation"},
+    {{T, Cf, Ci}, {Vf, Vi}, "Not enough data to perform calculation"},
+    {{Ci, Vi, Cf, Vf, T}, {}, "Please leave 1 empty field to perform calculation"},
 };
 
 } // namespace

@@ -31,12 +31,10 @@ void solveM1(Calculation &c)
 constexpr Pattern FractionPatterns[]{
     {{Xm2, Xm1, M2, M1}, {Xn2, Xn1}, solveMolarFractions},
     {{Xn2, Xn1, M2, M1}, {Xm2, Xm1}, solveMassicFractions},
-    {{}, {M2, M1}, [](Calculation &c) { c.refuse("Please fill in M1 or M2 field to perform calculation"); }},
+    {{}, {M2, M1}, "Please fill in M1 or M2 field to perform calculation"},
     {{Xm2, Xm1, Xn2, Xn1, M1}, {M2}, solveM2},
     {{Xm2, Xm1, Xn2, Xn1, M2}, {M1}, solveM1},
-    {{Xm2, Xm1, Xn2, Xn1, M1, M2},
-     {},
-     [](Calculation &c) { c.refuse("Please leave at least 1 empty field to perform calculation"); }},
+    {{Xm2, Xm1, Xn2, Xn1, M1, M2}, {}, "Please leave at least 1 empty field to perform calculation"},
 };
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "calc/calctabs.h"
 #include "calc/calculation.h"
 
-#include "core/numbers.h"
-
 using namespace CalcFields;
 
 namespace {
@@ -16,8 +14,11 @@ void run(const TabSolver &solver, Calculation &calculation)
     if (!calculation.outcome().message.isEmpty())
         return;
     for (const Pattern &pattern : solver.patterns) {
-        if (calculation.filled().contains(pattern.filled) && !calculation.filled().meets(pattern.empty))
-            return pattern.act(calculation);
+        if (!calculation.filled().contains(pattern.filled) || calculation.filled().meets(pattern.empty))
+            continue;
+        if (const auto *message = std::get_if<const char *>(&pattern.answer))
+            return calculation.refuse(*message);
+        return std::get<void (*)(Calculation &)>(pattern.answer)(calculation);
     }
 }
 
@@ -32,14 +33,6 @@ Calculation::Calculation(const FieldTexts &texts, std::optional<double> vaporisa
     }
 }
 
-Checked Calculation::operator[](Field field) const
-{
-    const std::optional<double> number = Numbers::parseLocal(m_texts[field]);
-    if (!number)
-        throw RuntimeError(ErrorNumber::TypeMismatch, m_texts[field]);
-    return *number;
-}
-
 void Calculation::write(Field field, Checked number)
 {
     m_texts[field] = Numbers::formatLocal(number.value());
@@ -52,8 +45,7 @@ Outcome Solver::solve(int tab, const FieldTexts &texts, std::optional<double> va
     try {
         run(CalcTabs::tabs()[size_t(tab - 1)].solver, calculation);
     } catch (const RuntimeError &error) {
-        // Any other failure, a text that is no number or the logarithm of zero, ends the click without a
-        // word.
+        // Any other failure, such as a text that is not a number or the logarithm of zero, is silent.
         if (error.number() == ErrorNumber::DivisionByZero || error.number() == ErrorNumber::Overflow)
             calculation.refuse("Impossible to perform calculation");
     }

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <optional>
 
-/// What a click on "Calculate" does: fields that get a text, in this order, then a message. Either may be
-/// missing; both are if nothing fits.
+/// What a click on "Calculate" does: write these changes in order, then show the message. Both are empty if
+/// no pattern fits.
 struct Outcome
 {
     QList<Change> changes;
@@ -17,12 +17,11 @@ struct Outcome
 
 namespace Solver {
 
-/// Calculates tab @p tab of `TabStrip4` (1 to 6) from the texts of the fields.
+/// Calculates tab @p tab of `TabStrip4` (1 to 6) from the texts of the fields, in the user's locale.
 ///
-/// Numbers are read and written by the user's locale. @p vaporisationEntropy is the molar entropy of
-/// vaporisation in J/(mol K) that tab 6 takes in place of an enthalpy; without one that tab does nothing.
-/// It never throws: a division by zero and an overflow are the message "Impossible to perform calculation",
-/// every other failure is silent; what was written before it stays written.
+/// @p vaporisationEntropy, J/(mol K), is for tab 6, which does nothing without it. Never throws: a division
+/// by zero or an overflow is the message "Impossible to perform calculation", any other failure is silent;
+/// changes before the failure remain.
 Outcome solve(int tab, const FieldTexts &texts, std::optional<double> vaporisationEntropy = std::nullopt);
 
 } // namespace Solver

@@ -10,11 +10,13 @@
 #include <QEvent>
 #include <QGridLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace CalcFields;
 
 namespace {
 
-constexpr int Decimals = 10; // until slot 0 tells otherwise
+constexpr int Decimals = 10; // until slot 0 is read
 constexpr int MaxLength = 23;
 constexpr int FieldWidth = 160;
 constexpr int RowsPerField = 2; // label and field
@@ -23,12 +25,11 @@ QStringList captions()
 {
     QStringList captions;
     for (const CalcTab &tab : CalcTabs::tabs())
-        captions << QString::fromUtf8(tab.caption);
+        captions << tab.caption;
     return captions;
 }
 
-// Fields that never show together share their places; a hidden one takes no room, so each group gets rows of
-// its own.
+// Fields of different tabs share their place: each group has its own rows, and hidden rows take no room.
 int firstGridRow(Field field)
 {
     constexpr int RowsPerGroup = 2 * RowsPerField;
@@ -41,21 +42,21 @@ int firstGridRow(Field field)
 
 SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     : QWidget(parent), m_module(module), m_desktop(desktop),
-      TabStrip4(new TabStrip(QStringLiteral("TabStrip4"), captions(), TabStrip::Across, this))
+      TabStrip4(new TabStrip(u"TabStrip4"_s, captions(), TabStrip::Across, this))
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(4);
     column->addWidget(TabStrip4);
     column->addWidget(&lbln.add(3, Controls::label({}, {}, this)));
-    lbln.add(0, Controls::label({}, SymbolText::toUnicode(QStringLiteral("D")), &lbln[3]));
+    lbln.add(0, Controls::label({}, SymbolText::toUnicode(u"D"_s), &lbln[3]));
     lbln[3].setContentsMargins(4, 3, 0, 3);
 
     auto *line = new QHBoxLayout;
     line->setContentsMargins(4, 0, 0, 0);
     line->setSpacing(16);
     column->addLayout(line, 1);
-    // Before the fields, for the eye and the Tab key: a choice of the liquid empties them.
+    // Before the fields, also in Tab order: choosing a liquid empties them.
     buildLiquids(*line);
     buildFields(*line);
     line->addStretch(1);
@@ -86,7 +87,7 @@ void SolverBox::buildFields(QBoxLayout &line)
         } else {
             Controls::named(field, CalcTabs::name(each.field));
         }
-        QLabel &label = lbl2.add(each.lbl2, Controls::label({}, QString::fromUtf8(each.caption), this));
+        QLabel &label = lbl2.add(each.lbl2, Controls::label({}, each.caption, this));
         label.setBuddy(field);
         field->setFixedWidth(FieldWidth);
         const int row = firstGridRow(each.field) + each.row * RowsPerField;
@@ -101,20 +102,17 @@ void SolverBox::buildLiquids(QBoxLayout &line)
     auto *group = new QButtonGroup(this);
     auto *column = new QVBoxLayout;
     column->setSpacing(2);
-    m_liquidHeading = Controls::label({}, QStringLiteral("Liquid"), this);
+    m_liquidHeading = Controls::label({}, u"Liquid"_s, this);
     column->addWidget(m_liquidHeading);
     for (const Liquid &liquid : CalcTabs::liquids()) {
-        auto &option = Option10.add(liquid.option, new QRadioButton(QString::fromUtf8(liquid.caption), this));
+        auto &option = Option10.add(liquid.option, new QRadioButton(liquid.caption, this));
         option.setChecked(group->buttons().isEmpty());
         group->addButton(&option);
         column->addWidget(&option);
     }
     column->addStretch(1);
     line.addLayout(column);
-    Option10.connectEach(&QRadioButton::clicked, this, [this](int) {
-        constexpr Field vapour[]{Tc, P, TcStar, PStar};
-        empty(vapour);
-    });
+    Option10.connectEach(&QRadioButton::clicked, this, [this](int) { empty({Tc, P, TcStar, PStar}); });
 }
 
 void SolverBox::buildButtons(QBoxLayout &line)
@@ -122,22 +120,21 @@ void SolverBox::buildButtons(QBoxLayout &line)
     auto *column = new QVBoxLayout;
     column->setSpacing(6);
     for (const char *caption : {"Calculate", "Clear"})
-        column->addWidget(
-            &Command8.add(column->count(), new QPushButton(QString::fromLatin1(caption), this)));
+        column->addWidget(&Command8.add(column->count(), new QPushButton(caption, this)));
     column->addStretch(1);
     line.addLayout(column);
     connect(&Command8[0], &QPushButton::clicked, this, &SolverBox::calculate);
-    connect(&Command8[1], &QPushButton::clicked, this, [this] { empty(CalcTabs::clearingOrder()); });
+    connect(&Command8[1], &QPushButton::clicked, this, [this] {
+        for (TextBoxM *field : m_fields)
+            field->setText({});
+    });
 }
 
 void SolverBox::clickTab(int tab)
 {
     TabStrip4->setFocus();
     showTab(tab);
-    for (int field = 0; field < FieldCount; ++field) {
-        if (CalcTabs::tabs()[size_t(tab - 1)].emptied.contains(Field(field)))
-            write({Field(field), {}});
-    }
+    empty(CalcTabs::tabs()[size_t(tab - 1)].emptied);
 }
 
 void SolverBox::showTab(int number)
@@ -151,11 +148,11 @@ void SolverBox::showTab(int number)
     for (const auto &[index, option] : Option10)
         option->setVisible(tab.asksForLiquid);
     lbln[0].setVisible(tab.asksForLiquid);
-    lbln[3].setText(QString::fromUtf8(tab.formula));
+    lbln[3].setText(tab.formula);
     placeDelta();
     for (int index = 0; index < int(tab.over.size()); ++index) {
         if (const char *caption = tab.over[size_t(index)])
-            lbl2[index].setText(QString::fromUtf8(caption));
+            lbl2[index].setText(caption);
     }
 }
 
@@ -182,8 +179,7 @@ void SolverBox::watch(Field changed)
         write(change);
 }
 
-// The text that stands there already must not be written again: that would move the cursor under the user's
-// hands.
+// Writing an unchanged text would move the user's cursor.
 void SolverBox::write(const Change &change)
 {
     TextBoxM &field = *m_fields[change.field];
@@ -191,10 +187,12 @@ void SolverBox::write(const Change &change)
         field.setText(change.text);
 }
 
-void SolverBox::empty(std::span<const Field> fields)
+void SolverBox::empty(FieldSet fields)
 {
-    for (const Field field : fields)
-        write({field, {}});
+    for (int field = 0; field < FieldCount; ++field) {
+        if (fields.contains(Field(field)))
+            write({Field(field), {}});
+    }
 }
 
 FieldTexts SolverBox::texts() const
@@ -221,13 +219,13 @@ void SolverBox::changeEvent(QEvent *event)
         placeDelta();
 }
 
-// In the middle of the gap that the formula leaves for it.
+// Centres the delta in the gap of the formula.
 void SolverBox::placeDelta()
 {
     QLabel &delta = lbln[0];
     const QFontMetrics metrics(lbln[3].font());
-    const int before = metrics.horizontalAdvance(QLatin1String(CalcTabs::BeforeDelta));
-    const int gap = metrics.horizontalAdvance(QLatin1String(CalcTabs::DeltaGap));
+    const int before = metrics.horizontalAdvance(CalcTabs::BeforeDelta);
+    const int gap = metrics.horizontalAdvance(CalcTabs::DeltaGap);
     delta.adjustSize();
     const QMargins margins = lbln[3].contentsMargins();
     delta.move(margins.left() + before + (gap - delta.width()) / 2, margins.top());

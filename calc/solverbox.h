@@ -14,9 +14,8 @@ class Desktop;
 class QBoxLayout;
 struct Module1;
 
-/// The solution calculators: `TabStrip4` over one set of fields, of which each tab shows its own.
-///
-/// It keeps no numbers: a click on "Calculate" reads the texts of that moment.
+/// The solution calculators: `TabStrip4` above one set of fields, of which each tab shows a part. Keeps no
+/// numbers: a click on "Calculate" reads the texts of the fields.
 class SolverBox final : public QWidget
 {
     Q_OBJECT
@@ -24,8 +23,7 @@ class SolverBox final : public QWidget
 public:
     SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent);
 
-    /// Empties the fields, one after the other.
-    void empty(std::span<const Field> fields);
+    void empty(FieldSet fields);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -49,7 +47,7 @@ private:
     Desktop &m_desktop;
 
     TabStrip *TabStrip4;
-    ControlArray<QLabel> lbln{"lbln"}; ///< 0 the delta, 3 the formula it is drawn in
+    ControlArray<QLabel> lbln{"lbln"}; ///< 0 the delta, 3 the formula around it
     ControlArray<QLabel> lbl2{"lbl2"};
     ControlArray<TextBoxM> TextBoxM7{"TextBoxM7"};
     ControlArray<QRadioButton> Option10{"Option10"};

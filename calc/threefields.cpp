@@ -1,4 +1,4 @@
-// Amount of substance, concentration and volumic mass: one relation between three fields each.
+// Amount of substance, concentration and volumic mass: a relation between three fields each.
 
 #include "calc/calculation.h"
 
@@ -6,15 +6,8 @@ using namespace CalcFields;
 
 namespace {
 
-void refuseAllFilled(Calculation &c)
-{
-    c.refuse("Please leave 1 empty field to perform calculation");
-}
-
-void refuseTooFew(Calculation &c)
-{
-    c.refuse("Please fill in 2 fields to perform calculation");
-}
+constexpr const char *AllFilled = "Please leave 1 empty field to perform calculation";
+constexpr const char *TooFew = "Please fill in 2 fields to perform calculation";
 
 // n = m / M and C = n / V: the first field is the quotient of the other two.
 constexpr Pattern AmountPatterns[]{
@@ -27,12 +20,11 @@ constexpr Pattern AmountPatterns[]{
     {{TextBoxM4, TextBoxM3},
      {TextBoxM5},
      [](Calculation &c) { c.write(TextBoxM5, c[TextBoxM4] / c[TextBoxM3]); }},
-    {{TextBoxM3, TextBoxM4, TextBoxM5}, {}, refuseAllFilled},
-    {{}, {}, refuseTooFew},
+    {{TextBoxM3, TextBoxM4, TextBoxM5}, {}, AllFilled},
+    {{}, {}, TooFew},
 };
 
-// m = rau . V. Grams from g/cm3 and mL, so no factor is needed. With a single field filled this tab, unlike
-// the two before it, says nothing.
+// m = rau . V, in g, g/cm3 and mL: no factor. Unlike the other two tabs, silent with a single field filled.
 constexpr Pattern VolumicMassPatterns[]{
     {{TextBoxM4, TextBoxM5},
      {TextBoxM3},
@@ -43,8 +35,8 @@ constexpr Pattern VolumicMassPatterns[]{
     {{TextBoxM4, TextBoxM3},
      {TextBoxM5},
      [](Calculation &c) { c.write(TextBoxM5, c[TextBoxM3] / c[TextBoxM4]); }},
-    {{TextBoxM3, TextBoxM4, TextBoxM5}, {}, refuseAllFilled},
-    {{}, {TextBoxM3, TextBoxM4, TextBoxM5}, refuseTooFew},
+    {{TextBoxM3, TextBoxM4, TextBoxM5}, {}, AllFilled},
+    {{}, {TextBoxM3, TextBoxM4, TextBoxM5}, TooFew},
 };
 
 } // namespace

@@ -6,18 +6,18 @@
 #include <QStringList>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 using namespace Units;
 
 namespace {
 
-/// A conversion between two units, selected by the difference of their codes, input minus result.
+/// A conversion between two units whose codes, input minus result, have this difference.
 struct Formula
 {
     int difference;
     double (*convert)(double);
 };
-
-constexpr int SameUnit = 0;
 
 constexpr Formula EnergyFormulas[]{
     {-7, [](double v) { return v / 1.6021765E-19; }},           // J to eV
@@ -34,7 +34,7 @@ constexpr Formula EnergyFormulas[]{
     {7, [](double v) { return v * 1.6021765E-19; }},            // eV to J
 };
 
-// Nothing refuses a temperature below absolute zero.
+// Temperatures below absolute zero are accepted.
 constexpr Formula TemperatureFormulas[]{
     {-3, [](double v) { return v + 273.15; }},                    // °C to K
     {-2, [](double v) { return (((v - 32) * 5) / 9) + 273.15; }}, // °F to K
@@ -46,7 +46,7 @@ constexpr Formula TemperatureFormulas[]{
 
 bool isLoneMinus(const QString &text)
 {
-    return text == QLatin1String("-");
+    return text == u"-";
 }
 
 QString written(double result)
@@ -62,16 +62,16 @@ bool isPosition(int position, size_t count)
 QString convertByFormula(const QString &input, UnitPair pair, Tab tab, std::span<const Formula> formulas)
 {
     if (input.isEmpty())
-        return QStringLiteral("0");
-    // A sign alone empties the result here, while the factors make it "0".
+        return u"0"_s;
+    // With factors a lone sign gives "0" instead.
     if (isLoneMinus(input))
         return {};
     const auto &units = std::get<std::span<const UnitByCode>>(quantity(tab).units);
     if (!isPosition(pair.from, units.size()) || !isPosition(pair.to, units.size()))
         return {};
     const int difference = units[size_t(pair.from)].code - units[size_t(pair.to)].code;
-    if (difference == SameUnit)
-        return input; // character for character, without a way through the numbers
+    if (difference == 0)
+        return input; // character for character
     const std::optional<double> number = Numbers::parseLocal(input);
     for (const Formula &formula : formulas) {
         if (number && formula.difference == difference)
@@ -92,8 +92,8 @@ QString BracketText(const QString &text, QChar open, QChar close)
 
 void UnitConverter::selectTab(int tab, const QString &inputUnit, const QString &resultUnit)
 {
-    m_mode = QString::fromLatin1(quantity(tab).mode);
-    // Nobody needs the symbols, but a length without one stops the switch here.
+    m_mode = quantity(tab).mode;
+    // The symbols are not used, but a length without one fails here.
     if (tab == Length) {
         for (const QString &unit : {inputUnit, resultUnit})
             BracketText(unit, u'(', u')');
@@ -102,49 +102,44 @@ void UnitConverter::selectTab(int tab, const QString &inputUnit, const QString &
 
 QString UnitConverter::keyReleased(int tab, const QString &input)
 {
-    // Energy goes by the mode of temperature too; its formulas do not ask for the mode.
-    m_mode = QString::fromLatin1(quantity(tab == Energy ? int(Temperature) : tab).mode);
-    if (tab == Energy)
-        return convertEnergy(input);
-    return tab == Temperature ? convertTemperature(input) : convertByFactors(input);
+    // Energy sets the mode of temperature; its formulas do not need the mode.
+    m_mode = quantity(tab == Energy ? int(Temperature) : tab).mode;
+    return convert(tab, input);
 }
 
 std::optional<QString> UnitConverter::listClicked(int list, const QString &input)
 {
     if (input.isEmpty())
         return std::nullopt;
-    const auto belongsTo = [list](const Quantity &quantity) {
-        return quantity.inputList == list || quantity.resultList == list;
-    };
-    if (belongsTo(quantity(Energy)))
-        return convertEnergy(input);
-    return belongsTo(quantity(Temperature)) ? convertTemperature(input) : convertByFactors(input);
+    int tab = Length;
+    while (quantity(tab).inputList != list && quantity(tab).resultList != list)
+        ++tab;
+    return convert(tab, input);
+}
+
+QString UnitConverter::convert(int tab, const QString &input)
+{
+    if (tab == Energy)
+        return convertByFormula(input, m_selection(Energy), Energy, EnergyFormulas);
+    if (tab == Temperature)
+        return convertByFormula(input, m_selection(Temperature), Temperature, TemperatureFormulas);
+    return convertByFactors(input);
 }
 
 QString UnitConverter::convertByFactors(const QString &input)
 {
-    // A mode without factors leaves units and positions as the last conversion had them.
+    // A mode without factors keeps the units and positions of the last conversion.
     for (int tab = Length; tab <= Radioactivity; ++tab) {
         const auto *factors = std::get_if<std::span<const UnitByFactor>>(&quantity(tab).units);
-        if (factors && m_mode == QLatin1String(quantity(tab).mode)) {
+        if (factors && m_mode == quantity(tab).mode) {
             m_factors = *factors;
             m_pair = m_selection(tab);
         }
     }
     if (input.isEmpty() || isLoneMinus(input))
-        return QStringLiteral("0");
+        return u"0"_s;
     const std::optional<double> number = Numbers::parseLocal(input);
     if (!number || !isPosition(m_pair.from, m_factors.size()) || !isPosition(m_pair.to, m_factors.size()))
         return {};
     return written((*number * m_factors[size_t(m_pair.from)].factor) / m_factors[size_t(m_pair.to)].factor);
-}
-
-QString UnitConverter::convertEnergy(const QString &input) const
-{
-    return convertByFormula(input, m_selection(Energy), Energy, EnergyFormulas);
-}
-
-QString UnitConverter::convertTemperature(const QString &input) const
-{
-    return convertByFormula(input, m_selection(Temperature), Temperature, TemperatureFormulas);
 }

@@ -5,16 +5,16 @@
 #include <QStringList>
 #include <array>
 
-/// The unit names of the conversions: the texts of the sixteen lists `List1` to `List16`, which come in pairs
-/// of the same names, input and result.
+/// The unit names of the conversions: the texts of the lists `List1` to `List16`, in pairs of input and
+/// result with the same names.
 class UnitLists final
 {
 public:
     static constexpr int Count = 16;
 
-    /// Adds the names of the units in list order and counts each one in @p UnitItemCount. A slot that
-    /// the options file left empty is an empty name: positions stay what they mean.
-    void fill(const OptionSlots &OptionSlots, int &UnitItemCount);
+    /// Adds the unit names and counts them in @p UnitItemCount. An empty slot is an empty name, so positions
+    /// keep their meaning.
+    void fill(const OptionSlots &slots, int &UnitItemCount);
 
     /// The names in `List1` to `List16`. RuntimeError 9 for any other number.
     const QStringList &names(int list) const;

@@ -2,8 +2,8 @@
 
 namespace {
 
-// The fractions stay fractions: their quotients are the numbers that are meant. Where a factor is not today's
-// definition of the unit, the name in the delivered options file says how much one is.
+// Do not round the fractions: their quotients are the intended numbers. If a factor is not today's definition
+// of the unit, the name in the delivered options file says how much one is.
 
 constexpr UnitByFactor Lengths[]{
     {1, 1000},            // kilometre

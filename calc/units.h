@@ -10,7 +10,7 @@ struct UnitByFactor
     double factor; ///< base units in one of it
 };
 
-/// A unit that converts by formulas, which the difference of two codes selects.
+/// A unit that converts by formulas, selected by the difference of two codes.
 struct UnitByCode
 {
     int slot; ///< option slot of its name
@@ -24,13 +24,12 @@ struct Quantity
     const char *mode; ///< its `ConversionMode`
     int inputList;    ///< number n of `Listn`
     int resultList;
-    int startInput; ///< positions selected at the start, from 0
+    int startInput; ///< positions selected at start, from 0
     int startResult;
     std::variant<std::span<const UnitByFactor>, std::span<const UnitByCode>> units; ///< in list order
 };
 
-/// The quantities and units of the conversions. The options file has the names of the units, here is what
-/// they mean.
+/// The quantities and units of the conversions. The names of the units are in the options file.
 namespace Units {
 
 /// Numbers of the tabs.
@@ -39,7 +38,6 @@ enum Tab { Length = 1, Surface, Volume, Mass, Temperature, Pressure, Energy, Rad
 /// In the order of the tabs.
 std::span<const Quantity> quantities();
 
-/// The quantity of a tab.
 const Quantity &quantity(int tab);
 
 } // namespace Units

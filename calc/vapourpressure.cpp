@@ -1,5 +1,5 @@
-// Clausius-Clapeyron with the enthalpy of vaporisation taken as boiling temperature times an entropy that is
-// about the same for all liquids of a kind.
+// Clausius-Clapeyron. The enthalpy of vaporisation is the boiling temperature times an entropy that is about
+// the same for all liquids of a kind.
 
 #include "calc/calculation.h"
 
@@ -10,7 +10,7 @@ namespace {
 constexpr double R = 8.314;        // J/(mol K)
 constexpr double Celsius = 273.15; // 0 degrees Celsius in kelvin
 
-// The steps stand one by one because the first that fails decides between a message and silence.
+// One step at a time: the first that fails decides between a message and silence.
 
 void solveTemperature(Calculation &c, Checked K)
 {
@@ -56,7 +56,7 @@ constexpr Pattern VapourPressurePatterns[]{
     {{}, {P}, withEntropy<solvePressure>},
     {{}, {TcStar}, withEntropy<solveBoilingTemperature>},
     {{}, {PStar}, withEntropy<solveBoilingPressure>},
-    {{}, {}, [](Calculation &c) { c.refuse("Please leave at least 1 empty field to perform calculation"); }},
+    {{}, {}, "Please leave at least 1 empty field to perform calculation"},
 };
 
 } // namespace

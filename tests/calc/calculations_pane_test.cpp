@@ -77,7 +77,7 @@ void CalculationsPaneTest::aTabShowsItsOwnControlsAloneEachInItsPlace()
 
     QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("TabStrip4"));
     QCOMPARE(window.places(), places);
-    for (const Field field : CalcTabs::clearingOrder())
+    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
         QCOMPARE(window.isShown(CalcTabs::name(field)), places.contains(CalcTabs::name(field)));
     if (tab == 6) { // a choice of the liquid empties the fields, so it comes first
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
@@ -116,12 +116,12 @@ void CalculationsPaneTest::clearEmptiesTheFieldsOfAllTabs()
     CalcWindow window;
     window.clickTab(QStringLiteral("TabStrip4"), 6);
     window.get<QRadioButton>(QStringLiteral("Option10(1)")).click();
-    for (const Field field : CalcTabs::clearingOrder())
+    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
         window.field(CalcTabs::name(field)).setText(QStringLiteral("0.5"));
 
     window.press(QStringLiteral("Command8(1)"));
 
-    for (const Field field : CalcTabs::clearingOrder())
+    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
         QCOMPARE(window.text(CalcTabs::name(field)), QString());
     QVERIFY(window.get<QRadioButton>(QStringLiteral("Option10(1)")).isChecked());
     QCOMPARE(window.get<TabStrip>(QStringLiteral("TabStrip4")).selectedTab(), 6);
@@ -222,13 +222,13 @@ void CalculationsPaneTest::everyFieldHasItsLabel()
 void CalculationsPaneTest::anOkOfTheOptionsEmptiesTheEntries()
 {
     CalcWindow window;
-    for (const Field field : CalcTabs::clearingOrder())
+    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
         window.field(CalcTabs::name(field)).setText(QStringLiteral("0.5"));
     window.type(QStringLiteral("TextBoxM1"), QStringLiteral("1"));
 
     window.pane.emptyEntryFields();
 
-    for (const Field field : CalcTabs::clearingOrder())
+    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
         QCOMPARE(window.text(CalcTabs::name(field)).isEmpty(), field < Ci || field > PStar);
     QCOMPARE(window.text(QStringLiteral("TextBoxM1")), QString());
     QCOMPARE(window.text(QStringLiteral("TextBoxM2")), QStringLiteral("0"));
