@@ -396,7 +396,6 @@ void RunTest::failuresOfTheStartAreReported()
     QVERIFY(QFile::remove(folder.path(file)));
     if (!content.isEmpty())
         folder.write(file, content);
-    m_desktop.boxes.clear();
     QStringList shown; // at the report
     m_desktop.whileWaiting = [&] {
         shown.clear();
@@ -406,13 +405,11 @@ void RunTest::failuresOfTheStartAreReported()
         }
     };
 
-    QCOMPARE(run(folder, [](Form1 &) { QFAIL("the program started"); }), 1);
+    QCOMPARE(outcome(folder), QStringLiteral("report %1").arg(number));
 
     m_desktop.whileWaiting = {};
-    QCOMPARE(m_desktop.boxes.size(), 1);
-    const QString report = m_desktop.boxes.constFirst().first;
-    QVERIFY(report.startsWith(QStringLiteral("Run-time error '%1':").arg(number)));
-    QVERIFY(report.contains(folder.path(file)));
+    QVERIFY(!m_cameUp);
+    QVERIFY(m_desktop.boxes.constFirst().first.contains(folder.path(file)));
     QCOMPARE(shown, QStringList(QStringLiteral("frmload")));
 }
 
