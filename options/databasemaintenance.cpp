@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void refuseIfInUse(const QString &path)
@@ -16,7 +18,7 @@ void refuseIfInUse(const QString &path)
         throw RuntimeError(ErrorNumber::PermissionDenied, path);
 }
 
-// Lets the owner write, whatever the file said.
+/// Makes the file writable for its owner.
 void clearAttributes(const QString &path)
 {
     QFile file(path);
@@ -30,12 +32,12 @@ void clearAttributes(const QString &path)
 
 DatabaseMaintenance::DatabaseMaintenance(Module1 &module, Desktop &desktop)
     : m_module(module), m_desktop(desktop),
-      CommonDialog1({QStringLiteral("Microsoft Access database"), {QStringLiteral("*.mdb")}}, module, desktop)
+      CommonDialog1({u"Microsoft Access database"_s, {u"*.mdb"_s}}, module, desktop)
 {}
 
 QString DatabaseMaintenance::databasePath() const
 {
-    return m_module.AppFolder + QStringLiteral("/Data/Database_uk.mdb");
+    return m_module.AppFolder + u"/Data/Database_uk.mdb"_s;
 }
 
 void DatabaseMaintenance::open() const
@@ -50,21 +52,16 @@ void DatabaseMaintenance::DatabaseSaveCopy()
     } catch (const RuntimeError &error) {
         const QString path = CommonDialog1.FileName();
         if (error.number() == ErrorNumber::PermissionDenied)
-            warn(QStringLiteral("Impossible to save, the file '%1' is in use.").arg(path));
+            warn(u"Impossible to save, the file '%1' is in use."_s.arg(path));
         else if (error.number() == ErrorNumber::PathAccess)
-            warn(QStringLiteral(
-                     "Impossible to save '%1'. The file already exists and has a read-only attribute. "
-                     "Save it with a different name or in different folder.")
-                     .arg(path) +
-                 FileErrors::reasonNotWritable(path));
-        // Any other failure is silent: that no success is told is the only sign.
+            warn(SaveDialog::readOnlyMessage(path) + FileErrors::reasonNotWritable(path));
+        // Any other failure is silent: only the message of success is missing.
     }
 }
 
 void DatabaseMaintenance::saveCopy()
 {
-    CommonDialog1.choose([] { return QStringLiteral("Database_uk_copy"); },
-                         m_mark + SaveDialog::QuestionStyle);
+    CommonDialog1.choose([] { return u"Database_uk_copy"_s; }, m_mark + SaveDialog::QuestionStyle);
     const QString path = CommonDialog1.FileName();
     if (QFileInfo(path) == QFileInfo(databasePath()))
         throw RuntimeError(ErrorNumber::PermissionDenied, path);
@@ -72,26 +69,26 @@ void DatabaseMaintenance::saveCopy()
     FileErrors::refuseSpecialFile(path);
     refuseIfInUse(path);
     copyFileOver(databasePath(), path);
-    m_desktop.messageBox(QStringLiteral("The database was successfully saved!"), Desktop::Information);
+    m_desktop.messageBox(u"The database was successfully saved!"_s, Desktop::Information);
 }
 
 bool DatabaseMaintenance::restore()
 {
     m_mark = Desktop::Question;
-    // The mark is added to the question icon as a number, which makes it the information icon: style 68.
+    // The mark is a second question icon, and the sum an information icon: style 68.
     const int style = m_mark + Desktop::YesNo + Desktop::Question;
-    const auto question = QStringLiteral("Do you really want to restore the original database?");
-    if (m_desktop.messageBox(question, style) != Desktop::Yes)
+    if (m_desktop.messageBox(u"Do you really want to restore the original database?"_s, style) !=
+        Desktop::Yes)
         return false;
     try {
         copyOriginal();
         return true;
     } catch (const RuntimeError &error) {
-        // The path in this text is fixed, wherever the program folder is.
+        // The path in this text is fixed.
         if (error.number() == ErrorNumber::PermissionDenied || error.number() == ErrorNumber::PathAccess)
-            warn(QStringLiteral("Impossible to save, the file 'Alembra/Data/Database_uk.mdb' is in use."));
+            warn(u"Impossible to save, the file 'Alembra/Data/Database_uk.mdb' is in use."_s);
         else if (error.number() == ErrorNumber::FileNotFound)
-            warn(QStringLiteral("Impossible to save, the database file does not exist."));
+            warn(u"Impossible to save, the database file does not exist."_s);
         return false; // any other failure is silent
     }
 }
@@ -100,9 +97,9 @@ void DatabaseMaintenance::copyOriginal() const
 {
     clearAttributes(databasePath());
     refuseIfInUse(databasePath());
-    copyFileOver(m_module.AppFolder + QStringLiteral("/Backup/Database_uk_origin.rbk"), databasePath());
-    m_desktop.messageBox(QStringLiteral("The original database was successfully reinstalled! Changes will be "
-                                        "effective after restating the program."),
+    copyFileOver(m_module.AppFolder + u"/Backup/Database_uk_origin.rbk"_s, databasePath());
+    m_desktop.messageBox(u"The original database was successfully reinstalled! Changes will be "
+                         "effective after restating the program."_s,
                          Desktop::Information);
 }
 

@@ -2,10 +2,9 @@
 
 #include "reports/savedialog.h"
 
-/// Copies of the working database, out and in. Neither touches the data in memory.
+/// Saves a copy of the working database and restores the original. Neither changes the data in memory.
 ///
-/// It lives as long as the options window: Restore leaves a mark that the questions of a later Save add to
-/// their style.
+/// Lives as long as the options window: after Restore, the questions of a later Save have another style.
 class DatabaseMaintenance final
 {
 public:
@@ -14,15 +13,15 @@ public:
     /// "Data/Database_uk.mdb" in the program folder.
     QString databasePath() const;
 
-    /// Hands the database to the program that the desktop has for it.
+    /// Opens the database in the desktop's default application.
     void open() const;
 
-    /// Asks for a place and copies the database there. Cancelling is silent, and so is every failure but a
-    /// file that is in use or may not be written. A copy of the database onto itself counts as in use.
+    /// Asks for a file and copies the database there. Reports a file that is in use (as the database itself
+    /// counts) or not writable; cancelling and any other failure are silent.
     void DatabaseSaveCopy();
 
-    /// Puts the delivered database in the place of the working one, after a question. True if it was done. A
-    /// failure leaves the working one as it was.
+    /// Replaces the working database by the original, after a question. True if done; a failure changes
+    /// nothing.
     bool restore();
 
 private:
@@ -33,5 +32,5 @@ private:
     Module1 &m_module;
     Desktop &m_desktop;
     SaveDialog CommonDialog1;
-    int m_mark = 0; ///< 32 once Restore was pressed
+    int m_mark = 0; ///< 32 after the first Restore
 };

@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int GroupSpacing = 18; // logical pixels
@@ -19,33 +21,30 @@ constexpr int GroupSpacing = 18; // logical pixels
 DatabaseTab::DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent)
     : QWidget(parent), m_desktop(desktop), m_maintenance(module, desktop), m_actions(new QGridLayout)
 {
-    setObjectName(QStringLiteral("frmbdd"));
+    setObjectName(u"frmbdd"_s);
     auto *rows = new QVBoxLayout(this);
-    rows->addWidget(Controls::heading(QStringLiteral("Label1(0)"), QStringLiteral("Properties"), this));
-    QLabel *pathLabel = Controls::label(QStringLiteral("Label2"), QStringLiteral("Database &path:"), this);
+    rows->addWidget(Controls::heading(u"Label1(0)"_s, u"Properties"_s, this));
+    QLabel *pathLabel = Controls::label(u"Label2"_s, u"Database &path:"_s, this);
     rows->addWidget(pathLabel);
-    Text1 = Controls::named(new QLineEdit(this), QStringLiteral("Text1"));
+    Text1 = Controls::named(new QLineEdit(this), u"Text1"_s);
     Text1->setReadOnly(true);
     pathLabel->setBuddy(Text1);
     rows->addWidget(Text1);
-    Label5 = Controls::label(QStringLiteral("Label5"), {}, this);
-    Label6 = Controls::label(QStringLiteral("Label6"), {}, this);
+    Label5 = Controls::label(u"Label5"_s, {}, this);
+    Label6 = Controls::label(u"Label6"_s, {}, this);
     rows->addWidget(Label5);
     rows->addWidget(Label6);
 
     rows->addSpacing(GroupSpacing);
-    rows->addWidget(Controls::heading(QStringLiteral("Label1(1)"), QStringLiteral("Security"), this));
+    rows->addWidget(Controls::heading(u"Label1(1)"_s, u"Security"_s, this));
     rows->addLayout(m_actions);
     m_actions->setColumnStretch(0, 1);
     const QPushButton *Command10 =
-        addAction(QStringLiteral("Label3"), QStringLiteral("Open the database with Microsoft Access:"),
-                  QStringLiteral("Command10"), QStringLiteral("Ope&n..."));
+        addAction(u"Label3"_s, u"Open the database with Microsoft Access:"_s, u"Command10"_s, u"Ope&n..."_s);
     const QPushButton *Command1 =
-        addAction(QStringLiteral("Label4(0)"), QStringLiteral("Make a back-up copy of the database:"),
-                  QStringLiteral("Command1"), QStringLiteral("Sa&ve..."));
+        addAction(u"Label4(0)"_s, u"Make a back-up copy of the database:"_s, u"Command1"_s, u"Sa&ve..."_s);
     const QPushButton *Command2 =
-        addAction(QStringLiteral("Label4(1)"), QStringLiteral("Back-up the original database:"),
-                  QStringLiteral("Command2"), QStringLiteral("&Restore"));
+        addAction(u"Label4(1)"_s, u"Back-up the original database:"_s, u"Command2"_s, u"&Restore"_s);
     rows->addStretch();
 
     connect(Command10, &QPushButton::clicked, this, [this] { m_maintenance.open(); });
@@ -70,17 +69,16 @@ QPushButton *DatabaseTab::addAction(const QString &labelName, const QString &tex
 void DatabaseTab::load()
 {
     Text1->setText(QDir::toNativeSeparators(m_maintenance.databasePath()));
-    showFigures(QStringLiteral("File size:   "), QStringLiteral("Modification date:   "));
+    showFigures(u"File size:   "_s, u"Modification date:   "_s);
 }
 
-// After a Restore the two captions are French, also in this build.
+// After a Restore the two captions are French. Intended.
 void DatabaseTab::restore()
 {
     if (!m_maintenance.restore())
         return;
     Q_EMIT databaseReplaced();
-    showFigures(QStringLiteral("Taille du fichier :   "),
-                QStringLiteral("Date de modification du fichier :   "));
+    showFigures(u"Taille du fichier :   "_s, u"Date de modification du fichier :   "_s);
 }
 
 void DatabaseTab::showFigures(const QString &sizeCaption, const QString &dateCaption)

@@ -9,7 +9,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// `frmbdd`: where the database is, how large and how old, and the buttons for its copies.
+/// `frmbdd`: path, size and date of the database, and the buttons for its copies.
 class DatabaseTab final : public QWidget
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ class DatabaseTab final : public QWidget
 public:
     DatabaseTab(Module1 &module, Desktop &desktop, QWidget *parent);
 
-    /// Measures the database. RuntimeError 53 if it is not there.
+    /// Shows size and date of the database. RuntimeError 53 if it does not exist.
     void load();
 
 Q_SIGNALS:
-    /// The original database is back in place of the working one.
+    /// The original database has replaced the working one.
     void databaseReplaced();
 
 private:

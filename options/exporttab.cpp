@@ -8,9 +8,11 @@
 #include <QRadioButton>
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-enum class Kind { Check1, Check2, Check1Fixed, Check2Fixed, Option1 };
+enum class Kind { Heading, Check1, Check2, Check1Fixed, Check2Fixed, Option1 };
 
 struct Entry
 {
@@ -19,77 +21,53 @@ struct Entry
     const char *caption;
 };
 
-struct Group
-{
-    int label; ///< 10 for "Label1(10)"
-    const char *heading;
-    int column;
-    std::span<const Entry> entries;
+// From top to bottom; a heading begins a group.
+constexpr Entry FirstColumn[]{
+    {Kind::Heading, 10, "Mode"},
+    {Kind::Option1, 1, "Co&lors"},
+    {Kind::Option1, 0, "Gra&yscale"},
+    {Kind::Heading, 7, "Solvents"},
+    {Kind::Check2Fixed, 11, " Properties"},
+    {Kind::Check2, 0, " Str&uctures"},
+    {Kind::Check2Fixed, 10, " Miscibility - Polarity"},
+    {Kind::Check2, 2, " &Relative polarities"},
+    {Kind::Check2Fixed, 13, " NMR"},
+    {Kind::Check2Fixed, 15, " Mass spec."},
+    {Kind::Check2Fixed, 12, " Cooling mixtures"},
+    {Kind::Check2Fixed, 9, " Drying"},
 };
 
-constexpr std::array Mode{
-    Entry{Kind::Option1, 1, "Co&lors"},
-    Entry{Kind::Option1, 0, "Gra&yscale"},
+constexpr Entry SecondColumn[]{
+    {Kind::Heading, 5, "Solutions"},
+    {Kind::Check2Fixed, 4, " Couples"},
+    {Kind::Check2Fixed, 6, " Constants"},
+    {Kind::Check2Fixed, 5, " Colored indicators"},
+    {Kind::Check2, 7, " &Fluorochroms"},
+    {Kind::Heading, 6, "Elements"},
+    {Kind::Check2Fixed, 14, " Elements"},
+    {Kind::Check2, 3, " &Pictures"},
+    {Kind::Check2, 1, " Radioactive &isotopes"},
 };
 
-constexpr std::array Solvents{
-    Entry{Kind::Check2Fixed, 11, " Properties"},
-    Entry{Kind::Check2, 0, " Str&uctures"},
-    Entry{Kind::Check2Fixed, 10, " Miscibility - Polarity"},
-    Entry{Kind::Check2, 2, " &Relative polarities"},
-    Entry{Kind::Check2Fixed, 13, " NMR"},
-    Entry{Kind::Check2Fixed, 15, " Mass spec."},
-    Entry{Kind::Check2Fixed, 12, " Cooling mixtures"},
-    Entry{Kind::Check2Fixed, 9, " Drying"},
+constexpr Entry ThirdColumn[]{
+    {Kind::Heading, 8, "Biochemistry"},     {Kind::Check2Fixed, 8, " Biomolecules"},
+    {Kind::Check1, 0, " Ge&netic code"},    {Kind::Check1, 9, " SDS-P&AGE"},
+    {Kind::Heading, 2, "Calculs"},          {Kind::Check2Fixed, 16, " SI units and der."},
+    {Kind::Check1Fixed, 10, " Constants"},  {Kind::Heading, 3, "Spectrocopy"},
+    {Kind::Check2Fixed, 17, " IR (Table)"},
 };
 
-constexpr std::array Solutions{
-    Entry{Kind::Check2Fixed, 4, " Couples"},
-    Entry{Kind::Check2Fixed, 6, " Constants"},
-    Entry{Kind::Check2Fixed, 5, " Colored indicators"},
-    Entry{Kind::Check2, 7, " &Fluorochroms"},
-};
+constexpr std::array<std::span<const Entry>, 3> Columns{FirstColumn, SecondColumn, ThirdColumn};
 
-constexpr std::array Elements{
-    Entry{Kind::Check2Fixed, 14, " Elements"},
-    Entry{Kind::Check2, 3, " &Pictures"},
-    Entry{Kind::Check2, 1, " Radioactive &isotopes"},
-};
-
-constexpr std::array Biochemistry{
-    Entry{Kind::Check2Fixed, 8, " Biomolecules"},
-    Entry{Kind::Check1, 0, " Ge&netic code"},
-    Entry{Kind::Check1, 9, " SDS-P&AGE"},
-};
-
-constexpr std::array Calculations{
-    Entry{Kind::Check2Fixed, 16, " SI units and der."},
-    Entry{Kind::Check1Fixed, 10, " Constants"},
-};
-
-constexpr std::array Spectroscopy{
-    Entry{Kind::Check2Fixed, 17, " IR (Table)"},
-};
-
-constexpr std::array Groups{
-    Group{10, "Mode", 0, Mode},
-    Group{7, "Solvents", 0, Solvents},
-    Group{5, "Solutions", 1, Solutions},
-    Group{6, "Elements", 1, Elements},
-    Group{8, "Biochemistry", 2, Biochemistry},
-    Group{2, "Calculs", 2, Calculations},
-    Group{3, "Spectrocopy", 2, Spectroscopy},
-};
-
-constexpr int ColumnCount = 3;
 constexpr int GroupSpacing = 14; // logical pixels
 
 QWidget *makeControl(const Entry &entry, OptionControls &controls, QWidget *parent)
 {
-    const QString caption = QString::fromLatin1(entry.caption);
+    if (entry.kind == Kind::Heading)
+        return Controls::heading(Controls::indexedName("Label1", entry.index), entry.caption, parent);
     if (entry.kind == Kind::Option1)
-        return &controls.Option1.add(entry.index, new QRadioButton(caption, parent));
-    auto *box = new QCheckBox(caption, parent);
+        return &controls.Option1.add(entry.index, new QRadioButton(entry.caption, parent));
+    auto *box = new QCheckBox(entry.caption, parent);
     if (entry.kind == Kind::Check1Fixed || entry.kind == Kind::Check2Fixed) {
         box->setChecked(true);
         box->setEnabled(false);
@@ -102,23 +80,17 @@ QWidget *makeControl(const Entry &entry, OptionControls &controls, QWidget *pare
 
 QWidget *makeExportTab(OptionControls &controls, QWidget *parent)
 {
-    auto *frmexport = Controls::named(new QWidget(parent), QStringLiteral("frmexport"));
+    auto *frmexport = Controls::named(new QWidget(parent), u"frmexport"_s);
     auto *columns = new QHBoxLayout(frmexport);
-    std::array<QVBoxLayout *, ColumnCount> column{};
-    for (QVBoxLayout *&rows : column) {
-        rows = new QVBoxLayout;
+    for (const std::span<const Entry> column : Columns) {
+        auto *rows = new QVBoxLayout;
         columns->addLayout(rows, 1);
-    }
-    for (const Group &group : Groups) {
-        QVBoxLayout &rows = *column[size_t(group.column)];
-        if (rows.count() > 0)
-            rows.addSpacing(GroupSpacing);
-        rows.addWidget(Controls::heading(Controls::indexedName("Label1", group.label),
-                                         QString::fromLatin1(group.heading), frmexport));
-        for (const Entry &entry : group.entries)
-            rows.addWidget(makeControl(entry, controls, frmexport));
-    }
-    for (QVBoxLayout *rows : column)
+        for (const Entry &entry : column) {
+            if (entry.kind == Kind::Heading && rows->count() > 0)
+                rows->addSpacing(GroupSpacing);
+            rows->addWidget(makeControl(entry, controls, frmexport));
+        }
         rows->addStretch();
+    }
     return frmexport;
 }

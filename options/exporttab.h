@@ -3,6 +3,6 @@
 struct OptionControls;
 class QWidget;
 
-/// `frmexport`: what the reports contain. Adds its controls to @p controls. A box that is on and disabled
-/// stands for a section that is always in the report; nobody reads it.
+/// `frmexport`: the contents of the reports. Adds its controls to @p controls. A checked and disabled box is
+/// a section that is always in the report.
 QWidget *makeExportTab(OptionControls &controls, QWidget *parent);

@@ -9,6 +9,8 @@
 #include <QLocale>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QFileInfo existingFile(const QString &path)
@@ -45,12 +47,12 @@ qint64 FileFigures::folderSize(const QString &path)
 
 QString FileFigures::kilobytes(qint64 bytes)
 {
-    return Numbers::formatLocal(double(bytes) / 1024) + QStringLiteral(" Ko");
+    return Numbers::formatLocal(double(bytes) / 1024) + u" Ko"_s;
 }
 
 QString FileFigures::megabytes(qint64 bytes)
 {
-    return Numbers::formatLocal(std::nearbyint(double(bytes) / 1048576 * 100) / 100) + QStringLiteral(" Mo");
+    return Numbers::formatLocal(std::nearbyint(double(bytes) / 1048576 * 100) / 100) + u" Mo"_s;
 }
 
 QString FileFigures::modificationDate(const QString &path)

@@ -2,23 +2,23 @@
 
 #include <QString>
 
-/// Sizes and dates of files, as the options dialog shows them.
+/// Sizes and dates of files for the options dialog.
 namespace FileFigures {
 
-/// Bytes. A file that is not there is RuntimeError 53.
+/// Bytes. RuntimeError 53 if there is no such file.
 qint64 fileLength(const QString &path);
 
-/// Bytes of all files in the folder and below. A linked file counts, a linked folder does not. RuntimeError
-/// 76 if the folder is not there.
+/// Bytes of all files in the folder and below, including linked files but not linked folders. RuntimeError 76
+/// if there is no such folder.
 qint64 folderSize(const QString &path);
 
-/// "1.5 Ko": bytes by 1024, in as many decimals as it takes.
+/// "1.5 Ko": bytes / 1024, not rounded.
 QString kilobytes(qint64 bytes);
 
-/// "1.46 Mo": bytes by 1048576, in two decimals at most, half to even.
+/// "1.46 Mo": bytes / 1048576, at most two decimals, rounded half to even.
 QString megabytes(qint64 bytes);
 
-/// The file's last change in the short form of the user's locale. RuntimeError 53 as above.
+/// The time of the last change, in the short format of the user's locale. RuntimeError 53 as above.
 QString modificationDate(const QString &path);
 
 } // namespace FileFigures

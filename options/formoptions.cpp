@@ -17,31 +17,21 @@
 #include <QPushButton>
 #include <QStackedLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize WindowSize{560, 440}; // logical pixels
-
-QStringList menuStyles()
-{
-    return {QStringLiteral("Office 2000"), QStringLiteral("Office XP"),   QStringLiteral("Office 2003"),
-            QStringLiteral("Windows XP"),  QStringLiteral("Office 2007"), QStringLiteral("Vista")};
-}
-
-QStringList startModules()
-{
-    return {QStringLiteral("Solvents"),     QStringLiteral("Solutions"),    QStringLiteral("Elements"),
-            QStringLiteral("Biochemistry"), QStringLiteral("Spectroscopy"), QStringLiteral("Calculations")};
-}
 
 } // namespace
 
 Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QWidget &owner)
     : SideWindow("Formoptions", owner), m_module(module), m_store(store), m_desktop(desktop)
 {
-    setWindowTitle(QStringLiteral("Options"));
+    setWindowTitle(u"Options"_s);
     applyGridLines();
-    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // those that the tabs will measure
-        FileFigures::fileLength(m_module.shippedFile(QLatin1StringView(file)));
+    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // the tabs need these files
+        FileFigures::fileLength(m_module.shippedFile(file));
 }
 
 void Formoptions::setVisible(bool visible)
@@ -59,9 +49,7 @@ void Formoptions::setTipAtStart(bool on)
 
 void Formoptions::buildWindow()
 {
-    TabStrip1 = new TabStrip(QStringLiteral("TabStrip1"),
-                             {QStringLiteral("&General"), QStringLiteral("&Export"),
-                              QStringLiteral("&Database"), QStringLiteral("&Statistics")},
+    TabStrip1 = new TabStrip(u"TabStrip1"_s, {u"&General"_s, u"&Export"_s, u"&Database"_s, u"&Statistics"_s},
                              TabStrip::Across, this);
     auto *page = new QFrame(this);
     page->setFrameShape(QFrame::StyledPanel);
@@ -76,7 +64,7 @@ void Formoptions::buildWindow()
             [frames](int tab) { frames->setCurrentIndex(tab - 1); });
 
     auto *rows = new QVBoxLayout(this);
-    auto *sheet = new QVBoxLayout; // strip and page touch
+    auto *sheet = new QVBoxLayout; // no gap between strip and page
     sheet->setSpacing(0);
     sheet->addWidget(TabStrip1);
     sheet->addWidget(page, 1);
@@ -86,9 +74,8 @@ void Formoptions::buildWindow()
 
 QLayout *Formoptions::buildButtons()
 {
-    QPushButton *XPButton1 = makeOkButton(QStringLiteral("XPButton1"));
-    auto *XpButton2 =
-        Controls::named(new QPushButton(QStringLiteral("&Cancel"), this), QStringLiteral("XpButton2"));
+    QPushButton *XPButton1 = makeOkButton(u"XPButton1"_s);
+    auto *XpButton2 = Controls::named(new QPushButton(u"&Cancel"_s, this), u"XpButton2"_s);
     XpButton2->setAutoDefault(false);
     connect(XpButton2, &QPushButton::clicked, this, &QWidget::close);
     auto *buttons = new QHBoxLayout;
@@ -100,7 +87,7 @@ QLayout *Formoptions::buildButtons()
 
 void Formoptions::connectClickRules()
 {
-    // The balloon has no meaning without the tray.
+    // The balloon needs the tray.
     controls.Check1.connectEach(&QCheckBox::toggled, this, [this](int) {
         controls.Check1[8].setEnabled(controls.Check1[7].isChecked());
     });
@@ -111,15 +98,17 @@ void Formoptions::build()
 {
     buildWindow();
     connectClickRules();
-    controls.Combo2->addItems(menuStyles());
-    controls.Combo3->addItems(startModules());
+    controls.Combo2->addItems(
+        {u"Office 2000"_s, u"Office XP"_s, u"Office 2003"_s, u"Windows XP"_s, u"Office 2007"_s, u"Vista"_s});
+    controls.Combo3->addItems({u"Solvents"_s, u"Solutions"_s, u"Elements"_s, u"Biochemistry"_s,
+                               u"Spectroscopy"_s, u"Calculations"_s});
     controls.show(m_module.OptionSlots);
     frmbdd->load();
     frmstat->load();
     resize(sizeHint().expandedTo(WindowSize));
 }
 
-// A box that is neither on nor off has its mark.
+// Any value but 0 turns them on.
 void Formoptions::applyGridLines()
 {
     ApplyGridLines(m_store.lists, !m_module.OptionSlots(Slot::GridLines).equals(0));

@@ -10,37 +10,34 @@ class TabStrip;
 struct DataStore;
 struct Module1;
 
-/// `Formoptions`: the one place where the user changes settings.
+/// `Formoptions`: the settings.
 ///
-/// Loading it applies the grid lines; the controls are built when it is first shown. OK stores them in the
-/// slots and writes the options file; Cancel and the close box leave the slots alone. Each of them unloads
-/// the window.
+/// The constructor applies the grid lines; the controls are built when the window is first shown. OK stores
+/// them in the slots and writes the options file; Cancel and the close box do not. All three unload the
+/// window.
 class Formoptions final : public SideWindow
 {
     Q_OBJECT
 
 public:
-    /// @p owner is `Form1`. RuntimeError 53 or 76 if a file or folder that it measures is not there.
+    /// @p owner is `Form1`. RuntimeError 53 if a file whose size it shows does not exist.
     Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QWidget &owner);
 
-    /// Builds the controls when it first shows the window. RuntimeError as above.
+    /// Builds the controls when first shown. RuntimeError 53 or 76 if a file or folder does not exist.
     void setVisible(bool visible) override;
 
-    /// `Check1(1)`; the slot has the value already.
+    /// Sets `Check1(1)`; the slot already has the value.
     void setTipAtStart(bool on);
 
-    OptionControls controls; ///< none before the window is first shown
+    OptionControls controls; ///< empty until the window is first shown
 
     void accept() override;
 
 Q_SIGNALS:
-    /// OK has stored the controls in the slots; the options file is written next.
-    void optionsChanged();
+    void optionsChanged(); ///< after OK, before the options file is written
+    void optionsWritten(); ///< before the window closes
 
-    /// The options file is written; the window closes next.
-    void optionsWritten();
-
-    /// The original database is back in place of the working one.
+    /// The original database has replaced the working one.
     void databaseReplaced();
 
 private:

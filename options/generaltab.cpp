@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QRadioButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Box
@@ -24,7 +26,7 @@ constexpr std::array DisplayBoxes{
 
 // Logical pixels.
 constexpr int GroupSpacing = 18;
-constexpr int Indent = 22; // of what hangs on the box above
+constexpr int Indent = 22; // of a box that depends on the one above
 
 class Builder final
 {
@@ -35,7 +37,7 @@ public:
 
     void buildDisplay()
     {
-        addHeading(12, QStringLiteral("Display"));
+        addHeading(12, u"Display"_s);
         auto *boxes = new QGridLayout;
         for (int i = 0; i < int(DisplayBoxes.size()); ++i)
             boxes->addWidget(addBox(DisplayBoxes[size_t(i)]), i % 3, i / 3);
@@ -44,26 +46,25 @@ public:
 
         auto *choices = new QGridLayout;
         choices->setColumnStretch(3, 1);
-        m_controls.Combo2 = Controls::named(new QComboBox(&m_frame), QStringLiteral("Combo2"));
-        choices->addWidget(addLabel(0, QStringLiteral("Style of &menus:"), *m_controls.Combo2), 0, 0);
+        m_controls.Combo2 = Controls::named(new QComboBox(&m_frame), u"Combo2"_s);
+        choices->addWidget(addLabel(0, u"Style of &menus:"_s, *m_controls.Combo2), 0, 0);
         choices->addWidget(m_controls.Combo2, 0, 1, 1, 2);
-        QRadioButton *frequency = addButton(3, QStringLiteral("&Frequency"));
-        choices->addWidget(addLabel(1, QStringLiteral("IR graduation:"), *frequency), 1, 0);
+        QRadioButton *frequency = addButton(3, u"&Frequency"_s);
+        choices->addWidget(addLabel(1, u"IR graduation:"_s, *frequency), 1, 0);
         choices->addWidget(frequency, 1, 1);
-        choices->addWidget(addButton(2, QStringLiteral("&Wavelength")), 1, 2);
+        choices->addWidget(addButton(2, u"&Wavelength"_s), 1, 2);
         m_rows->addLayout(choices);
     }
 
     void buildParameters()
     {
         m_rows->addSpacing(GroupSpacing);
-        addHeading(13, QStringLiteral("Parameters"));
+        addHeading(13, u"Parameters"_s);
         auto *module = new QHBoxLayout;
         m_controls.Check10 =
-            Controls::named(new QCheckBox(QStringLiteral(" Selected module o&n startup:"), &m_frame),
-                            QStringLiteral("Check10"));
-        m_controls.Combo3 = Controls::named(new QComboBox(&m_frame), QStringLiteral("Combo3"));
-        m_controls.Combo3->setAccessibleName(QStringLiteral("Selected module on startup:"));
+            Controls::named(new QCheckBox(u" Selected module o&n startup:"_s, &m_frame), u"Check10"_s);
+        m_controls.Combo3 = Controls::named(new QComboBox(&m_frame), u"Combo3"_s);
+        m_controls.Combo3->setAccessibleName(u"Selected module on startup:"_s);
         m_controls.Combo3->setEnabled(false);
         module->addWidget(m_controls.Check10);
         module->addWidget(m_controls.Combo3);
@@ -72,7 +73,7 @@ public:
         m_rows->addWidget(addBox({7, " M&inimize the application in the SysTray"}));
         auto *balloon = new QHBoxLayout;
         balloon->addSpacing(Indent);
-        // The click rule speaks only when a box changes.
+        // The click rules run only when a box changes.
         QCheckBox *tip = addBox({8, " &Activate the SysTray ballon tip"});
         tip->setEnabled(false);
         balloon->addWidget(tip);
@@ -95,7 +96,7 @@ private:
 
     QCheckBox *addBox(const Box &box)
     {
-        return &m_controls.Check1.add(box.index, new QCheckBox(QLatin1StringView(box.caption), &m_frame));
+        return &m_controls.Check1.add(box.index, new QCheckBox(box.caption, &m_frame));
     }
 
     QRadioButton *addButton(int index, const QString &text)
@@ -112,7 +113,7 @@ private:
 
 QWidget *makeGeneralTab(OptionControls &controls, QWidget *parent)
 {
-    auto *frmgen = Controls::named(new QWidget(parent), QStringLiteral("frmgen"));
+    auto *frmgen = Controls::named(new QWidget(parent), u"frmgen"_s);
     Builder builder(controls, *frmgen);
     builder.buildDisplay();
     builder.buildParameters();

@@ -3,5 +3,5 @@
 struct OptionControls;
 class QWidget;
 
-/// `frmgen`: what the program shows and how it starts. Adds its controls to @p controls.
+/// `frmgen`: settings of display and start. Adds its controls to @p controls.
 QWidget *makeGeneralTab(OptionControls &controls, QWidget *parent);

@@ -17,7 +17,7 @@ struct SlotControl
     int index = 0; ///< in its array; of a pair, the button for 1
 };
 
-// In the order of the load: a box that changes runs its click rule, which looks at others.
+// The order matters: a changed box runs its click rule, which reads other boxes.
 constexpr std::array SlotControls{
     SlotControl{Slot::GridLines, Control::Check1, 6},
     SlotControl{Slot::MenuStyle, Control::Combo2},
@@ -41,7 +41,7 @@ constexpr std::array SlotControls{
     SlotControl{Slot::ReportColours, Control::Option1, 1},
 };
 
-// What a control can show is never negative.
+// -1 is a number that no control can show.
 double shownNumber(const Value &value)
 {
     return value.isText() ? -1 : value.toNumber();

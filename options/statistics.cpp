@@ -10,7 +10,7 @@ namespace {
 using Statistics::Count;
 using Statistics::Page;
 
-// Rows read by a load step, with what is not counted as one of them left out.
+// Rows read by a load step, less the rows that do not count.
 template<int Step, int LessBy = 0>
 int rows(const DataStore &store, const Module1 &)
 {
@@ -61,7 +61,7 @@ constexpr std::array Biochemistry{
     Count{31, "Fatty acids:", 30, rows<17>},
 };
 
-// The tables of shifts end with overviews, four for protons and one for carbon: no groups.
+// The tables of shifts end with overviews, which are not groups: four for protons, one for carbon.
 constexpr std::array Spectroscopy{
     Count{48, "Proton NMR (groups):", 47, rows<19, 4>},
     Count{49, "Carbon NMR (groups):", 50, rows<20, 1>},

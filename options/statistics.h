@@ -5,7 +5,7 @@
 struct DataStore;
 struct Module1;
 
-/// What the load at start counted, page by page, as the statistics show it.
+/// The counts of the load at start, by page of the statistics.
 namespace Statistics {
 
 struct Count

@@ -8,16 +8,18 @@
 #include <QGridLayout>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Logical pixels.
 constexpr int GroupSpacing = 18;
-constexpr int CaptionWidth = 190; // the same on every page, so that the numbers stay where they are
+constexpr int CaptionWidth = 190; // the same on all pages, so the numbers do not move
 constexpr int ValueWidth = 130;
 
 QString labelName(int number)
 {
-    return QStringLiteral("Label%1").arg(number);
+    return u"Label%1"_s.arg(number);
 }
 
 QLabel *addValue(QGridLayout &grid, int row, QLabel *caption, const QString &name)
@@ -44,25 +46,24 @@ QGridLayout *makeGrid()
 StatisticsTab::StatisticsTab(const DataStore &store, const Module1 &module, QWidget *parent)
     : QWidget(parent), m_module(module)
 {
-    setObjectName(QStringLiteral("frmstat"));
+    setObjectName(u"frmstat"_s);
     auto *rows = new QVBoxLayout(this);
-    rows->addWidget(Controls::heading(QStringLiteral("Label1(4)"), QStringLiteral("Space occupation"), this));
+    rows->addWidget(Controls::heading(u"Label1(4)"_s, u"Space occupation"_s, this));
     QGridLayout *space = makeGrid();
     const auto addSpace = [&](int index, const QString &text, const char *valueName) {
         QLabel *caption = &Label7.add(index, Controls::label({}, text, this));
-        return addValue(*space, index, caption, QLatin1StringView(valueName));
+        return addValue(*space, index, caption, valueName);
     };
-    Label27 = addSpace(0, QStringLiteral("Alembra folder:"), "Label27");
-    Label28 = addSpace(1, QStringLiteral("Application file:"), "Label28");
-    Label29 = addSpace(2, QStringLiteral("Data folder:"), "Label29");
-    Label26 = addSpace(3, QStringLiteral("Database file:"), "Label26");
+    Label27 = addSpace(0, u"Alembra folder:"_s, "Label27");
+    Label28 = addSpace(1, u"Application file:"_s, "Label28");
+    Label29 = addSpace(2, u"Data folder:"_s, "Label29");
+    Label26 = addSpace(3, u"Database file:"_s, "Label26");
     rows->addLayout(space);
 
     rows->addSpacing(GroupSpacing);
     auto *chooser = new QHBoxLayout;
-    QLabel *heading =
-        Controls::heading(QStringLiteral("Label1(11)"), QStringLiteral("Database con&tents"), this);
-    Combo1 = Controls::named(new QComboBox(this), QStringLiteral("Combo1"));
+    QLabel *heading = Controls::heading(u"Label1(11)"_s, u"Database con&tents"_s, this);
+    Combo1 = Controls::named(new QComboBox(this), u"Combo1"_s);
     heading->setBuddy(Combo1);
     chooser->addWidget(heading);
     chooser->addSpacing(GroupSpacing / 2);
@@ -74,7 +75,7 @@ StatisticsTab::StatisticsTab(const DataStore &store, const Module1 &module, QWid
     rows->addStretch();
 }
 
-// All pages lie in the same cells; what is hidden takes no room.
+// All pages share the same cells; hidden ones take no room.
 QLayout *StatisticsTab::buildCounts(const DataStore &store)
 {
     QGridLayout *grid = makeGrid();
@@ -82,14 +83,13 @@ QLayout *StatisticsTab::buildCounts(const DataStore &store)
         QList<QLabel *> labels;
         for (const Statistics::Count &count : page.counts) {
             const int row = int(labels.size()) / 2;
-            QLabel *caption =
-                Controls::label(labelName(count.captionLabel), QLatin1StringView(count.caption), this);
+            QLabel *caption = Controls::label(labelName(count.captionLabel), count.caption, this);
             QLabel *value = addValue(*grid, row, caption, labelName(count.valueLabel));
             value->setText(QString::number(count.value(store, m_module)));
             labels << caption << value;
         }
         m_pages << labels;
-        Combo1->addItem(QLatin1StringView(page.name));
+        Combo1->addItem(page.name);
     }
     connect(Combo1, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPage);
     Combo1->setCurrentIndex(0);
@@ -108,7 +108,7 @@ void StatisticsTab::showPage(int shown)
 void StatisticsTab::load()
 {
     using namespace FileFigures;
-    // What the program takes is in both folders, where there are two.
+    // The program may use two folders.
     QStringList folders{m_module.AppFolder};
     if (!m_module.ShippedFolder.isEmpty())
         folders << m_module.ShippedFolder;
@@ -116,10 +116,10 @@ void StatisticsTab::load()
     qint64 dataSize = 0;
     for (const QString &folder : std::as_const(folders)) {
         size += folderSize(folder);
-        dataSize += folderSize(folder + QStringLiteral("/Data"));
+        dataSize += folderSize(folder + u"/Data"_s);
     }
     Label27->setText(megabytes(size));
-    Label28->setText(kilobytes(fileLength(m_module.shippedFile(QStringLiteral("Alembra_uk")))));
+    Label28->setText(kilobytes(fileLength(m_module.shippedFile(u"Alembra_uk"_s))));
     Label29->setText(megabytes(dataSize));
-    Label26->setText(kilobytes(fileLength(m_module.AppFolder + QStringLiteral("/Data/Database_uk.mdb"))));
+    Label26->setText(kilobytes(fileLength(m_module.AppFolder + u"/Data/Database_uk.mdb"_s)));
 }

@@ -10,8 +10,7 @@ class QLabel;
 struct DataStore;
 struct Module1;
 
-/// `frmstat`: how much room the program takes and how many records of each kind were loaded, a page for each
-/// module.
+/// `frmstat`: disk space of the program, and the number of records loaded, a page for each module.
 class StatisticsTab final : public QWidget
 {
     Q_OBJECT
@@ -19,7 +18,7 @@ class StatisticsTab final : public QWidget
 public:
     StatisticsTab(const DataStore &store, const Module1 &module, QWidget *parent);
 
-    /// Measures folders and files. RuntimeError 53 or 76 if one is not there.
+    /// Shows the sizes of folders and files. RuntimeError 53 or 76 if one does not exist.
     void load();
 
 private:

@@ -33,10 +33,7 @@ bool SaveDialog::mayReplace(int questionStyle)
     // Compared as whole numbers: a file without the archive bit counts as in use.
     switch (attributes) {
     case FileAttributes::ReadOnly + FileAttributes::Archive:
-        m_desktop.messageBox("Impossible to save '" + m_fileName +
-                                 "'. The file already exists and has a read-only attribute. Save it with a "
-                                 "different name or in different folder.",
-                             Desktop::Warning);
+        m_desktop.messageBox(readOnlyMessage(m_fileName), Desktop::Warning);
         return false;
     case 0:
     case FileAttributes::ReadOnly:
@@ -48,4 +45,11 @@ bool SaveDialog::mayReplace(int questionStyle)
     default:
         return true;
     }
+}
+
+QString SaveDialog::readOnlyMessage(const QString &path)
+{
+    return "Impossible to save '" + path +
+           "'. The file already exists and has a read-only attribute. Save it with a different name or in "
+           "different folder.";
 }

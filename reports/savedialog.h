@@ -7,8 +7,8 @@
 
 struct Module1;
 
-/// A kind of file in the save dialog. A name that ends with the suffix of one of the globs is kept; any other
-/// gets the suffix of the first. Suffixes are case-sensitive.
+/// A file type of the save dialog. A name without the suffix of one of the globs gets that of the first.
+/// Suffixes are case-sensitive.
 struct SavedKind
 {
     QString name;      ///< "Page Web"
@@ -27,16 +27,18 @@ public:
         : m_kind(std::move(kind)), m_module(module), m_desktop(desktop)
     {}
 
-    /// Repeats the dialog until the chosen file can be written: it does not exist, it is empty, or the user
-    /// agrees to replace it and it is neither read-only nor in use. FileName() is its path then. RuntimeError
-    /// 32755 if the user cancels.
+    /// Repeats the dialog until the chosen file does not exist, is empty, or the user agrees to replace it
+    /// and it is neither read-only nor in use. Then FileName() is its path. RuntimeError 32755 if the user
+    /// cancels.
     ///
-    /// The dialog offers the name that @p offeredName returns, or the last chosen name if it returns none.
+    /// The dialog offers the name from @p offeredName or, if there is none, the last chosen name.
     void choose(const std::function<std::optional<QString>()> &offeredName,
                 int questionStyle = QuestionStyle);
 
-    /// The name that was last chosen or offered.
+    /// The name last chosen or offered.
     const QString &FileName() const { return m_fileName; }
+
+    static QString readOnlyMessage(const QString &path);
 
 private:
     QString withSuffix(const QString &path) const;
