@@ -36,8 +36,8 @@ ColourMnemonic::ColourMnemonic(QWidget *parent) : QWidget(parent)
 {
     QStringList words;
     for (const Line &line : Lines)
-        words << QLatin1StringView(line.word);
-    setAccessibleName(words.join(QLatin1Char(' ')));
+        words << line.word;
+    setAccessibleName(words.join(u' '));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -69,9 +69,9 @@ void ColourMnemonic::paintLine(QPainter &painter, int digit) const
     };
     painter.setPen(palette().color(QPalette::Text));
     write(DigitLeft, QString(QChar(u'0' + digit)), true);
-    write(WordLeft, QLatin1StringView(line.word), true);
-    write(ColourNameLeft, QLatin1StringView(line.colourName), false);
-    // Black is told from a dark desktop, and white from a light one, by the outline alone.
+    write(WordLeft, line.word, true);
+    write(ColourNameLeft, line.colourName, false);
+    // The outline makes black visible on a dark desktop and white on a light one.
     QColor outline = palette().color(QPalette::Text);
     outline.setAlphaF(0.5F);
     painter.setPen(outline);

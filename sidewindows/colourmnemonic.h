@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A picture: the ten colours of the digits 0 to 9 on resistors (IEC 60062), each with a word that begins
-/// with the letter of the colour. The words make up a sentence.
+/// A picture: the colours of the digits 0 to 9 on resistors (IEC 60062), each with a word that has the same
+/// initial. The words make a sentence.
 class ColourMnemonic final : public QWidget
 {
     Q_OBJECT

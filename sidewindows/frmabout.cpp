@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize PictureSize{88, 88};
 constexpr int TextWidth = 330;
 
 } // namespace
@@ -25,7 +24,7 @@ frmAbout::frmAbout(Desktop &desktop, QWidget &form1) : SideWindow("frmAbout", fo
 {
     setWindowTitle(u"About "_s + VersionRecord::ApplicationTitle);
     auto *picture = Controls::label(u"Image1"_s, {}, this);
-    picture->setPixmap(Icons::program().pixmap(PictureSize, devicePixelRatio()));
+    picture->setPixmap(Icons::program().pixmap(QSize(88, 88), devicePixelRatio()));
     auto *grid = new QGridLayout(this);
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(20, 20, 20, 16);
@@ -48,7 +47,7 @@ QLayout *frmAbout::buildTexts()
     auto *column = new QVBoxLayout;
     column->setSpacing(8);
     const auto addText = [&](const char *name, const QString &text) {
-        QLabel *label = Controls::label(QLatin1StringView(name), text, this);
+        QLabel *label = Controls::label(name, text, this);
         label->setWordWrap(true);
         label->setFixedSize(TextWidth, label->heightForWidth(TextWidth));
         column->addWidget(label);
@@ -65,8 +64,8 @@ QLayout *frmAbout::buildTexts()
 
 QLayout *frmAbout::buildAddresses()
 {
-    const QString webSite = QLatin1StringView(BuildSettings::WebSite);
-    auto *Label1 = Controls::named(new LinkLabel(webSite, webSite, this), u"Label1"_s);
+    using BuildSettings::WebSite;
+    auto *Label1 = Controls::named(new LinkLabel(WebSite, WebSite, this), u"Label1"_s);
     QLabel *Label2 = Controls::label(u"Label2"_s, VersionRecord::contactAddress(), this);
     Label2->setTextInteractionFlags(Qt::TextSelectableByMouse);
     connect(Label1, &LinkLabel::clicked, this,
@@ -98,14 +97,14 @@ QLayout *frmAbout::buildButtons()
 
 void frmAbout::StartSysInfo()
 {
-    // Where a registry names a program for this, it is started; there is none here, so the last step is left.
+    // This desktop has no program for system information.
     m_desktop.messageBox(u"Les informations système ne sont pas disponibles actuellement"_s, 0);
 }
 
 void openAbout(Desktop &desktop, QWidget &form1)
 {
     auto *about = form1.findChild<frmAbout *>();
-    if (!about || about->isHidden()) // a hidden one has closed and is about to be destroyed
+    if (!about || about->isHidden()) // a hidden one is about to be destroyed
         about = new frmAbout(desktop, form1);
     about->showAboveOwner();
 }

@@ -4,7 +4,7 @@
 
 class Desktop;
 
-/// What the program is, who answers for it and where to find more.
+/// Version, licence and contact.
 class frmAbout final : public SideWindow
 {
     Q_OBJECT
@@ -21,5 +21,5 @@ private:
     Desktop &m_desktop;
 };
 
-/// One at a time: a second call raises the open window.
+/// Opens the About window or raises the open one.
 void openAbout(Desktop &desktop, QWidget &form1);

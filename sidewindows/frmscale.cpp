@@ -7,6 +7,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int TextWidth = 340;
@@ -16,19 +18,18 @@ constexpr int Step = 5;
 
 frmScale::frmScale(const Scale &scale, QWidget &form1) : SideWindow("frmScale", form1), m_scale(scale)
 {
-    setWindowTitle(QStringLiteral("Size"));
-    spnScale = Controls::named(new QSpinBox(this), QStringLiteral("spnScale"));
+    setWindowTitle(u"Size"_s);
+    spnScale = Controls::named(new QSpinBox(this), u"spnScale"_s);
     spnScale->setRange(Scale::Least, Scale::Most);
     spnScale->setSingleStep(Step);
-    spnScale->setSuffix(QStringLiteral(" %"));
-    QLabel *caption =
-        Controls::label(QStringLiteral("lblScale"), QStringLiteral("&Size of all windows:"), this);
+    spnScale->setSuffix(u" %"_s);
+    QLabel *caption = Controls::label(u"lblScale"_s, u"&Size of all windows:"_s, this);
     caption->setBuddy(spnScale);
-    QLabel *note = Controls::label(
-        QStringLiteral("lblNote"),
-        QStringLiteral("The program takes another size when it starts. It comes back to the same pane, tab "
-                       "and row, with the numbers that you have typed."),
-        this);
+    QLabel *note =
+        Controls::label(u"lblNote"_s,
+                        u"The program takes another size when it starts. It comes back to the same pane, tab "
+                        "and row, with the numbers that you have typed."_s,
+                        this);
     note->setWordWrap(true);
     note->setFixedSize(TextWidth, note->heightForWidth(TextWidth));
 
@@ -49,23 +50,22 @@ frmScale::frmScale(const Scale &scale, QWidget &form1) : SideWindow("frmScale", 
 
 QLayout *frmScale::buildButtons()
 {
-    const auto make = [this](const QString &caption, const QString &name) {
-        return Controls::named(new QPushButton(caption, this), name);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    const auto add = [&](const QString &caption, const QString &name) {
+        auto *button = Controls::named(new QPushButton(caption, this), name);
+        button->setAutoDefault(false);
+        row->addWidget(button);
+        return button;
     };
-    cmdStartAgain = make(QStringLiteral("Start again &now"), QStringLiteral("cmdStartAgain"));
+    cmdStartAgain = add(u"Start again &now"_s, u"cmdStartAgain"_s);
     cmdStartAgain->setDefault(true);
     cmdStartAgain->setEnabled(false);
-    auto *cmdLater = make(QStringLiteral("&Later"), QStringLiteral("cmdLater"));
-    auto *cmdCancel = make(QStringLiteral("&Cancel"), QStringLiteral("cmdCancel"));
-    cmdLater->setAutoDefault(false);
-    cmdCancel->setAutoDefault(false);
+    auto *cmdLater = add(u"&Later"_s, u"cmdLater"_s);
+    auto *cmdCancel = add(u"&Cancel"_s, u"cmdCancel"_s);
     connect(cmdStartAgain, &QPushButton::clicked, this, [this] { choose(true); });
     connect(cmdLater, &QPushButton::clicked, this, [this] { choose(false); });
     connect(cmdCancel, &QPushButton::clicked, this, &QWidget::close);
-    auto *row = new QHBoxLayout;
-    row->addStretch();
-    for (QPushButton *button : {cmdStartAgain, cmdLater, cmdCancel})
-        row->addWidget(button);
     return row;
 }
 
@@ -77,7 +77,7 @@ int frmScale::percent() const
 void frmScale::setPercent(int percent)
 {
     spnScale->setValue(percent);
-    spnScale->selectAll(); // a typed number takes its place
+    spnScale->selectAll(); // typing replaces it
 }
 
 void frmScale::choose(bool now)

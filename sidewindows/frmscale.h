@@ -6,7 +6,7 @@
 class QPushButton;
 class QSpinBox;
 
-/// Asks for another size of the program: at once, by a new start, or with the next one.
+/// Asks for another scale, to be used after a restart now or from the next start on.
 class frmScale final : public SideWindow
 {
     Q_OBJECT
@@ -14,12 +14,12 @@ class frmScale final : public SideWindow
 public:
     frmScale(const Scale &scale, QWidget &form1);
 
-    /// The size that is asked for, in per cent.
+    /// The scale in the field, in per cent.
     int percent() const;
     void setPercent(int percent);
 
 Q_SIGNALS:
-    /// One was chosen, to be taken @p now or with the next start; the window is about to close.
+    /// The user chose a scale, to be used @p now or from the next start on. The window closes next.
     void chosen(int percent, bool now);
 
 private:

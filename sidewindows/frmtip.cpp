@@ -12,42 +12,41 @@
 #include <QRandomGenerator>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize TipSize{430, 132};
-
-constexpr QLatin1StringView TipFile("TIPOFDAY_UK.TXT");
+constexpr const char *TipFile = "TIPOFDAY_UK.TXT";
 
 } // namespace
 
 frmTip::frmTip(Module1 &module1, Desktop &desktop, std::function<void(bool)> setCheck1, QWidget &form1)
     : SideWindow("frmTip", form1), m_module1(module1), m_desktop(desktop), m_setCheck1(std::move(setCheck1))
 {
-    setWindowTitle(QStringLiteral("Tip of the day"));
+    setWindowTitle(u"Tip of the day"_s);
     buildWindow();
     connect(chkLoadTipsAtStartup, &QCheckBox::toggled, this, &frmTip::storeWish);
     chkLoadTipsAtStartup->setChecked(true);
     if (!LoadTips(module1.shippedFile(TipFile))) {
-        lblTipText->setText(QStringLiteral("That the %1 file was not found? \n\n"
-                                           "Create a text file named %1 using NotePad with 1 tip per line. "
-                                           "Then place it in the same directory as the application. ")
-                                .arg(TipFile));
+        lblTipText->setText(u"That the %1 file was not found? \n\n"
+                            "Create a text file named %1 using NotePad with 1 tip per line. "
+                            "Then place it in the same directory as the application. "_s.arg(TipFile));
     }
 }
 
 void frmTip::buildWindow()
 {
-    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
-    picture->setPixmap(Icons::named(QStringLiteral("tip")).pixmap(QSize(32, 32), devicePixelRatio()));
-    QLabel *question =
-        Controls::heading(QStringLiteral("Label1"), QStringLiteral("Do you know that..."), this);
+    auto *picture = Controls::label(u"Image1"_s, {}, this);
+    picture->setPixmap(Icons::named(u"tip"_s).pixmap(QSize(32, 32), devicePixelRatio()));
+    QLabel *question = Controls::heading(u"Label1"_s, u"Do you know that..."_s, this);
     auto *head = new QHBoxLayout;
     head->setSpacing(10);
     head->addWidget(picture);
     head->addWidget(question, 1);
 
-    // What stands here when the tip file is empty.
-    lblTipText = Controls::label(QStringLiteral("lblTipText"), QStringLiteral("There is no tip."), this);
+    // The text if the tip file is empty.
+    lblTipText = Controls::label(u"lblTipText"_s, u"There is no tip."_s, this);
     lblTipText->setWordWrap(true);
     lblTipText->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblTipText->setMinimumSize(TipSize);
@@ -67,11 +66,10 @@ void frmTip::buildWindow()
 
 QLayout *frmTip::buildButtons()
 {
-    chkLoadTipsAtStartup = Controls::named(new QCheckBox(QStringLiteral("&Display tips when starting"), this),
-                                           QStringLiteral("chkLoadTipsAtStartup"));
-    auto *cmdNextTip =
-        Controls::named(new QPushButton(QStringLiteral("&Next tip"), this), QStringLiteral("cmdNextTip"));
-    QPushButton *cmdOK = makeOkButton(QStringLiteral("cmdOK"));
+    chkLoadTipsAtStartup =
+        Controls::named(new QCheckBox(u"&Display tips when starting"_s, this), u"chkLoadTipsAtStartup"_s);
+    auto *cmdNextTip = Controls::named(new QPushButton(u"&Next tip"_s, this), u"cmdNextTip"_s);
+    QPushButton *cmdOK = makeOkButton(u"cmdOK"_s);
     cmdNextTip->setAutoDefault(false);
     cmdOK->setFocus();
     connect(cmdNextTip, &QPushButton::clicked, this, &frmTip::nextTip);

@@ -21,7 +21,7 @@ QByteArray contentOf(const QString &file)
     return resource.open(QIODevice::ReadOnly) ? resource.readAll() : QByteArray();
 }
 
-// Contents and index of the help compiler: lists of objects, one inside another.
+// Contents and index of the help compiler are nested lists of objects.
 QList<HelpBook::Topic> topics(const QString &file)
 {
     static const QRegularExpression Part(

@@ -4,14 +4,14 @@
 #include <QString>
 #include <QUrl>
 
-/// The pages of the help file, a second time inside the program.
+/// The pages of the help file, as resources of the program.
 namespace HelpBook {
 
 struct Topic
 {
     QString title;
     QString page;  ///< file name, "elements.html"
-    int level = 0; ///< depth in the contents, 0 outside
+    int level = 0; ///< depth in the contents, from 0
 };
 
 QUrl address(const QString &page);
@@ -22,7 +22,7 @@ QList<Topic> contents();
 /// The keywords, in alphabetical order.
 QList<Topic> index();
 
-/// The pages that hold every one of @p words, in the order of the book. Parts of words count, case does not.
+/// The pages with all of @p words, in the order of the book. Parts of words count, case does not.
 QList<Topic> search(const QString &words);
 
 } // namespace HelpBook

@@ -26,8 +26,7 @@ constexpr QSize WindowSize(980, 680); // logical pixels
 constexpr int LeftWidth = 290;
 constexpr int Page = Qt::UserRole; ///< of an item: its page
 
-/// Shows the pages in the colours of the desktop. Their own style sheet is made for viewers of the help file,
-/// which have paper.
+/// Shows the pages in the colours of the desktop: their own style sheet assumes a white page.
 class Browser final : public QTextBrowser
 {
 public:
@@ -49,7 +48,7 @@ void showTopics(QListWidget &list, const QList<HelpBook::Topic> &topics)
         (new QListWidgetItem(topic.title, &list))->setData(Page, topic.page);
 }
 
-/// A column of a field and what it finds.
+/// A field above the list of what it finds.
 QWidget *column(QWidget *field, QWidget *found)
 {
     auto *page = new QWidget;
@@ -176,7 +175,7 @@ QWidget *HelpPages::buildPage()
     m_page->setAccessibleName(u"Page of the help"_s);
     auto *buttons = new QHBoxLayout;
     const auto addButton = [&](const QString &name, const QString &caption, const QString &icon,
-                               QKeySequence::StandardKey key) {
+                               QKeySequence::StandardKey key, auto turn, auto available) {
         auto *button = Controls::named(new QToolButton, name);
         button->setText(caption);
         button->setIcon(Icons::named(icon));
@@ -186,15 +185,14 @@ QWidget *HelpPages::buildPage()
         button->setShortcut(key);
         button->setEnabled(false);
         buttons->addWidget(button);
-        return button;
+        connect(button, &QToolButton::clicked, m_page, turn);
+        connect(m_page, available, button, &QWidget::setEnabled);
     };
-    auto *back = addButton(u"cmdHelpBack"_s, u"Back"_s, u"arrow-left"_s, QKeySequence::Back);
-    auto *forward = addButton(u"cmdHelpForward"_s, u"Forward"_s, u"arrow-right"_s, QKeySequence::Forward);
+    addButton(u"cmdHelpBack"_s, u"Back"_s, u"arrow-left"_s, QKeySequence::Back, &QTextBrowser::backward,
+              &QTextBrowser::backwardAvailable);
+    addButton(u"cmdHelpForward"_s, u"Forward"_s, u"arrow-right"_s, QKeySequence::Forward,
+              &QTextBrowser::forward, &QTextBrowser::forwardAvailable);
     buttons->addStretch();
-    connect(back, &QToolButton::clicked, m_page, &QTextBrowser::backward);
-    connect(forward, &QToolButton::clicked, m_page, &QTextBrowser::forward);
-    connect(m_page, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
-    connect(m_page, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
     rows->addLayout(buttons);
     rows->addWidget(m_page);
     return panel;
@@ -205,7 +203,7 @@ void HelpPages::open(const QString &page)
     m_page->setSource(HelpBook::address(page));
 }
 
-// Whatever led to the page, the contents tell where it is.
+// The contents show the current page, however it was reached.
 void HelpPages::markInContents()
 {
     const QString page = m_page->source().fileName();

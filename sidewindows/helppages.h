@@ -9,8 +9,7 @@ class QTreeWidget;
 
 /// `frmHelpPages`: the pages of the help, with contents, index and search.
 ///
-/// Unlike the other small windows it stays beside the main window, which goes on working. It is deleted when
-/// it is closed.
+/// Unlike the other small windows it does not disable the main window. Deleted when closed.
 class HelpPages final : public QWidget
 {
     Q_OBJECT

@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 LegendColumn::LegendColumn(const QString &text, QWidget *parent) : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
@@ -11,7 +13,7 @@ LegendColumn::LegendColumn(const QString &text, QWidget *parent) : QLabel(text, 
 
 QStringList LegendColumn::entries() const
 {
-    static const QRegularExpression Gap(QStringLiteral(" {2,}"));
+    static const QRegularExpression Gap(u" {2,}"_s);
     return text().split(Gap, Qt::SkipEmptyParts);
 }
 

@@ -2,9 +2,8 @@
 
 #include <QLabel>
 
-/// A legend whose entries stand in one text, two or more blanks apart, drawn one below the other.
-///
-/// The text of the label is the whole legend. Two columns with the same number of entries stand line by line.
+/// A legend in one text: its entries, separated by two or more blanks, are drawn one per line. Columns with
+/// the same number of entries align line by line.
 class LegendColumn final : public QLabel
 {
     Q_OBJECT

@@ -45,7 +45,7 @@ private:
     QVBoxLayout *const m_column;
 };
 
-/// A framed area in the colour of texts to read, for a table of signs.
+/// A framed area for a table of signs.
 QFrame *framedPanel(QWidget *parent)
 {
     auto *panel = new QFrame(parent);
@@ -64,7 +64,7 @@ struct Sample
     const char *meaning;
 };
 
-// The values of potassium, as the element panel shows them, from the element's name down.
+// The values of potassium as in the element panel, from top to bottom.
 constexpr std::array Samples{
     Sample{"K", "symbol"},
     Sample{"Potassium", "name"},
@@ -83,16 +83,10 @@ constexpr std::array Samples{
     Sample{"Body-centered cubic", "crystal structure"},
 };
 
-constexpr QLatin1StringView TimeUnits("= second     = minute       = hour          = day             = year");
-constexpr QLatin1StringView
-    DecayModes("= alpha particle               = negative electron           = positron                  "
-               "     = electron capture          = isomeric transition       = spontaneous fission");
-
-QFont bold(QFont font)
-{
-    font.setBold(true);
-    return font;
-}
+constexpr const char *TimeUnits = "= second     = minute       = hour          = day             = year";
+constexpr const char *DecayModes =
+    "= alpha particle               = negative electron           = positron                  "
+    "     = electron capture          = isomeric transition       = spontaneous fission";
 
 /// Title of a group of signs.
 QLabel *italic(const QString &text, QWidget *parent)
@@ -120,7 +114,7 @@ QWidget *makeValues(QWidget *parent)
         ++row;
     };
     for (const Sample &sample : Samples)
-        addLine(QString::fromUtf8(sample.value), QString::fromUtf8(sample.meaning));
+        addLine(sample.value, sample.meaning);
     grid->addWidget(italic(u"Melting and boiling point"_s, panel), row++, 0, 1, 2);
     addLine(u"sp"_s, u"= sublimation point"_s);
     addLine(u"tp"_s, u"= triple point"_s);
@@ -133,13 +127,16 @@ void addSigns(QGridLayout &grid, const QString &heading, const QString &signs, c
     QWidget *panel = grid.parentWidget();
     const int row = grid.rowCount();
     grid.addWidget(italic(heading, panel), row, 0, 1, 2);
-    if (!signs.isEmpty()) {
-        auto *column = new LegendColumn(signs, panel);
-        column->setFont(bold(column->font()));
-        grid.addWidget(column, row + 1, 0);
+    if (signs.isEmpty()) {
+        grid.addWidget(new LegendColumn(meanings, panel), row + 1, 0, 1, 2);
+        return;
     }
-    grid.addWidget(new LegendColumn(meanings, panel), row + 1, signs.isEmpty() ? 0 : 1, 1,
-                   signs.isEmpty() ? 2 : 1);
+    auto *column = new LegendColumn(signs, panel);
+    QFont bold = column->font();
+    bold.setBold(true);
+    column->setFont(bold);
+    grid.addWidget(column, row + 1, 0);
+    grid.addWidget(new LegendColumn(meanings, panel), row + 1, 1);
 }
 
 QWidget *makeIsotopes(QWidget *parent)
@@ -183,7 +180,7 @@ private:
     {
         QLabel *example = Controls::label(
             u"Label2"_s, u"J. Org. Chem 1989, 54, 4436 = JOC-89-4436 or JOC-(54)-4436"_s, this);
-        example->setMargin(1); // the J of some fonts begins left of its place
+        example->setMargin(1); // the J of some fonts extends to the left
         auto *row = new QHBoxLayout;
         row->setSpacing(4);
         row->addWidget(Controls::heading(u"Label3(0)"_s, u"Code : "_s, this));
@@ -198,7 +195,7 @@ private:
         constexpr int ScrollBarWidth = 24;
         constexpr int ListHeight = 290;
         auto *area = new QWidget(this);
-        area->setFont(ModulePanel::fittingFont(font())); // fixed in size like the panes
+        area->setFont(ModulePanel::fittingFont(font())); // fixed size, like the panes
         auto *ListView100 =
             new RowListView(u"ListView100"_s, m_journals,
                             {{u"Abbrev."_s, AbbreviationWidth}, {u"Journal"_s, JournalWidth}}, area);
@@ -240,7 +237,7 @@ void paint(QWidget &widget, QPalette::ColorRole role, const QColor &colour)
     widget.setPalette(palette);
 }
 
-/// As in the charts: the light colours are hard to tell from the text alone, a bar shows them.
+/// A bar as in the charts: light colours are hard to distinguish in text.
 QWidget *bar(QRgb colour, QWidget *parent)
 {
     auto *bar = new QWidget(parent);
@@ -250,7 +247,7 @@ QWidget *bar(QRgb colour, QWidget *parent)
     return bar;
 }
 
-/// White on a dark desktop too, like the charts: the colours are made for it.
+/// White even on a dark desktop, like the charts: the colours need it.
 QFrame *makeBonds(QWidget *parent)
 {
     auto *sheet = new QFrame(parent);
@@ -263,8 +260,7 @@ QFrame *makeBonds(QWidget *parent)
     grid->setVerticalSpacing(8);
     int row = 0;
     for (const Bond &bond : Bonds) {
-        QLabel *label = Controls::heading(Controls::indexedName("Label2", bond.index),
-                                          QLatin1StringView(bond.partner), sheet);
+        QLabel *label = Controls::heading(Controls::indexedName("Label2", bond.index), bond.partner, sheet);
         paint(*label, QPalette::WindowText, bond.colour);
         grid->addWidget(bar(bond.colour, sheet), row, 0);
         grid->addWidget(label, row, 1);
@@ -306,8 +302,7 @@ void openColourCode(QWidget &form1)
 
 void openMnemonic(QWidget &form1)
 {
-    auto *legend =
-        new Legend("Formhelp4", u"Form3"_s, form1); // its design caption, which nobody ever changed
+    auto *legend = new Legend("Formhelp4", u"Form3"_s, form1); // this caption is intended
     legend->add(Controls::heading(u"Label3"_s, u"Mnemonic:"_s, legend));
     legend->add(Controls::named(new ColourMnemonic(legend), u"Image3"_s));
     legend->open();

@@ -2,21 +2,22 @@
 
 #include "core/codepage.h"
 #include "core/fileerrors.h"
+#include "core/numbers.h"
 #include "core/usersettings.h"
-#include "core/value.h"
+
+using namespace Qt::StringLiterals;
 
 std::optional<QStringList> Tips::read(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return std::nullopt;
     QString text = CodePage::decode(FileErrors::readWhole(path));
-    text.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n"));
-    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     if (text.isEmpty())
         return QStringList();
-    if (text.endsWith(QLatin1Char('\n')))
+    if (text.endsWith(u'\n'))
         text.chop(1);
-    return text.split(QLatin1Char('\n'));
+    return text.split(u'\n');
 }
 
 int Tips::next(int last, int count, const std::function<double()> &fraction)
@@ -30,7 +31,6 @@ int Tips::next(int last, int count, const std::function<double()> &fraction)
 
 bool Tips::isWanted()
 {
-    const QVariant setting =
-        userSettings().value(QStringLiteral("Options/Show Tips at Startup"), QStringLiteral("1"));
-    return !Value(Value(setting.toString()).toNumber()).equals(0);
+    const QVariant setting = userSettings().value(u"Options/Show Tips at Startup"_s, u"1"_s);
+    return Numbers::requireInvariant(setting.toString()) != 0;
 }
