@@ -10,16 +10,15 @@
 #include <QScopedValueRollback>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// The version file comes from outside: only what leads to a browser is opened, no file of this computer.
+/// The version file is not trusted: it may open a web page, but no file of this computer.
 bool isWebAddress(const QString &text)
 {
     const QUrl url(text, QUrl::StrictMode);
-    const QString scheme = url.scheme();
-    return (scheme == QLatin1StringView("http") || scheme == QLatin1StringView("https") ||
-            scheme == QLatin1StringView("ftp")) &&
-           !url.host().isEmpty();
+    return QStringList{u"http"_s, u"https"_s, u"ftp"_s}.contains(url.scheme()) && !url.host().isEmpty();
 }
 
 void remove(const QString &path)
@@ -34,14 +33,13 @@ void remove(const QString &path)
 } // namespace
 
 MiseAjour::MiseAjour(Desktop &desktop, UpdateNetwork &network, const QString &appFolder, QObject *parent)
-    : QObject(parent), m_desktop(desktop), m_network(network),
-      m_localCopy(appFolder + QStringLiteral("/Tempo.net"))
+    : QObject(parent), m_desktop(desktop), m_network(network), m_localCopy(appFolder + u"/Tempo.net"_s)
 {}
 
 void MiseAjour::set(QString &property, const QString &text, const char *name)
 {
     property = text;
-    Q_EMIT propertyChanged(QLatin1StringView(name));
+    Q_EMIT propertyChanged(name);
 }
 
 void MiseAjour::Verifier()
@@ -52,9 +50,9 @@ void MiseAjour::Verifier()
     try {
         check();
     } catch (const RuntimeError &) {
-        m_desktop.messageBox(QStringLiteral("Error during checking for updates. Please verify you are using "
-                                            "the most recent version of Alembra at ") +
-                                 QLatin1StringView(BuildSettings::WebSite),
+        m_desktop.messageBox(u"Error during checking for updates. Please verify you are using "
+                             "the most recent version of Alembra at "_s +
+                                 BuildSettings::WebSite,
                              Desktop::Warning);
     }
 }
@@ -62,29 +60,28 @@ void MiseAjour::Verifier()
 void MiseAjour::check()
 {
     if (!m_network.isConnected()) {
-        m_desktop.messageBox(QStringLiteral("Impossible to check for updates, please verify your internet "
-                                            "connexion."),
+        m_desktop.messageBox(u"Impossible to check for updates, please verify your internet "
+                             "connexion."_s,
                              Desktop::Warning);
         return;
     }
     m_network.download(m_adresse, m_localCopy);
-    const QString remoteVersion = ProfileFile::value(m_localCopy, m_logiciel, QStringLiteral("Version"));
-    const QString url = ProfileFile::value(m_localCopy, m_logiciel, QStringLiteral("URL"));
-    remove(m_localCopy); // where a failed download shows
+    const QString remoteVersion = ProfileFile::value(m_localCopy, m_logiciel, u"Version"_s);
+    const QString url = ProfileFile::value(m_localCopy, m_logiciel, u"URL"_s);
+    remove(m_localCopy); // fails if the download failed
     if (VersionNumber::isNewer(remoteVersion, m_version)) {
         offer(remoteVersion, url);
     } else {
-        m_desktop.messageBox(QStringLiteral("There is no updates for Alembra. Your version is up-to-date."),
+        m_desktop.messageBox(u"There is no updates for Alembra. Your version is up-to-date."_s,
                              Desktop::Information);
     }
 }
 
 void MiseAjour::offer(const QString &remoteVersion, const QString &url)
 {
-    const QString question = QStringLiteral("The version of Alembra you are using is %1\n\n"
-                                            "A more recent version is available, which is version %2\n\n"
-                                            "Would you like to download this new version?")
-                                 .arg(m_version, remoteVersion);
+    const QString question = u"The version of Alembra you are using is %1\n\n"
+                             "A more recent version is available, which is version %2\n\n"
+                             "Would you like to download this new version?"_s.arg(m_version, remoteVersion);
     if (m_desktop.messageBox(question, Desktop::Question + Desktop::YesNo) == Desktop::Yes &&
         isWebAddress(url))
         m_desktop.openTarget(url);

@@ -5,20 +5,19 @@
 class Desktop;
 class UpdateNetwork;
 
-/// The check for a new version, made on demand only. It has no look of its own.
+/// The check for a new version, on demand only.
 ///
-/// The version file at `Adresse` holds, in the section `Logiciel`, the newest version as "Version" and, as
-/// "URL", the page to open when the user wants it.
+/// The version file at `Adresse` has a section `Logiciel` with the newest "Version" and the "URL" of its
+/// page.
 class MiseAjour final : public QObject
 {
     Q_OBJECT
-    // In the order in which a host stores them; one that nobody stored is empty.
     Q_PROPERTY(QString Adresse READ Adresse WRITE setAdresse NOTIFY propertyChanged)
     Q_PROPERTY(QString Logiciel READ Logiciel WRITE setLogiciel NOTIFY propertyChanged)
     Q_PROPERTY(QString Version READ Version WRITE setVersion NOTIFY propertyChanged)
 
 public:
-    /// @p appFolder receives the local copy of the version file for as long as it is read.
+    /// @p appFolder is for a temporary copy of the version file.
     MiseAjour(Desktop &desktop, UpdateNetwork &network, const QString &appFolder, QObject *parent = nullptr);
 
     const QString &Adresse() const { return m_adresse; }
@@ -28,12 +27,12 @@ public:
     void setLogiciel(const QString &section) { set(m_logiciel, section, "Logiciel"); }
     void setVersion(const QString &version) { set(m_version, version, "Version"); }
 
-    /// Checks and tells the user the outcome, whatever it is. Returns when the last message is answered. A
-    /// second call while one is under way does nothing.
+    /// Checks and shows the outcome. Returns when the last message is answered. Does nothing while a check is
+    /// running.
     void Verifier();
 
 Q_SIGNALS:
-    /// Sent by every setter, with the name of its property.
+    /// From every setter, with the name of its property.
     void propertyChanged(const QString &name);
 
 private:

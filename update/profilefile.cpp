@@ -14,8 +14,8 @@ QStringList linesOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QString text = CodePage::decode(file.readAll());
-    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    text.replace(u'\r', u'\n');
+    return text.split(u'\n', Qt::SkipEmptyParts);
 }
 
 bool isSameName(QStringView left, QStringView right)
@@ -26,16 +26,16 @@ bool isSameName(QStringView left, QStringView right)
 /// The name in "[name]"; nothing for any other line.
 std::optional<QStringView> sectionOf(QStringView line)
 {
-    if (!line.startsWith(QLatin1Char('[')))
+    if (!line.startsWith(u'['))
         return std::nullopt;
-    const qsizetype end = line.indexOf(QLatin1Char(']'));
+    const qsizetype end = line.indexOf(u']');
     return end < 0 ? line.sliced(1) : line.sliced(1, end - 1);
 }
 
 QStringView withoutQuotes(QStringView value)
 {
     const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                        (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\''));
+                        (value.front() == u'"' || value.front() == u'\'');
     return quoted ? value.sliced(1, value.size() - 2) : value;
 }
 
@@ -52,8 +52,8 @@ QString ProfileFile::value(const QString &path, const QString &section, const QS
             inSection = isSameName(*name, section);
             continue;
         }
-        const qsizetype equals = line.indexOf(QLatin1Char('='));
-        if (!inSection || equals < 0 || line.startsWith(QLatin1Char(';')))
+        const qsizetype equals = line.indexOf(u'=');
+        if (!inSection || equals < 0 || line.startsWith(u';'))
             continue;
         if (isSameName(line.first(equals), key))
             return withoutQuotes(line.sliced(equals + 1).trimmed()).left(LongestValue).toString();

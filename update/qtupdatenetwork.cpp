@@ -6,47 +6,38 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QNetworkInterface>
+#include <QScopeGuard>
 #include <QSslSocket>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <optional>
 
-// By the socket and not by QNetworkAccessManager, which keeps the head of an answer in memory however long
-// it is.
+// Not with QNetworkAccessManager, which does not limit the size of an answer's head.
 namespace {
 
 constexpr int MostRedirections = 5;
 constexpr qint64 MostHeadBytes = 16'384;
 
-class WaitingPointer final
-{
-    Q_DISABLE_COPY_MOVE(WaitingPointer)
-
-public:
-    WaitingPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitingPointer() { QGuiApplication::restoreOverrideCursor(); }
-};
-
 struct Answer
 {
     int status = 0;
     QByteArray location;
-    std::optional<qint64> length; ///< of the content, if the server tells it
+    std::optional<qint64> length; ///< of the content, if known
     QByteArray content;
 };
 
 bool isEncrypted(const QUrl &url)
 {
-    return url.scheme() == QLatin1StringView("https");
+    return url.scheme() == u"https";
 }
 
 bool canBeAsked(const QUrl &url)
 {
-    return (url.scheme() == QLatin1StringView("http") || isEncrypted(url)) && !url.host().isEmpty();
+    return (url.scheme() == u"http" || isEncrypted(url)) && !url.host().isEmpty();
 }
 
-// By HTTP 1.0 an answer has no pieces: the content reaches from the head to the end of the connection.
+// In HTTP 1.0 the content has no chunks: it ends with the connection.
 QByteArray requestFor(const QUrl &url)
 {
     const QByteArray host = url.adjusted(QUrl::RemoveUserInfo).authority(QUrl::FullyEncoded).toLatin1();
@@ -57,8 +48,8 @@ QByteArray requestFor(const QUrl &url)
            "\r\nCache-Control: no-cache\r\nPragma: no-cache\r\nConnection: close\r\n\r\n";
 }
 
-/// What the server at @p url sends until it closes the connection; nothing if that is not over at @p end or
-/// is more than @p mostBytes.
+/// What the server at @p url sends until it closes the connection; nothing if that is not before @p end or is
+/// more than @p mostBytes.
 std::optional<QByteArray> receive(const QUrl &url, qint64 mostBytes, const QDeadlineTimer &end)
 {
     QSslSocket socket;
@@ -105,12 +96,12 @@ std::optional<Answer> parse(const QByteArray &bytes)
         else if (name == "content-length")
             answer.length = value.toLongLong();
         else if (name == "transfer-encoding")
-            return std::nullopt; // nothing that HTTP 1.0 knows
+            return std::nullopt; // unknown in HTTP 1.0
     }
     return answer;
 }
 
-/// What @p address holds; nothing unless all of it arrives within the limits.
+/// The content at @p address; nothing unless it arrives completely and within the limits.
 std::optional<QByteArray> fetch(const QString &address, const QtUpdateNetwork::Limits &limits)
 {
     const QDeadlineTimer end(limits.time);
@@ -149,14 +140,15 @@ bool QtUpdateNetwork::isConnected() const
 
 void QtUpdateNetwork::download(const QString &address, const QString &path)
 {
-    const WaitingPointer pointer;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restoreCursor = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
     QFile file(path);
     file.remove();
     const std::optional<QByteArray> content = fetch(address, m_limits);
     if (!content || !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return;
-    const bool whole = file.write(*content) == content->size() && file.flush();
+    const bool complete = file.write(*content) == content->size() && file.flush();
     file.close();
-    if (!whole)
+    if (!complete)
         file.remove();
 }

@@ -4,13 +4,13 @@
 
 #include <chrono>
 
-/// The network by Qt. While a download runs, the user's input waits and the pointer is the one for waiting.
+/// The network by Qt. A download ignores user input and shows the waiting pointer.
 class QtUpdateNetwork final : public UpdateNetwork
 {
 public:
     struct Limits
     {
-        std::chrono::milliseconds time{20000}; ///< for the whole download, however it trickles
+        std::chrono::milliseconds time{20000}; ///< for the whole download
         qint64 bytes = 65'536;                 ///< a version file has a few hundred
     };
 
@@ -19,7 +19,7 @@ public:
 
     bool isConnected() const override;
 
-    /// Only http and https; redirections are followed as long as they do not lead from https to http.
+    /// Only http and https. Follows redirections, but not from https to http.
     void download(const QString &address, const QString &path) override;
 
 private:

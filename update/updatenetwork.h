@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The network, as far as the check for a new version needs it. Tests answer in its place.
+/// The network for the check for a new version. Tests replace it.
 class UpdateNetwork
 {
     Q_DISABLE_COPY_MOVE(UpdateNetwork)
@@ -11,12 +11,10 @@ public:
     UpdateNetwork() = default;
     virtual ~UpdateNetwork() = default;
 
-    /// Whether this computer is on a network at all, beyond itself.
+    /// Whether this computer is on any network besides itself.
     virtual bool isConnected() const = 0;
 
-    /// Fetches the newest copy of @p address into the file @p path and returns when that is over.
-    ///
-    /// There is a file at @p path afterwards only if all of it arrived, and never an older one that could be
-    /// removed.
+    /// Downloads @p address, uncached, to the file @p path and returns when done. Afterwards there is a file
+    /// at @p path only if the download was complete, or if an older file could not be removed.
     virtual void download(const QString &address, const QString &path) = 0;
 };
