@@ -56,8 +56,8 @@ const QList<ReportSection> &biomolecules()
     return list;
 }
 
-// Rows without values are the titles of recipes; the others are ingredients and indented. The last resolving
-// gel is titled 10 %, like the third.
+// Rows without values are titles of recipes; the others are ingredients and indented. The last resolving gel
+// is titled 10 % like the third. Intended.
 QList<ReportSection> sdsPage(ReportTheme theme)
 {
     static const ReportTable staining{

@@ -5,11 +5,8 @@
 
 namespace {
 
-// The report always ends with element 117.
-constexpr int LastElement = 117;
-
-// Elements from this one on share one picture.
-constexpr int FirstWithoutPicture = 106;
+constexpr int LastElement = 117;         // always
+constexpr int FirstWithoutPicture = 106; // elements from here on share its picture
 
 struct ElementReportColumn
 {
@@ -17,7 +14,6 @@ struct ElementReportColumn
     int column; ///< of `ElementData`
 };
 
-// Not in the order of the table.
 constexpr ElementReportColumn Columns[] = {
     {{7, "Elements "}, 0},
     {{4, "Symbol "}, 1},
@@ -36,7 +32,7 @@ constexpr ElementReportColumn Columns[] = {
     {{7, "Crystal structure "}, 14},
 };
 
-/// The cell of the table in memory for an element by its atomic number, from 1.
+/// A cell of an element; @p element is its atomic number.
 const QString &cellOf(const DataStore &data, int element, int column)
 {
     return data.tables.ElementData(element - 1, column);
@@ -70,8 +66,7 @@ void writeElements(ReportPage &page, const DataStore &data)
     page.closeTable();
 }
 
-// Isotope, half-life and decay modes. Greek letters of the modes are stored as letters of the Symbol
-// typeface.
+// Isotope, half-life and decay modes, the last with letters of the Symbol typeface.
 void isotopeCells(ReportPage &page, const DataStore &data, int element, int column)
 {
     page.cell(cellOf(data, element, column));
@@ -79,8 +74,7 @@ void isotopeCells(ReportPage &page, const DataStore &data, int element, int colu
     page.cell("<span style='font-family:Symbol'>" + cellOf(data, element, column + 2) + "</span>");
 }
 
-// The first row of an element is only closed by the next row. The column after the last isotope is always
-// empty and ends the loop.
+// The next row closes the first row of an element. An empty column always follows the last isotope.
 void writeIsotopesOf(ReportPage &page, const DataStore &data, int element)
 {
     int column = ElementColumn::FirstIsotope;

@@ -124,7 +124,7 @@ void ReportPage::headerRow(const QStringList &head)
         line(title);
 }
 
-// Most of a page is rows and cells, so they are appended without a temporary text.
+// Rows and cells are most of a page. Without a temporary text for each, a large report is fast.
 void ReportPage::startRow()
 {
     QString &rowClass = m_module.ReportRowClass;

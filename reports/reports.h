@@ -3,8 +3,7 @@
 class ReportPage;
 struct DataStore;
 
-/// The reports. Each writes one complete page from the data in memory and the options of the page. Pictures
-/// are only referenced; their files need not exist.
+/// The reports. Each writes one complete page. Pictures are only referenced; their files need not exist.
 namespace Reports {
 
 void Properties(ReportPage &page, const DataStore &data);

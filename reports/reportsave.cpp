@@ -6,6 +6,8 @@
 #include "reports/reportpage.h"
 #include "reports/reports.h"
 
+#include <array>
+
 namespace {
 
 using Report = void (*)(ReportPage &, const DataStore &);
@@ -19,25 +21,13 @@ struct Choice
 
 Report solventReport(int tab)
 {
-    switch (tab) {
-    case 1:
-        return Reports::Properties;
-    case 2:
-        return Reports::Miscibility;
-    case 3:
-        return Reports::Nmr;
-    case 4:
-        return Reports::MassSpectrometry;
-    case 5:
-        return Reports::Drying;
-    case 6:
-        return Reports::CoolingMixtures;
-    default:
-        return nullptr;
-    }
+    constexpr std::array<Report, 6> ByTab{Reports::Properties, Reports::Miscibility,
+                                          Reports::Nmr,        Reports::MassSpectrometry,
+                                          Reports::Drying,     Reports::CoolingMixtures};
+    return tab >= 1 && tab <= int(ByTab.size()) ? ByTab[size_t(tab - 1)] : nullptr;
 }
 
-/// The first visible one, in this order.
+/// The report of the first visible pane, in this order.
 std::optional<Choice> choose(const ReportContext &context)
 {
     const Choice choices[] = {
@@ -88,8 +78,8 @@ void ReportSave::run(const std::function<ReportContext()> &onShow)
     }
 }
 
-// The visible pane may change while the dialog is open, so it is determined again. The file is truncated
-// before the report is made, without a backup: if it cannot be opened, the row class stays as it was.
+// The visible pane may change while the dialog is open, so it is determined again. The file is truncated,
+// without a backup, before the report is made: if it cannot be opened, the row class does not change.
 void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
 {
     CommonDialog1.choose([&]() -> std::optional<QString> {
@@ -120,5 +110,5 @@ void ReportSave::tell(const RuntimeError &error)
                                  "different name or in a different folder." +
                                  FileErrors::reasonNotWritable(path),
                              Desktop::Warning);
-    // Any other failure is silent: the file that is missing or cut short is the only sign.
+    // Any other failure is silent.
 }

@@ -4,8 +4,7 @@
 
 struct DataStore;
 
-/// What the main window shows, as far as reports depend on it. Visible means the control's own setting,
-/// whatever its parents are.
+/// What the main window shows. Visible means the control's own setting, whatever its parents are.
 struct ReportContext
 {
     bool frmsolv = false;
@@ -16,7 +15,7 @@ struct ReportContext
     bool ListView3_27 = false;
     QString panel1;         ///< of `StatusBar1`
     int solventTab = 0;     ///< selected tab of `TabStrip1`, from 1
-    QString solventCaption; ///< and its caption
+    QString solventCaption; ///< of that tab
 };
 
 /// The export command: asks for a file and writes the report of the visible pane.
@@ -28,10 +27,9 @@ public:
     /// Whether the export command has a report for what is shown.
     static bool isThereOneFor(const ReportContext &shown);
 
-    /// Shows the dialog, with its questions, and writes the file, replacing its contents. Success is silent.
-    /// A message reports a file that is in use or may not be written; any other failure is silent and leaves
-    /// the file as far as it was written. If none of the panes is visible, the dialog still appears, but
-    /// nothing is written.
+    /// Shows the dialog and writes the file, replacing its contents. Reports only a file that is in use or
+    /// not writable. Any other failure is silent and leaves the file incomplete. Without a report for what is
+    /// shown, the dialog still appears, but nothing is written.
     void run(const std::function<ReportContext()> &onShow);
 
 private:

@@ -9,14 +9,13 @@
 class ReportPage;
 struct RowLists;
 
-/// Width of the column in per cent of the table, and its title with its trailing blanks.
 struct ReportColumn
 {
-    int width;
-    const char *title; ///< UTF-8
+    int width;         ///< per cent of the table
+    const char *title; ///< UTF-8; trailing blanks count
 };
 
-/// The title cell of a column. @p attribute is added to its tag, after the width.
+/// The title cell of a column. @p attribute is appended to its tag.
 QString titleCell(const ReportColumn &column, const QString &attribute = {});
 
 QStringList titleCells(const QList<ReportColumn> &columns);
@@ -26,26 +25,26 @@ using RowTest = bool (*)(const RowList &list, int row);
 
 bool lacksText(const RowList &list, int row);
 
-/// True if all sub-items @p Numbers are empty.
+/// Whether all sub-items @p Numbers are empty.
 template<int... Numbers>
 bool lacks(const RowList &list, int row)
 {
     return (list.cell(row, Numbers).isEmpty() && ...);
 }
 
-/// How to write a list as a data table. Further sub-items are not written.
+/// How to write a list as a data table.
 struct ReportTable
 {
-    QStringList head;            ///< title cells
-    int subItems;                ///< how many are written after the text of the row
-    RowTest isSkipped = nullptr; ///< null: no row. A skipped row does not switch the row class
-    RowTest isPlain = nullptr;   ///< rows whose first cell is not indented; null: all
+    QStringList head;  ///< title cells
+    int subItems;      ///< number of cells after the text of the row
+    RowTest isSkipped; ///< null: no row is. A skipped row does not alternate the row class
+    RowTest isPlain;   ///< whether the first cell is not indented; null: all
 
     ReportTable(QStringList titles, int lastSubItem, RowTest skipped = nullptr, RowTest plain = nullptr)
         : head(std::move(titles)), subItems(lastSubItem), isSkipped(skipped), isPlain(plain)
     {}
 
-    /// A row's text and as many sub-items as there are further columns.
+    /// One cell per column.
     ReportTable(const QList<ReportColumn> &columns, RowTest skipped = nullptr, RowTest plain = nullptr)
         : ReportTable(titleCells(columns), int(columns.size()) - 1, skipped, plain)
     {}
@@ -53,7 +52,7 @@ struct ReportTable
 
 void writeTable(ReportPage &page, const RowList &list, const ReportTable &table);
 
-/// A table under its own heading, which ends with a line break.
+/// A table with a heading.
 struct ReportSection
 {
     const char *heading; ///< UTF-8

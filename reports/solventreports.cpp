@@ -8,27 +8,17 @@ namespace {
 constexpr const char *Solvents = "Solvents - ";
 constexpr const char *Nowrap = " nowrap";
 
-// Mixtures, which have no single structure.
-bool hasNoStructure(const QString &solvent)
-{
-    static const QStringList ethers{
-        "Petroleum ether (60-80 °C)",
-        "Petroleum ether (30-40 °C)",
-        "Petroleum ether (50-70 °C)",
-        "Petroleum ether (40-60 °C)",
-    };
-    return ethers.contains(solvent);
-}
-
 QString structureCell(const ReportPage &page, const QString &solvent)
 {
-    if (hasNoStructure(solvent))
+    static const QStringList mixtures{"Petroleum ether (60-80 °C)", "Petroleum ether (30-40 °C)",
+                                      "Petroleum ether (50-70 °C)", "Petroleum ether (40-60 °C)"};
+    if (mixtures.contains(solvent))
         return R"(<td bgcolor="#FFFFFF" align=center><font color=black><b>Image unavailable</b></font></td>)";
     return R"(<td bgcolor="#FFFFFF"><div align="center"><img src=)" +
            page.imageSource(R"(\Data\chemicals\)" + solvent + ".bmp") + "></div></td>";
 }
 
-// The shift columns of the impurities are the same for both nuclei.
+// The shift columns are the same for both nuclei.
 QStringList shiftTitles(const QList<ReportColumn> &first)
 {
     return titleCells(first) + titleCells({{10, "Chloroform "},
@@ -88,7 +78,7 @@ void Reports::Miscibility(ReportPage &page, const DataStore &data)
     page.end();
 }
 
-// Two words are French in Grayscale.
+// Two words are French in Grayscale. Intended.
 void Reports::Nmr(ReportPage &page, const DataStore &data)
 {
     const bool colours = page.theme() == ReportTheme::Colors;
