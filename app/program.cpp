@@ -10,6 +10,7 @@
 #include "core/module1.h"
 #include "sidewindows/frmtip.h"
 #include "store/databaseconnection.h"
+#include "store/databasegaps.h"
 #include "store/databaserecovery.h"
 #include "store/datastore.h"
 #include "store/latertables.h"
@@ -22,6 +23,8 @@
 
 #include <QApplication>
 #include <QDir>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,15 +43,29 @@ bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
                                           "has finished its work, or end it, and start Alembra again."));
 }
 
-void renewUserFolder(Desktop &desktop, const QString &folder, const QString &shippedFolder)
+/// Compares the user's database with what this program reads. True if the user wants the original instead.
+/// @p isNewsOfOriginal: there is a new one, and the changed database stayed.
+bool userWantsOriginal(Desktop &desktop, const JetFile &database, bool isNewsOfOriginal)
 {
-    if (!UserFolder::renew(folder, shippedFolder))
-        return;
-    desktop.messageBox(
-        QStringLiteral(
-            "There is a new database. Yours was changed, so it stays as it is.\n\nTo use the new one, choose "
-            "Restore in the options, on the tab Database. Save a copy of yours before."),
-        Desktop::Information);
+    constexpr int MaxGaps = 10; // a box as high as the screen has no buttons to click on
+    QStringList gaps = DatabaseGaps::missing(database);
+    if (isNewsOfOriginal)
+        gaps += DatabaseGaps::otherRowCounts(database);
+    if (gaps.size() > MaxGaps)
+        gaps = gaps.first(MaxGaps) << u"There is more of this."_s;
+    if (gaps.isEmpty() && isNewsOfOriginal)
+        desktop.messageBox(u"There is a new database. Yours was changed, so it stays as it is.\n\nTo use the "
+                           u"new one, choose "
+                           "Restore in the options, on the tab Database. Save a copy of yours before."_s,
+                           Desktop::Information);
+    return !gaps.isEmpty() &&
+           desktop.messageBox(
+               u"Your database was made for another version of Alembra.\n\n"_s + gaps.join(u'\n') +
+                   u"\n\nWithout a column its list stays empty; without a table the program ends. "
+                   "With another number of rows, some are in the wrong list.\n\nDo you want to use the "
+                   "database of this version? Yours stays in the folder Data, as Database_uk_old.mdb or with "
+                   "a number after \"old\"."_s,
+               Desktop::Warning + Desktop::YesNo) == Desktop::Yes;
 }
 
 } // namespace
@@ -71,8 +88,8 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
         else
             ModalDialogs::raise(); // a question of the start
     });
-    if (!shippedFolder.isEmpty())
-        renewUserFolder(desktop, appFolder, shippedFolder);
+    const bool hasUserFolder = !shippedFolder.isEmpty();
+    const bool isNewsOfOriginal = hasUserFolder && UserFolder::renew(appFolder, shippedFolder);
 
     QApplication::setKeyboardInputInterval(1000); // names are typed into lists one letter after the other
     AccessibleRoles::install();
@@ -83,6 +100,11 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     DatabaseConnection connection;
     DatabaseRecovery recovery(desktop, connection, appFolder);
     recovery.ConnectDatabase();
+    if (hasUserFolder && userWantsOriginal(desktop, connection.file(), isNewsOfOriginal)) {
+        recovery.DisconnectDatabase();
+        UserFolder::replaceDatabase(appFolder);
+        recovery.ConnectDatabase();
+    }
 
     TableLoader loader(
         store, [&](const QString &statement) { return std::make_unique<Recordset>(statement, connection); },

@@ -13,4 +13,8 @@ namespace UserFolder {
 /// True if there is a new original and the changed database stayed. RuntimeError of copyFileOver.
 bool renew(const QString &folder, const QString &shippedFolder);
 
+/// Puts the original in the place of the database in @p folder, which stays beside it as Database_uk_old.mdb
+/// or, where there is one, as Database_uk_old2.mdb and so on. RuntimeError of copyFileOver.
+void replaceDatabase(const QString &folder);
+
 } // namespace UserFolder

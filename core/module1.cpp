@@ -6,7 +6,14 @@
 
 using namespace Qt::StringLiterals;
 
+static void initResource()
+{
+    Q_INIT_RESOURCE(program);
+}
+
 namespace {
+
+constexpr int LastSlotOfTheFirstRelease = 89;
 
 QString optionsFile(const QString &folder)
 {
@@ -18,9 +25,24 @@ QString optionsFile(const QString &folder)
 QString Module1::ReadOptions(const QString &request, const QString &folder)
 {
     AppFolder = folder;
-    if (request == u"opt")
+    if (request == u"opt") {
         OptionSlots.read(optionsFile(AppFolder));
+        addNewOptions();
+    }
     return {};
+}
+
+// No release delivers fewer values than the first. A shorter file beside the executable is a damaged one, not
+// an older one: it stays as short as it is.
+void Module1::addNewOptions()
+{
+    const bool isUsers = !ShippedFolder.isEmpty();
+    if (!isUsers && OptionSlots.lastIndex() < LastSlotOfTheFirstRelease)
+        return;
+    initResource();
+    ::OptionSlots delivered;
+    delivered.read(optionsFile(isUsers ? ShippedFolder : u":/delivered"_s));
+    OptionSlots.addMissing(delivered);
 }
 
 void Module1::WriteOptions() const

@@ -29,8 +29,9 @@ struct Module1
     /// File length in bytes, set by ProbeFileLength. After a save, its error number or 0.
     qint64 ProbedLength = 0;
 
-    /// Sets `AppFolder` to @p folder and, if @p request is "opt", reads its options file. The result is
-    /// always empty. RuntimeError as in OptionSlots::read.
+    /// Sets `AppFolder` to @p folder and, if @p request is "opt", reads its options file. What the file of an
+    /// earlier release lacks takes the delivered values. The result is always empty. RuntimeError as in
+    /// OptionSlots::read.
     QString ReadOptions(const QString &request, const QString &folder);
 
     /// Writes the options file. RuntimeError as in OptionSlots::write.
@@ -45,4 +46,7 @@ struct Module1
 
     /// "1.1.0"
     static QString version();
+
+private:
+    void addNewOptions();
 };

@@ -108,6 +108,12 @@ void OptionSlots::read(const QString &path)
     }
 }
 
+void OptionSlots::addMissing(const OptionSlots &delivered)
+{
+    for (; m_readCount < delivered.m_readCount; ++m_readCount)
+        m_slots[size_t(m_readCount)] = delivered.m_slots[size_t(m_readCount)];
+}
+
 void OptionSlots::write(const QString &path) const
 {
     QFile file(path);

@@ -32,8 +32,8 @@ enum class Slot {
 /// All settings of the program and the unit names of the conversions: 101 values, identified by position.
 ///
 /// Their file, `options_uk.ini`, has one value per line, in Windows-1252 with CR LF; texts are quoted.
-/// Reading continues where the last read ended. Writing stops at the last value read, so the file keeps its
-/// length.
+/// Reading continues where the last read ended. Writing stops at the last value read or added, so the file
+/// keeps its length otherwise.
 class OptionSlots final
 {
 public:
@@ -48,10 +48,13 @@ public:
     /// Fills the slots from the file. RuntimeError 53, 75 or 70 if it cannot be opened, 9 at the 102nd value.
     void read(const QString &path);
 
+    /// Adds the values that @p delivered has after the last one read; write() writes them too.
+    void addMissing(const OptionSlots &delivered);
+
     /// Overwrites the file in place, without a backup. RuntimeError 70, 75, 76 or 61.
     void write(const QString &path) const;
 
-    /// Index of the last value read; -1 before reading and for an empty file.
+    /// Index of the last value read or added; -1 before reading and for an empty file.
     int lastIndex() const { return m_readCount - 1; }
 
 private:

@@ -1,9 +1,11 @@
 #include "app/userfolder.h"
 #include "core/runtimeerror.h"
 #include "options/filefigures.h"
+#include "tests/store/sampledatabases.h"
 #include "tests/support/wholerun.h"
 
 #include <QLabel>
+#include <QListWidget>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -16,17 +18,27 @@ constexpr const char *Original = "Backup/Database_uk_origin.rbk";
 
 } // namespace
 
+Q_DECLARE_METATYPE(Desktop::Answer)
+
 /// The folder of a user's own files beside the folder of the executable.
 class UserFolderTest final : public WholeRun
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_desktop.boxes.clear();
+    }
     void whatIsMissingIsDelivered();
     void theDatabaseFollowsUnlessTheUserChangedIt_data();
     void theDatabaseFollowsUnlessTheUserChangedIt();
     void theProgramRunsOnBothFolders();
+    void optionsOfAnEarlierRelease_data();
+    void optionsOfAnEarlierRelease();
+    void databaseOfAnotherRelease_data();
+    void databaseOfAnotherRelease();
     void aFolderThatCannotBeMadeIsReported();
 
 private:
@@ -134,6 +146,85 @@ void UserFolderTest::theProgramRunsOnBothFolders()
         QVERIFY2(report.contains("src=file:///" + picture.toUtf8() + '>'), qPrintable(picture));
     QCOMPARE(QDir(user("Data")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              (QStringList{u"Database_uk.mdb"_s, u"elements"_s}));
+}
+
+void UserFolderTest::optionsOfAnEarlierRelease_data()
+{
+    QTest::addColumn<int>("mine"); // lines of the user's file; the new release has 92
+    QTest::addColumn<int>("saved");
+
+    QTest::newRow("two lines less") << 90 << 92;
+    QTest::newRow("cut by a failure") << 40 << 92;
+    QTest::newRow("of a later release") << 95 << 95;
+}
+
+// The values that the user's file has stay, the others are delivered, and the next save writes them all.
+void UserFolderTest::optionsOfAnEarlierRelease()
+{
+    QFETCH(const int, mine);
+    QFETCH(const int, saved);
+    const ProgramFolder release;
+    const QByteArray lines =
+        release.read(QLatin1StringView(Options)) + "7\r\n\"light-year (ly)\"\r\n8\r\n9\r\n10\r\n";
+    const auto first = [&](int count) { return lines.split('\n').first(count).join('\n') + '\n'; };
+    release.write(QLatin1StringView(Options), first(92));
+    write(user(Options), first(mine));
+
+    QCOMPARE(run(user(), release.root(), m_desktop,
+                 [](Form1 &form) {
+                     form.executeCommand(1120); // calculations
+                     const auto *units = form.findChild<QListWidget *>(u"List5"_s);
+                     QCOMPARE(units->count(), 4);
+                     QVERIFY(!units->item(3)->text().isEmpty());
+                     form.executeCommand(1058); // options
+                     QTest::keyClick(form.findChild<QWidget *>(u"Formoptions"_s), Qt::Key_Return);
+                 }),
+             0);
+
+    QCOMPARE(m_desktop.boxes.size(), 0);
+    QCOMPARE(read(user(Options)), first(saved));
+}
+
+void UserFolderTest::databaseOfAnotherRelease_data()
+{
+    QTest::addColumn<QString>("gone"); // a name that the database does not have
+    QTest::addColumn<bool>("news");    // an upgrade has brought a new original
+    QTest::addColumn<Desktop::Answer>("answer");
+    QTest::addColumn<QString>("named");
+
+    QTest::newRow("a column less, kept")
+        << u"indicerefrac"_s << false << Desktop::No << u"The table Solvants has no column indicerefrac."_s;
+    QTest::newRow("a table less, replaced")
+        << u"Refrigeration"_s << false << Desktop::Yes << u"There is no table Refrigeration."_s;
+    QTest::newRow("other rows, named once")
+        << u"none"_s << true << Desktop::No << u"The table Constantes has 2 rows instead of 45."_s;
+    QTest::newRow("other rows, known") << u"none"_s << false << Desktop::No << QString();
+}
+
+void UserFolderTest::databaseOfAnotherRelease()
+{
+    QFETCH(const QString, gone);
+    QFETCH(const bool, news);
+    QFETCH(const Desktop::Answer, answer);
+    QFETCH(const QString, named);
+    const ProgramFolder release;
+    const QByteArray original = release.read(QLatin1StringView(Original));
+    const auto inFile = [](const QString &name) {
+        return QByteArray(reinterpret_cast<const char *>(name.utf16()), 2 * name.size());
+    };
+    const QByteArray mine =
+        SampleDatabases::catalogued(2).replace(inFile(gone), inFile(QString(gone.size(), u'x')));
+    write(user(Database), mine);
+    write(user(Original), news ? mine + mine : original);
+    m_desktop.answers = {answer};
+
+    run(user(), release.root(), m_desktop, [](const Form1 &) {});
+
+    QCOMPARE(m_desktop.boxes.size(), named.isEmpty() ? 0 : 1);
+    QVERIFY(named.isEmpty() || m_desktop.boxes.constFirst().first.contains(named));
+    const bool replaced = answer == Desktop::Yes;
+    QCOMPARE(read(user(Database)), replaced ? original : mine);
+    QCOMPARE(read(user("Data/Database_uk_old.mdb")), replaced ? mine : "none"_ba);
 }
 
 void UserFolderTest::aFolderThatCannotBeMadeIsReported()
