@@ -1,11 +1,20 @@
-#include "core/runtimeerror.h"
 #include "search/find.h"
-#include "store/rowlist.h"
+#include "search/findbar.h"
+#include "store/datastore.h"
+#include "tests/support/files.h"
+#include "tests/support/scripteddesktop.h"
+#include "tests/support/testclass.h"
+#include "widgets/rowlistview.h"
+#include "widgets/statusline.h"
 
-#include <QTest>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QToolButton>
 
 using Find::Direction;
-using Find::Position;
 
 namespace {
 
@@ -13,128 +22,250 @@ void fill(RowList &list, const QStringList &rows)
 {
     for (const QString &row : rows)
         list.append(row);
+    list.filled();
 }
 
-QStringList texts(const RowList &list)
+/// A bar over two short lists, of which the first is shown.
+class Bar final : public QWidget
 {
-    QStringList rows;
-    for (int row = 0; row < list.rowCount(); ++row)
-        rows << list.text(row);
-    return rows;
-}
+public:
+    Bar()
+    {
+        fill(store.lists.ListView1, {"Acetic acid", "Acetone", "Water"});
+        fill(store.lists.ListView3[26], {"Benzene", "Acetone", "Toluene", "Acetal"});
+        fill(store.lists.Combo2[3], {"Neodymium", "Neon", "Gallium", "Gold", "Titanium", "Tin"});
+        store.SolventCount = 3;
+        ListView3_26.hide();
+        findBar.setSearchedLists(&ListView1, &ListView3_26);
+        findBar.setGeometry(0, 300, 600, 40);
+        show();
+        static_cast<void>(QTest::qWaitForWindowActive(this));
+    }
+    void type(const QString &text)
+    {
+        TextBoxM6.clear();
+        QTest::keyClicks(&TextBoxM6, text);
+    }
+    // Type a text over the spectra instead of the solvents.
+    void typeOverSpectra(const QString &text)
+    {
+        ListView1.hide();
+        ListView3_26.show();
+        type(text);
+    }
+    QString position() const
+    {
+        return get<QLineEdit>(findBar, "Text1").text() + ':' + get<QLineEdit>(findBar, "Text2").text();
+    }
+    int hitCount() const { return store.lists.ListView2[6].rowCount(); }
+
+    DataStore store;
+    ScriptedDesktop desktop;
+    QLabel panel3;
+    RowListView ListView1{"ListView1", store.lists.ListView1, {{"Name", 100}}, this};
+    RowListView ListView3_26{"ListView3(26)", store.lists.ListView3[26], {{"Name", 100}}, this};
+    StatusLine note{"StatusBar1.Panels(2)", *this};
+    FindBar findBar{store, desktop, panel3, this};
+    QLineEdit &TextBoxM6 = get<QLineEdit>(findBar, "TextBoxM6");
+    QCheckBox &case1 = get<QCheckBox>(findBar, "case1");
+    QComboBox &Combo2_3 = get<QComboBox>(findBar, "Combo2(3)");
+    QToolButton &Picture2 = get<QToolButton>(findBar, "Picture2");
+    QPushButton &previous = get<QPushButton>(findBar, "Command11(0)");
+    QPushButton &next = get<QPushButton>(findBar, "Command11(1)");
+};
 
 } // namespace
 
-class FindTest : public QObject
+/// Finding rows, and the bar that does it. Each function has a new bar.
+class FindTest final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void gathersEverySubstringMatch_data();
-    void gathersEverySubstringMatch();
-    void aListShorterThanTheLimitFailsWithWhatItHas();
-    void walksToTheHitsInOrderAndBack();
-    void theSecondOfEqualTextsSelectsTheFirstOfThem();
-    void aWalkPastEitherEndIsTheSubscriptError();
-    void ordinalsAre16BitNumbers();
+    // A step forward looks from the row with the number of the hit on.
+    void ofEqualTextsTheSecondSelectsTheFirst()
+    {
+        RowList list;
+        fill(list, {"Water", "Xylene", "Ether", "Xylene", "Xylene"});
+        RowList hits;
+        Find::gather(list, 5, "Xyl", Qt::CaseSensitive, hits);
+        QCOMPARE(hits.rowCount(), 3);
+        QCOMPARE(Find::walk(list, hits, {1, 2}, Direction::Next)->row, 2);
+        QCOMPARE(Find::walk(list, hits, {2, 2}, Direction::Next)->row, 4);
+    }
+
+    void aWalkPastEitherEndOrBeyond16BitsFails()
+    {
+        RowList list;
+        fill(list, {"Water"});
+        RowList hits;
+        fill(hits, {"Ether", "Ether"});
+        RowList many;
+        fill(many, QStringList(32768, "a"));
+        QCOMPARE(errorOf([&] { Find::walk(list, hits, {0, 0}, Direction::Next); }), ErrorNumber::Subscript);
+        QCOMPARE(errorOf([&] {
+                     Find::walk(list, hits, {2, 1}, Direction::Previous);
+                 }),
+                 ErrorNumber::Subscript);
+        QCOMPARE(Find::walk(many, many, {32766, 32766}, Direction::Next)->hit, 32767);
+        QCOMPARE(errorOf([&] {
+                     Find::walk(many, many, {32767, 32767}, Direction::Next);
+                 }),
+                 ErrorNumber::Overflow);
+    }
+
+    void opensAsTextBoxOrAsPickListAndForgetsEverythingOnClosing()
+    {
+        Bar bar;
+        bar.findBar.open(true);
+        QCOMPARE(bar.panel3.text(), QString("           Find :"));
+        QVERIFY(Controls::isShown(bar.Combo2_3) && Controls::isShown(bar.Picture2));
+        QVERIFY(!bar.findBar.isSearching());
+        bar.findBar.ResetSearchPanel();
+        QVERIFY(bar.panel3.text().isEmpty() && !Controls::isShown(bar.Combo2_3));
+
+        const QList<QWidget *> controls{&bar.TextBoxM6, &bar.previous, &bar.next, &bar.case1, &bar.Picture2};
+        bar.findBar.open(false);
+        for (const QWidget *control : controls)
+            QVERIFY(Controls::isShown(*control));
+        bar.type("ace");
+        bar.Picture2.click();
+        for (const QWidget *control : controls)
+            QVERIFY(!Controls::isShown(*control));
+        QCOMPARE(bar.hitCount(), 0);
+        QVERIFY(bar.TextBoxM6.text().isEmpty());
+    }
+
+    void walksTheShownListFromEndToEnd()
+    {
+        Bar bar;
+        bar.findBar.open(false);
+        bar.type("ace");
+        QVERIFY(!bar.previous.isEnabled()); // until there was a walk
+        for (const char *position : {"1:1", "2:2", "2:2"}) {
+            bar.TextBoxM6.setFocus();
+            bar.next.click();
+            QCOMPARE(bar.position(), QString(position));
+            QVERIFY(bar.ListView1.hasFocus());
+        }
+        QCOMPARE(bar.ListView1.selectedRow(), 1);
+        QVERIFY(bar.previous.isEnabled());
+        for (int press = 0; press < 2; ++press)
+            bar.previous.click();
+        QCOMPARE(bar.ListView1.selectedRow(), 0);
+        QCOMPARE(bar.desktop.beeps, 0);
+
+        bar.typeOverSpectra("acet");
+        QCOMPARE(bar.hitCount(), 1); // "Acetal" is the fourth row, and there are three solvents
+        QCOMPARE(bar.position(), QString("0:0"));
+        bar.next.click();
+        QCOMPARE(bar.ListView3_26.selectedRow(), 1);
+    }
+
+    void withoutHitsItBeeps()
+    {
+        Bar bar;
+        bar.findBar.open(false);
+        bar.next.click(); // nothing has been typed
+        bar.type("xyz");
+        bar.next.click();
+        QCOMPARE(bar.desktop.beeps, 2);
+        QCOMPARE(bar.note.text(), QString("Nothing found for \"xyz\""));
+        QVERIFY(!bar.previous.isEnabled());
+        QCOMPARE(bar.ListView1.selectedRow(), -1);
+        bar.type("ace");
+        QVERIFY(bar.note.text().isEmpty());
+        bar.ListView1.hide(); // as on a pane where nothing can be searched
+        bar.next.click();
+        QCOMPARE(bar.desktop.beeps, 3);
+    }
+
+    void changedTextOrCaseSearchesAgain()
+    {
+        Bar bar;
+        bar.findBar.open(false);
+        bar.type("Ace");
+        bar.next.click();
+        bar.case1.click();
+        QCOMPARE(bar.hitCount(), 2);
+        QCOMPARE(bar.position(), QString("0:0"));
+        QVERIFY(bar.previous.isEnabled()); // only typing disables it
+        bar.type("ACE");
+        QCOMPARE(bar.hitCount(), 0);
+        bar.case1.click();
+        QCOMPARE(bar.hitCount(), 2);
+        bar.TextBoxM6.clear();
+        QCOMPARE(bar.hitCount(), 0);
+        QVERIFY(!bar.next.isEnabled());
+
+        bar.next.setEnabled(true);
+        bar.case1.click();
+        QVERIFY(!bar.next.isEnabled());
+        bar.typeOverSpectra({});
+        bar.next.setEnabled(true);
+        bar.case1.click();
+        QVERIFY(bar.next.isEnabled()); // the spectra leave it as it is
+    }
+
+    void aMissingRowEndsTheProgram()
+    {
+        Bar bar;
+        bar.store.SolventCount = 4;
+        bar.findBar.open(false);
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, bar.TextBoxM6.setText("a"));
+        QVERIFY(bar.desktop.boxes.constFirst().first.startsWith("Run-time error '9':"));
+        QCOMPARE(bar.hitCount(), 3); // up to there
+    }
+
+    void keysWalkAndClose()
+    {
+        Bar bar;
+        const QSignalSpy closed(&bar.findBar, &FindBar::closedByUser);
+        const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(bar.focusWidget(), Qt::Key(key), modifiers);
+            return bar.ListView1.selectedRow();
+        };
+        bar.findBar.open(false);
+        bar.type("ace");
+        QCOMPARE(press(Qt::Key_Return), 0);
+        QCOMPARE(press(Qt::Key_Enter), 1);
+        QCOMPARE(press(Qt::Key_Return, Qt::ShiftModifier), 0);
+        QCOMPARE(press(Qt::Key_F3), 1);
+        QVERIFY(bar.TextBoxM6.hasFocus());
+        bar.ListView1.setFocus();
+        QCOMPARE(press(Qt::Key_F3, Qt::ShiftModifier), 0);
+        QVERIFY(bar.ListView1.hasFocus());
+
+        bar.findBar.open(false); // once more: the next letter begins a new text
+        press(Qt::Key_W);
+        QCOMPARE(bar.TextBoxM6.text(), QString("w"));
+        for (QWidget *place : QList<QWidget *>{&bar.TextBoxM6, &bar.case1, &bar.ListView1}) {
+            bar.findBar.open(false);
+            place->setFocus();
+            press(Qt::Key_Escape);
+            QVERIFY(!bar.findBar.isSearching() && bar.ListView1.hasFocus());
+        }
+        QCOMPARE(closed.size(), 3);
+    }
+
+    void anElementIsFoundByItsWholeName()
+    {
+        QApplication::setKeyboardInputInterval(60000); // however slow the machine
+        for (const QString typed : {"tin", "neon", "gold"}) {
+            Bar bar;
+            const QSignalSpy picked(&bar.findBar, &FindBar::namePicked);
+            bar.findBar.open(true);
+            for (const QChar letter : typed)
+                QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), letter.toLatin1());
+            QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Return);
+            QCOMPARE(picked.size(), 1);
+            QCOMPARE(picked[0][0].toString().toLower(), typed);
+            bar.findBar.open(true);
+            QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Escape);
+            QVERIFY(!Controls::isShown(bar.Combo2_3));
+        }
+    }
 };
 
-void FindTest::gathersEverySubstringMatch_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("matchCase");
-    QTest::addColumn<int>("limit");
-    QTest::addColumn<QStringList>("expected");
-
-    const QStringList all{"Acetic acid", "Acetone", "Butyl acetate"};
-    QTest::newRow("any case") << "ACE" << false << 4 << all;
-    QTest::newRow("case counts") << "ACE" << true << 4 << QStringList();
-    QTest::newRow("case fits") << "ace" << true << 4 << QStringList{"Butyl acetate"};
-    QTest::newRow("beyond the limit") << "ace" << false << 2 << QStringList{"Acetic acid", "Acetone"};
-    QTest::newRow("no hit") << "xyz" << false << 4 << QStringList();
-    QTest::newRow("blank counts") << "c a" << false << 4 << QStringList{"Acetic acid"};
-}
-
-void FindTest::gathersEverySubstringMatch()
-{
-    QFETCH(const QString, text);
-    QFETCH(const bool, matchCase);
-    QFETCH(const int, limit);
-    QFETCH(const QStringList, expected);
-    RowList list;
-    fill(list, {"Acetic acid", "Acetone", "Butyl acetate", "Water"});
-    RowList hits;
-    hits.append(u"left over");
-
-    Find::gather(list, limit, text, matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
-
-    QCOMPARE(texts(hits), expected);
-}
-
-void FindTest::aListShorterThanTheLimitFailsWithWhatItHas()
-{
-    RowList list;
-    fill(list, {"Acetone", "Water"});
-    RowList hits;
-    try {
-        Find::gather(list, 3, "a", Qt::CaseInsensitive, hits);
-        QFAIL("no error");
-    } catch (const RuntimeError &error) {
-        QCOMPARE(error.number(), ErrorNumber::Subscript);
-    }
-    QCOMPARE(texts(hits), (QStringList{"Acetone", "Water"}));
-}
-
-void FindTest::walksToTheHitsInOrderAndBack()
-{
-    RowList list;
-    fill(list, {"Water", "Acetone", "Ether", "Acetic acid", "Aceto"});
-    RowList hits;
-    Find::gather(list, 5, "ace", Qt::CaseInsensitive, hits);
-    Position at{0, 0};
-    QList<int> rows;
-    while (const auto next = Find::walk(list, hits, at, Direction::Next)) {
-        at = *next;
-        rows << at.row;
-    }
-    while (const auto previous = Find::walk(list, hits, at, Direction::Previous)) {
-        at = *previous;
-        rows << at.row;
-    }
-    QCOMPARE(rows, (QList<int>{2, 4, 5, 4, 2}));
-    QCOMPARE(at.hit, 1);
-}
-
-void FindTest::theSecondOfEqualTextsSelectsTheFirstOfThem()
-{
-    RowList list;
-    fill(list, {"Water", "Xylene", "Ether", "Xylene", "Xylene"});
-    RowList hits;
-    Find::gather(list, 5, "Xyl", Qt::CaseSensitive, hits);
-    const auto second = Find::walk(list, hits, {1, 2}, Direction::Next);
-    QCOMPARE(second->row, 2); // looks from row 2 on and meets the first again
-    const auto third = Find::walk(list, hits, *second, Direction::Next);
-    QCOMPARE(third->row, 4); // from row 3 on
-}
-
-void FindTest::aWalkPastEitherEndIsTheSubscriptError()
-{
-    RowList list;
-    fill(list, {"Water"});
-    RowList hits;
-    fill(hits, {"Ether", "Ether"});
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, Find::walk(list, hits, {0, 0}, Direction::Next));
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, Find::walk(list, hits, {2, 1}, Direction::Previous));
-}
-
-void FindTest::ordinalsAre16BitNumbers()
-{
-    RowList list;
-    for (int row = 0; row < 32768; ++row)
-        list.append(u"a");
-    QCOMPARE(Find::walk(list, list, {32766, 32766}, Direction::Next)->hit, 32767);
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, Find::walk(list, list, {32767, 32767}, Direction::Next));
-}
-
-QTEST_APPLESS_MAIN(FindTest)
+const TestClass<FindTest> findTest;
 #include "find_test.moc"
