@@ -1,112 +1,136 @@
-#include "tests/faults/faultrun.h"
 #include "tests/store/sampledatabases.h"
+#include "tests/support/wholerun.h"
 #include "widgets/rowlistview.h"
 
-#include <QTest>
-
-using SampleDatabases::Edit;
+#include <QAbstractButton>
 
 /// Databases that a user has edited, or that are of another kind.
-class DatabasesTest final : public QObject
+class DatabasesTest final : public WholeRun
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void editedTable_data();
-    void editedTable();
-    void ofAnotherKind_data();
-    void ofAnotherKind();
+    void whatIsLeftOfAnEditedTableIsShown()
+    {
+        struct
+        {
+            const char *name;
+            SampleDatabases::Edit edit;
+            const char *shown;
+        } const rows[] = {
+            {"a column more", {Table, 2, {}, true}, "0.0|0.1 1.0|1.1"},
+            {"a row more", {Table, 3}, "0.0|0.1 1.0|1.1 2.0|2.1"},
+            {"rows deleted", {Table, 4, {0, 2}}, "1.0|1.1 3.0|3.1"},
+            {"no rows", {Table, 0}, ""},
+            {"all rows deleted", {Table, 2, {0, 1}}, ""},
+            {"columns of numbers", {Table, 3, {}, false, true}, "0|0.1 1|1.1 2|2.1"},
+        };
+        for (const auto &[name, edit, expected] : rows) {
+            const ProgramFolder folder;
+            folder.write(Database, SampleDatabases::catalogued(2, edit));
+            QString shown;
+            qsizetype shownAfter = 0; // of a table that is read later
+            const QString end = outcome(folder, [&](Form1 &form) {
+                shown = rowsOf(form, 1117, "ListView9").join(QLatin1Char(' '));
+                shownAfter = rowsOf(form, 1133, "ListView3(26)").size();
+            });
+            QVERIFY2(end == QStringLiteral("runs") && shown == QLatin1StringView(expected) && shownAfter == 2,
+                     qPrintable(QStringLiteral("%1: %2, %3").arg(QLatin1StringView(name), end, shown)));
+        }
+    }
+
+    // Refused with the question before any window, and untouched.
+    void anotherKindIsRefused()
+    {
+        const QByteArray whole = SampleDatabases::catalogued(1);
+        QByteArray jet3 = whole;
+        jet3[0x14] = 0;
+        QByteArray ace = whole;
+        ace[0x14] = 2;
+        ace.replace(4, 15, "Standard ACE DB");
+        struct
+        {
+            const char *name;
+            QByteArray content;
+        } const rows[] = {
+            {"Jet 3", jet3},
+            {"Access 2007", ace},
+            {"header alone", whole.first(128)},
+            {"one page", whole.first(4096)},
+            {"another password", QByteArray(whole).replace(0x42, 4, "\1\2\3\4")},
+            {"zeros", QByteArray(1 << 20, '\0')},
+        };
+        for (const auto &[name, content] : rows) {
+            const ProgramFolder folder;
+            folder.write(Database, content);
+            const QString end = outcome(folder);
+            QVERIFY2(end == QStringLiteral("question") && !m_cameUp && folder.read(Database) == content,
+                     qPrintable(QLatin1StringView(name) + QStringLiteral(": ") + end));
+        }
+    }
+
+    void aMissingTableAsksUnderTheSplash()
+    {
+        const ProgramFolder folder;
+        rename(folder, QStringLiteral("Masse"), QStringLiteral("Mosse"));
+        QCOMPARE(outcome(folder), QStringLiteral("question"));
+        QVERIFY(!m_cameUp);
+        QCOMPARE(m_desktop.boxes.constFirst().second, Desktop::Critical + Desktop::YesNo);
+    }
+
+    void aMissingColumnLeavesItsTableEmpty()
+    {
+        const ProgramFolder folder;
+        rename(folder, QStringLiteral("temp"), QStringLiteral("tomp")); // of the cooling mixtures
+        const QString end = outcome(folder, [&](Form1 &form) {
+            QCOMPARE(rowsOf(form, 1117, "ListView9").size(), 0);
+            QVERIFY(!rowsOf(form, 1118, "ListView8").isEmpty());
+        });
+        QCOMPARE(end, QStringLiteral("runs"));
+    }
+
+    void readingOnDemandFailsLikeTheStart()
+    {
+        const ProgramFolder folder;
+        m_desktop.answers = {Desktop::Yes};
+        const int status = run(folder, [&](Form1 &form) {
+            form.executeCommand(1139);
+            folder.write(Database, "no database");
+            get<QAbstractButton>(form, QStringLiteral("cmdReadTables(1)")).click();
+        });
+        QCOMPARE(status, 0);
+        QCOMPARE(m_desktop.boxes.size(), 2); // the question, and that it is done
+        QCOMPARE(folder.read(Database), folder.read(QStringLiteral("Backup/Database_uk_origin.rbk")));
+    }
+
+private:
+    inline static const QString Database = QStringLiteral("Data/Database_uk.mdb");
+    inline static const QString Table = QStringLiteral("Refrigeration");
+
+    // What a list shows under its command, as "text|sub-item".
+    static QStringList rowsOf(Form1 &form, int command, const char *list)
+    {
+        form.executeCommand(command);
+        const QAbstractItemModel &model = *get<RowListView>(form, QLatin1StringView(list)).model();
+        QStringList rows;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model.columnCount(); ++column)
+                cells << model.index(row, column).data().toString();
+            rows << cells.join(QLatin1Char('|'));
+        }
+        return rows;
+    }
+
+    // In every copy of the name; in the file it is UTF-16.
+    static void rename(const ProgramFolder &folder, const QString &from, const QString &to)
+    {
+        const auto bytes = [](const QString &text) {
+            return QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
+        };
+        folder.write(Database, folder.read(Database).replace(bytes(from), bytes(to)));
+    }
 };
 
-namespace {
-
-/// The rows of a list as "text|sub-item|...".
-QStringList rowsOf(const Form1 &form, const QString &list)
-{
-    QStringList rows;
-    const QAbstractItemModel &model = *form.findChild<RowListView *>(list)->model();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column)
-            cells << model.index(row, column).data().toString();
-        rows << cells.join(QLatin1Char('|'));
-    }
-    return rows;
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(SampleDatabases::Edit)
-
-void DatabasesTest::editedTable_data()
-{
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<int>("command");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QStringList>("rows");
-
-    const QString cooling = QStringLiteral("Refrigeration");
-    const auto coolingRow = [&](const char *name, const Edit &edit, const QStringList &rows) {
-        QTest::newRow(name) << edit << 1117 << "ListView9" << rows;
-    };
-    coolingRow("as it was", {cooling, 2}, {"0.0|0.1", "1.0|1.1"});
-    coolingRow("a column more", {cooling, 2, {}, true}, {"0.0|0.1", "1.0|1.1"});
-    coolingRow("a row more", {cooling, 3}, {"0.0|0.1", "1.0|1.1", "2.0|2.1"});
-    coolingRow("rows deleted", {cooling, 4, {0, 2}}, {"1.0|1.1", "3.0|3.1"});
-    coolingRow("no rows", {cooling, 0}, {});
-    coolingRow("all rows deleted", {cooling, 2, {0, 1}}, {});
-    coolingRow("columns of numbers", {cooling, 3, {}, false, true}, {"0|0.1", "1|1.1", "2|2.1"});
-}
-
-void DatabasesTest::editedTable()
-{
-    QFETCH(Edit, edit);
-    QFETCH(int, command);
-    QFETCH(QString, list);
-    QFETCH(QStringList, rows);
-    const ProgramFolder folder;
-    folder.write(QStringLiteral("Data/Database_uk.mdb"), SampleDatabases::catalogued(2, edit));
-    FaultRun run;
-    run.start(folder, [&](Form1 &form) {
-        form.executeCommand(command);
-        QCOMPARE(rowsOf(form, list), rows);
-        // The tables behind it are loaded whatever became of this one.
-        form.executeCommand(1133);
-        QCOMPARE(rowsOf(form, QStringLiteral("ListView3(26)")).size(), 2);
-    });
-    QCOMPARE(run.outcome(), QStringLiteral("runs"));
-}
-
-void DatabasesTest::ofAnotherKind_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    const QByteArray whole = SampleDatabases::catalogued(1);
-    QByteArray jet3 = whole;
-    jet3[0x14] = 0;
-    QTest::newRow("Jet 3") << jet3;
-    QByteArray ace = whole;
-    ace[0x14] = 2;
-    ace.replace(4, 15, "Standard ACE DB");
-    QTest::newRow("Access 2007") << ace;
-    QTest::newRow("header alone") << whole.first(128);
-    QTest::newRow("one page") << whole.first(4096);
-    QTest::newRow("another password") << SampleDatabases::catalogued(1).replace(0x42, 4, "\1\2\3\4");
-    QTest::newRow("text") << QByteArray("name,value\r\n").repeated(1000);
-    QTest::newRow("zeros") << QByteArray(1 << 20, '\0');
-}
-
-// Refused with the question before any window, and untouched.
-void DatabasesTest::ofAnotherKind()
-{
-    QFETCH(QByteArray, content);
-    const ProgramFolder folder;
-    folder.write(QStringLiteral("Data/Database_uk.mdb"), content);
-    FaultRun run;
-    run.start(folder);
-    QCOMPARE(run.outcome(), QStringLiteral("question"));
-    QVERIFY(!run.stood);
-    QCOMPARE(folder.read(QStringLiteral("Data/Database_uk.mdb")), content);
-}
-
-QTEST_MAIN(DatabasesTest)
+const TestClass<DatabasesTest> databasesTest;
 #include "databases_test.moc"

@@ -1,290 +1,248 @@
 #include "app/commands.h"
-#include "tests/faults/faultrun.h"
+#include "tests/support/wholerun.h"
 #include "widgets/picturebox.h"
 #include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QTest>
 
-/// Every file that the program comes with, in turn missing, empty, cut, of another kind, unreadable or a
+/// The files that the program comes with, in turn missing, empty, cut, of another kind, unreadable or a
 /// folder.
-class FilesTest final : public QObject
+class FilesTest final : public WholeRun
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void spoiltAtStart_data();
-    void spoiltAtStart();
-    void spoiltBackup_data();
-    void spoiltBackup();
-    void spoiltTips_data();
-    void spoiltTips();
-    void spoiltPictures_data();
-    void spoiltPictures();
-    void hugePictureIsRefused();
-    void noPictureIsNeededToOpenAPane();
+    void spoiltAtStart()
+    {
+        struct
+        {
+            const char *file;
+            const char *fault;
+            const char *outcome;
+        } const rows[] = {
+            {"options_uk.ini", "missing", "report 53"},
+            {"options_uk.ini", "empty", "runs"},
+            {"options_uk.ini", "unreadable", "report 75"},
+            {"options_uk.ini", "a folder", "report 75"},
+            {"menuc_uk.xcb", "missing", "report 53"},
+            {"menuc_uk.xcb", "empty", "report 321"},
+            {"menuc_uk.xcb", "cut", "report 321"},
+            {"menuc_uk.xcb", "unreadable", "report 75"},
+            {"menuc_uk.xcb", "a folder", "report 75"},
+            {"Data/Database_uk.mdb", "missing", "question"},
+            {"Data/Database_uk.mdb", "empty", "question"},
+            {"Data/Database_uk.mdb", "cut", "question"},
+            {"Data/Database_uk.mdb", "of another kind", "question"},
+            {"Data/Database_uk.mdb", "unreadable", "question"},
+            {"Data/Database_uk.mdb", "a folder", "question"},
+            // Never opened while the database is good, or by another program.
+            {"Backup/Database_uk_origin.rbk", "a folder", "runs"},
+            {"alembra_help_uk.chm", "a folder", "runs"},
+        };
+        QStringList windows; // at the last box
+        m_desktop.whileWaiting = [&windows] {
+            windows.clear();
+            for (const QWidget *window : QApplication::topLevelWidgets()) {
+                if (window->isVisible())
+                    windows << window->objectName();
+            }
+        };
+        for (const auto &row : rows) {
+            const ProgramFolder folder;
+            spoil(folder, row.file, row.fault);
+            const QString name = QStringLiteral("%1, %2: ").arg(row.file, row.fault);
+            const QString end = outcome(folder, [](Form1 &form) { form.executeCommand(CommandId::Help); });
+            QCOMPARE(name + end, name + row.outcome);
+            QCOMPARE(m_cameUp, end == QStringLiteral("runs"));
+            if (end.startsWith(QStringLiteral("report"))) {
+                QVERIFY(m_desktop.boxes.constFirst().first.contains(folder.path(row.file)));
+                QCOMPARE(windows, QStringList(QStringLiteral("frmload"))); // the splash
+            }
+        }
+        m_desktop.whileWaiting = {};
+    }
+
+    // Wanted after a failed open, which was an error: a copy that fails then is not asked about again.
+    void spoiltBackup()
+    {
+        struct
+        {
+            const char *fault;
+            const char *last; ///< how the last box begins
+        } const rows[] = {
+            {"missing", "Run-time error '53'"},
+            {"unreadable", "Run-time error '75'"},
+            {"good", "The original database was successfully reinstalled!"},
+        };
+        for (const auto &row : rows) {
+            const ProgramFolder folder;
+            folder.write(QStringLiteral("Data/Database_uk.mdb"), "damage");
+            if (qstrcmp(row.fault, "good") != 0)
+                spoil(folder, "Backup/Database_uk_origin.rbk", row.fault);
+            m_desktop.answers = {Desktop::Yes};
+            outcome(folder);
+            QVERIFY(!m_cameUp);
+            QCOMPARE(m_desktop.boxes.size(), 2);
+            QVERIFY2(m_desktop.boxes[1].first.startsWith(QLatin1StringView(row.last)),
+                     qPrintable(m_desktop.boxes[1].first));
+            const bool good = qstrcmp(row.fault, "good") == 0;
+            QCOMPARE(folder.read(QStringLiteral("Data/Database_uk.mdb")) == "damage", !good);
+            if (good)
+                QCOMPARE(outcome(folder), QStringLiteral("runs"));
+        }
+    }
+
+    void spoiltTips()
+    {
+        struct
+        {
+            const char *fault;
+            const char *outcome;
+            const char *tip;
+        } const rows[] = {
+            {"missing", "runs", "was not found?"},
+            {"a folder", "runs", "was not found?"},
+            {"empty", "runs", ""},
+            {"of another kind", "runs", "This is no such file."},
+            {"unreadable", "report 75", ""},
+        };
+        for (const auto &row : rows) {
+            const ProgramFolder folder;
+            folder.setOption(56, "1");
+            spoil(folder, "TIPOFDAY_UK.TXT", row.fault);
+            const QString end = outcome(folder, [&](Form1 &form) {
+                QVERIFY(!form.isEnabled());
+                const auto &tip =
+                    get<QLabel>(get(form, QStringLiteral("frmTip")), QStringLiteral("lblTipText"));
+                QVERIFY2(tip.text().contains(QLatin1StringView(row.tip)), row.fault);
+            });
+            QCOMPARE(row.fault + end, QLatin1StringView(row.fault) + QLatin1StringView(row.outcome));
+        }
+    }
+
+    // Without a trap the report ends the program, with the path of the picture. The window of formulas says
+    // that there is none, and only that.
+    void spoiltPictures()
+    {
+        struct
+        {
+            const char *file;
+            Steps steps;
+            QList<std::pair<const char *, const char *>> outcomes; ///< of faults
+        } const rows[] = {
+            {"Data/elements/26.jpg",
+             [](Form1 &form) { showIron(form); },
+             {{"missing", "report 53"},
+              {"empty", "report 481"},
+              {"of another kind", "report 481"},
+              {"huge", "report 481"},
+              {"a folder", "report 75"},
+              {"unreadable", "report 481"}}},
+            {"Data/elements/26b.jpg",
+             [](Form1 &form) {
+                 showIron(form);
+                 Q_EMIT get<PictureBox>(form, QStringLiteral("imgato")).clicked();
+             },
+             {{"missing", "report 53"}, {"empty", "report 481"}}},
+            {"Data/cristal/Body-centered cubic.bmp",
+             [](Form1 &form) {
+                 showIron(form);
+                 get<QAbstractButton>(form, QStringLiteral("Command9")).click();
+             },
+             {{"missing", "report 53"}, {"empty", "report 481"}}},
+            {"Data/ir/1.gif",
+             chart(1144, "ListView3(5)"),
+             {{"missing", "report 53"}, {"empty", "report 481"}}},
+            {"Data/nmr/1h/1000.gif", chart(1142, "ListView3(15)"), {{"missing", "report 53"}}},
+            {"Data/nmr/13c/1000.gif", chart(1143, "ListView3(16)"), {{"missing", "report 53"}}},
+            {"Data/chemicals/1.bmp",
+             [](Form1 &form) {
+                 form.executeCommand(1119);
+                 Q_EMIT get<RowListView>(form, QStringLiteral("ListView1")).rowDoubleClicked(0);
+             },
+             {{"missing", "runs with Form2"}, {"empty", "runs"}, {"unreadable", "runs"}}},
+        };
+        for (const auto &row : rows) {
+            for (const auto &[fault, expected] : row.outcomes) {
+                const ProgramFolder folder;
+                for (const int slot : {55, 58, 74}) // pictures are shown
+                    folder.setOption(slot, "1");
+                spoil(folder, row.file, fault);
+                QString window;
+                const QString end = outcome(folder, [&](Form1 &form) {
+                    row.steps(form);
+                    for (const auto *name : {"Form2", "Form4", "Form5"}) {
+                        if (form.findChild<QWidget *>(QLatin1StringView(name)))
+                            window = QStringLiteral(" with ") + QLatin1StringView(name);
+                    }
+                });
+                const QString name = QStringLiteral("%1, %2: ").arg(row.file, fault);
+                QCOMPARE(name + end + window, name + expected);
+                QVERIFY(!end.startsWith(QStringLiteral("report")) ||
+                        m_desktop.boxes.constLast().first.contains(folder.path(row.file)));
+            }
+        }
+    }
+
+    // Whole folders of pictures gone: the program starts and every pane opens.
+    void noPictureIsNeededToOpenAPane()
+    {
+        const ProgramFolder folder;
+        for (const QString &name :
+             QDir(folder.path(QStringLiteral("Data"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            QVERIFY(QFile::remove(folder.path(QStringLiteral("Data/") + name)));
+        const QString end = outcome(folder, [](Form1 &form) {
+            for (const Command &command : Commands) {
+                if (command.kind == CommandKind::ShowPanel || command.kind == CommandKind::SolventTab)
+                    form.executeCommand(command.id);
+            }
+        });
+        QCOMPARE(end, QStringLiteral("runs"));
+    }
+
+private:
+    static void spoil(const ProgramFolder &folder, const char *file, const QByteArray &fault)
+    {
+        const QString below = QLatin1StringView(file);
+        folder.makeOwn(QFileInfo(below).path());
+        const QByteArray whole = folder.read(below);
+        QVERIFY(!whole.isEmpty() && QFile::remove(folder.path(below)));
+        // A bitmap of 20,000 x 20,000 pixels, whose header is all there is of it.
+        const QByteArray huge("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x20\x4E\0\0\x20\x4E\0\0\1\0\x18\0", 30);
+        if (fault == "empty")
+            folder.write(below, {});
+        else if (fault == "cut")
+            folder.write(below, whole.first(whole.size() / 2 + 1)); // not at the end of a page of a database
+        else if (fault == "of another kind")
+            folder.write(below, QByteArray("This is no such file.\r\n").repeated(20));
+        else if (fault == "huge")
+            folder.write(below, huge + QByteArray(1000, '\0'));
+        else if (fault == "a folder")
+            QDir().mkpath(folder.path(below));
+        else if (fault == "unreadable") // opens, and then every read fails, like a worn medium
+            QFile::link(QStringLiteral("/proc/self/mem"), folder.path(below));
+        else
+            QCOMPARE(fault, "missing");
+    }
+
+    static void showIron(Form1 &form)
+    {
+        form.executeCommand(1108);
+        get<QAbstractButton>(form, QStringLiteral("Command7(25)")).click();
+    }
+
+    // Shows the chart of the first row of a list behind a command.
+    static Steps chart(int command, const char *list)
+    {
+        return [command, list](Form1 &form) {
+            form.executeCommand(command);
+            auto &view = get<RowListView>(form, QLatin1StringView(list));
+            view.selectRow(0);
+            Q_EMIT view.rowClicked(0);
+        };
+    }
 };
 
-void FilesTest::spoiltAtStart_data()
-{
-    QTest::addColumn<QByteArray>("fault");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("outcome");
-
-    const auto add = [](const char *fault, const char *file, const char *outcome) {
-        QTest::addRow("%s %s", file, fault) << QByteArray(fault) << file << outcome;
-    };
-    add("missing", "options_uk.ini", "report 53");
-    add("empty", "options_uk.ini", "runs");
-    add("cut", "options_uk.ini", "runs");
-    add("of another kind", "options_uk.ini", "runs");
-    add("unreadable", "options_uk.ini", "report 75");
-    add("a folder", "options_uk.ini", "report 75");
-
-    add("missing", "menuc_uk.xcb", "report 53");
-    add("empty", "menuc_uk.xcb", "report 321");
-    add("cut", "menuc_uk.xcb", "report 321");
-    add("of another kind", "menuc_uk.xcb", "report 321");
-    add("unreadable", "menuc_uk.xcb", "report 75");
-    add("a folder", "menuc_uk.xcb", "report 75");
-
-    for (const char *fault : {"missing", "empty", "of another kind", "unreadable", "a folder"})
-        add(fault, "Data/Database_uk.mdb", "question");
-    add("cut", "Data/Database_uk.mdb", "question");
-
-    // Never opened while the database is good, or by another program.
-    for (const char *file : {"Backup/Database_uk_origin.rbk", "alembra_help_uk.chm"}) {
-        for (const char *fault : {"missing", "empty", "cut", "of another kind", "unreadable", "a folder"})
-            add(fault, file, "runs");
-    }
-}
-
-void FilesTest::spoiltAtStart()
-{
-    QFETCH(QByteArray, fault);
-    QFETCH(QString, file);
-    QFETCH(QString, outcome);
-    const ProgramFolder folder;
-    Fault::bring(folder, file, fault);
-    FaultRun run;
-    run.start(folder, [](Form1 &form) { form.executeCommand(1123); }); // the help
-    QCOMPARE(run.outcome(), outcome);
-    QCOMPARE(run.stood, outcome == QStringLiteral("runs"));
-    if (outcome.startsWith(QStringLiteral("report")))
-        QVERIFY(run.boxNames(folder.path(file)));
-}
-
-void FilesTest::spoiltBackup_data()
-{
-    QTest::addColumn<QByteArray>("fault");
-    QTest::addColumn<QString>("last");
-    QTest::newRow("missing") << QByteArray("missing") << "Run-time error '53'";
-    QTest::newRow("a folder") << QByteArray("a folder") << "Run-time error '75'";
-    QTest::newRow("unreadable") << QByteArray("unreadable") << "Run-time error '75'";
-    // Copied as it is: the next start asks again.
-    QTest::newRow("empty") << QByteArray("empty") << "The original database was successfully reinstalled!";
-}
-
-// Wanted after a failed open, which was an error: a copy that fails then is not asked about again.
-void FilesTest::spoiltBackup()
-{
-    QFETCH(QByteArray, fault);
-    QFETCH(QString, last);
-    const ProgramFolder folder;
-    folder.write(QStringLiteral("Data/Database_uk.mdb"), "damage");
-    Fault::bring(folder, QStringLiteral("Backup/Database_uk_origin.rbk"), fault);
-    FaultRun run;
-    run.desktop.answers = {Desktop::Yes};
-    run.start(folder);
-    QVERIFY(!run.stood);
-    QCOMPARE(run.desktop.boxes.size(), 2);
-    QVERIFY2(run.desktop.boxes.constLast().first.startsWith(last),
-             qPrintable(run.desktop.boxes.constLast().first));
-    if (fault != "empty")
-        QCOMPARE(folder.read(QStringLiteral("Data/Database_uk.mdb")), QByteArray("damage"));
-}
-
-void FilesTest::spoiltTips_data()
-{
-    QTest::addColumn<QByteArray>("fault");
-    QTest::addColumn<QString>("outcome");
-    QTest::addColumn<QString>("tip");
-    const QString notFound = QStringLiteral("was not found?");
-    QTest::newRow("missing") << QByteArray("missing") << "runs" << notFound;
-    QTest::newRow("a folder") << QByteArray("a folder") << "runs" << notFound;
-    QTest::newRow("empty") << QByteArray("empty") << "runs" << QString();
-    QTest::newRow("cut") << QByteArray("cut") << "runs" << QString();
-    QTest::newRow("of another kind") << QByteArray("of another kind") << "runs"
-                                     << "This is no such file.";
-    QTest::newRow("unreadable") << QByteArray("unreadable") << "report 75" << QString();
-}
-
-void FilesTest::spoiltTips()
-{
-    QFETCH(QByteArray, fault);
-    QFETCH(QString, outcome);
-    QFETCH(QString, tip);
-    const ProgramFolder folder;
-    folder.setOption(56, "1");
-    Fault::bring(folder, QStringLiteral("TIPOFDAY_UK.TXT"), fault);
-    FaultRun run;
-    run.start(folder, [&](Form1 &form) {
-        const auto *window = form.findChild<QWidget *>(QStringLiteral("frmTip"));
-        QVERIFY(window);
-        QVERIFY(!form.isEnabled());
-        QVERIFY(window->findChild<QLabel *>(QStringLiteral("lblTipText"))->text().contains(tip));
-    });
-    QCOMPARE(run.outcome(), outcome);
-}
-
-namespace {
-
-void click(const Form1 &form, const char *button)
-{
-    form.findChild<QAbstractButton *>(QLatin1StringView(button))->click();
-}
-
-void showIron(Form1 &form)
-{
-    form.executeCommand(1108);
-    click(form, "Command7(25)");
-}
-
-void zoomIron(Form1 &form)
-{
-    showIron(form);
-    Q_EMIT form.findChild<PictureBox *>(QStringLiteral("imgato"))->clicked();
-}
-
-void showCrystal(Form1 &form)
-{
-    showIron(form);
-    click(form, "Command9");
-}
-
-// Shows the chart of the first row of a list behind a command.
-std::function<void(Form1 &)> chart(int command, const char *list)
-{
-    return [command, list](Form1 &form) {
-        form.executeCommand(command);
-        auto *view = form.findChild<RowListView *>(QLatin1StringView(list));
-        view->selectRow(0);
-        Q_EMIT view->rowClicked(0);
-    };
-}
-
-void showFormula(Form1 &form)
-{
-    form.executeCommand(1119);
-    auto *list = form.findChild<RowListView *>(QStringLiteral("ListView1"));
-    Q_EMIT list->doubleClicked(list->model()->index(0, 0));
-}
-
-} // namespace
-
-void FilesTest::spoiltPictures_data()
-{
-    using Walk = std::function<void(Form1 &)>;
-    QTest::addColumn<QByteArray>("fault");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<Walk>("walk");
-    QTest::addColumn<QString>("outcome");
-    QTest::addColumn<QString>("window");
-
-    struct Place
-    {
-        const char *file;
-        Walk walk;
-        const char *window;
-    };
-    // Without a trap the report ends the program, with the path of the picture.
-    for (const Place &place :
-         {Place{"Data/elements/26.jpg", showIron, ""}, Place{"Data/elements/26b.jpg", zoomIron, "Form5"},
-          Place{"Data/cristal/Body-centered cubic.bmp", showCrystal, "Form4"},
-          Place{"Data/ir/1.gif", chart(1144, "ListView3(5)"), ""},
-          Place{"Data/nmr/1h/1000.gif", chart(1142, "ListView3(15)"), ""},
-          Place{"Data/nmr/13c/1000.gif", chart(1143, "ListView3(16)"), ""}}) {
-        const auto add = [&](const char *fault, const char *outcome, const char *window) {
-            QTest::addRow("%s %s", place.file, fault)
-                << QByteArray(fault) << place.file << place.walk << outcome << window;
-        };
-        add("missing", "report 53", "");
-        add("empty", "report 481", "");
-        add("of another kind", "report 481", "");
-        add("a folder", "report 75", "");
-        add("unreadable", "report 481", "");
-    }
-    // The window of formulas says that there is none, and only that.
-    const auto formula = [](const char *fault, const char *window) {
-        QTest::addRow("formula %s", fault)
-            << QByteArray(fault) << "Data/chemicals/1.bmp" << Walk(showFormula) << "runs" << window;
-    };
-    formula("missing", "Form2");
-    formula("empty", "");
-    formula("of another kind", "");
-    formula("a folder", "");
-    formula("unreadable", "");
-}
-
-void FilesTest::spoiltPictures()
-{
-    QFETCH(QByteArray, fault);
-    QFETCH(QString, file);
-    QFETCH(std::function<void(Form1 &)>, walk);
-    QFETCH(QString, outcome);
-    QFETCH(QString, window);
-    const ProgramFolder folder;
-    folder.setOption(55, "1");
-    folder.setOption(58, "1");
-    folder.setOption(74, "1");
-    Fault::bring(folder, file, fault);
-    FaultRun run;
-    QString shown;
-    run.start(folder, [&](Form1 &form) {
-        walk(form);
-        for (const char *name : {"Form2", "Form4", "Form5"}) {
-            if (form.findChild<QWidget *>(QLatin1StringView(name)))
-                shown = QLatin1StringView(name);
-        }
-    });
-    QCOMPARE(run.outcome(), outcome);
-    QCOMPARE(shown, window);
-    if (outcome.startsWith(QStringLiteral("report")))
-        QVERIFY(run.boxNames(folder.path(file)));
-}
-
-// Larger than any picture that we ship by a thousand times; it must not take the machine's memory.
-void FilesTest::hugePictureIsRefused()
-{
-    const ProgramFolder folder;
-    folder.setOption(74, "1");
-    const QString file = QStringLiteral("Data/elements/26.jpg");
-    Fault::bring(folder, file, "empty");
-    // A bitmap of 20,000 x 20,000 pixels, whose header is all there is of it.
-    QByteArray bitmap("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x20\x4E\0\0\x20\x4E\0\0\1\0\x18\0", 30);
-    folder.write(file, bitmap + QByteArray(1000, '\0'));
-    FaultRun run;
-    run.start(folder, showIron);
-    QCOMPARE(run.outcome(), QStringLiteral("report 481"));
-}
-
-// Whole folders of pictures gone: the program starts and every pane opens.
-void FilesTest::noPictureIsNeededToOpenAPane()
-{
-    const ProgramFolder folder;
-    for (const QString &name :
-         QDir(folder.path(QStringLiteral("Data"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        QFile::remove(folder.path(QStringLiteral("Data/") + name));
-    FaultRun run;
-    run.start(folder, [](Form1 &form) {
-        for (const Command &command : Commands) {
-            if (command.kind == CommandKind::ShowPanel || command.kind == CommandKind::SolventTab)
-                form.executeCommand(command.id);
-        }
-    });
-    QCOMPARE(run.outcome(), QStringLiteral("runs"));
-}
-
-QTEST_MAIN(FilesTest)
+const TestClass<FilesTest> filesTest;
 #include "files_test.moc"

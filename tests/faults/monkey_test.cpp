@@ -1,7 +1,6 @@
 #include "app/commands.h"
-#include "tests/faults/faultrun.h"
+#include "tests/support/wholerun.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
@@ -9,240 +8,152 @@
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QTabBar>
-#include <QTest>
 #include <malloc.h>
 
 #ifdef __SANITIZE_ADDRESS__
 extern "C" size_t __sanitizer_get_current_allocated_bytes(); // its header comes with clang only
 #endif
 
-namespace {
-
-size_t bytesInUse()
+/// Somebody who does anything at all, by chance but the same in every run: commands, clicks, keys and texts
+/// on the delivered data. Nothing crashes, no run-time error meets the user, and memory does not grow once
+/// everything has been seen.
+class MonkeyTest final : public WholeRun
 {
-#ifdef __SANITIZE_ADDRESS__
-    return __sanitizer_get_current_allocated_bytes();
-#else
-    return mallinfo2().uordblks;
-#endif
-}
+    Q_OBJECT
 
-/// Somebody who does anything at all, by chance but the same for the same seed.
-class Monkey final
-{
-public:
-    Monkey(Form1 &form, ScriptedDesktop &desktop, QString folder, quint32 seed)
-        : m_form(form), m_desktop(desktop), m_folder(std::move(folder)), m_random(seed)
-    {}
-
-    void act()
+private Q_SLOTS:
+    void anythingInAnyOrder()
     {
-        answerInAdvance();
+        constexpr int FirstLook = 1000;
+        QPixmapCache::setCacheLimit(1024); // kilobytes; a cache that fills is no leak
+        const ProgramFolder folder;
+        QString lastAct;
+        InUse first;
+        InUse last;
+        const QString end = outcome(folder, [&](Form1 &form) {
+            for (int number = 1; number <= 5 * FirstLook; ++number) {
+                m_desktop.boxes.clear();
+                m_desktop.targets.clear();
+                m_desktop.saveRequests.clear();
+                lastAct = QStringLiteral("act %1, ").arg(number);
+                act(form, folder, lastAct);
+                last = {bytesInUse(), QApplication::allWidgets().size()};
+                if (number <= FirstLook)
+                    first = {std::max(first.bytes, last.bytes), std::max(first.widgets, last.widgets)};
+            }
+            m_desktop.boxes.clear();
+        });
+        QVERIFY2(end == QStringLiteral("runs"), qPrintable(lastAct + end));
+        QVERIFY2(last.widgets <= first.widgets * 11 / 10, qPrintable(QString::number(last.widgets)));
+        QVERIFY2(last.bytes <= first.bytes + (8u << 20), qPrintable(QString::number(last.bytes)));
+    }
+
+private:
+    struct InUse
+    {
+        size_t bytes = 0;
+        qsizetype widgets = 0;
+    };
+
+    static size_t bytesInUse()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        return __sanitizer_get_current_allocated_bytes();
+#else
+        return mallinfo2().uordblks;
+#endif
+    }
+
+    int below(qsizetype bound)
+    {
+        return m_random.bounded(std::max(int(bound), 1));
+    }
+
+    void act(Form1 &form, const ProgramFolder &folder, QString &what)
+    {
+        m_desktop.answers = QList<Desktop::Answer>(4, below(2) == 0 ? Desktop::Yes : Desktop::No);
+        m_desktop.savePaths.clear();
+        if (below(3) != 0)
+            m_desktop.savePaths << folder.path(QStringLiteral("saved%1").arg(below(3)));
         if (QWidget *popup = QApplication::activePopupWidget())
             popup->close();
-        if (m_form.isEnabled() && m_random.bounded(5) == 0)
-            giveCommand();
-        else
-            useControl();
+        const Command &command = Commands[size_t(below(qsizetype(Commands.size())))];
+        if (form.isEnabled() && below(5) == 0) {
+            what += QStringLiteral("command %1: ").arg(command.id);
+            // Not the end, and not what asks the network.
+            if (command.kind != CommandKind::Quit && command.kind != CommandKind::CheckVersion)
+                form.executeCommand(command.id);
+        } else {
+            useControl(form, what);
+        }
         QCoreApplication::processEvents(); // what was posted, and windows that are gone
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    QString lastAct() const { return m_lastAct; }
-
-private:
-    void answerInAdvance()
+    void useControl(Form1 &form, QString &what)
     {
-        m_desktop.answers = QList<Desktop::Answer>(4, m_random.bounded(2) == 0 ? Desktop::Yes : Desktop::No);
-        m_desktop.savePaths.clear();
-        if (m_random.bounded(3) != 0)
-            m_desktop.savePaths << m_folder + QStringLiteral("/saved%1").arg(m_random.bounded(3));
-    }
-
-    // Not the end, and not what asks the network.
-    void giveCommand()
-    {
-        const Command &command = Commands[size_t(m_random.bounded(int(Commands.size())))];
-        if (command.kind == CommandKind::Quit || command.kind == CommandKind::CheckVersion)
-            return;
-        m_lastAct = QStringLiteral("command %1").arg(command.id);
-        m_form.executeCommand(command.id);
-    }
-
-    void useControl()
-    {
-        QWidget *window = &m_form;
+        QWidget *window = &form;
         for (QWidget *other : QApplication::topLevelWidgets()) {
-            if (!m_form.isEnabled() && other->isVisible() && other->isEnabled() && other->isWindow() &&
-                other != &m_form)
+            if (!form.isEnabled() && other->isVisible() && other->isEnabled() && other != &form)
                 window = other;
-        }
-        if (window != &m_form && m_random.bounded(20) == 0) {
-            m_lastAct = QStringLiteral("close ") + window->objectName();
-            window->close();
-            return;
         }
         QWidgetList controls;
         for (QWidget *control : window->findChildren<QWidget *>()) {
+            // The views of a reaction where none is chosen are the run-time error.
             if (control->isVisible() && control->isEnabled() && control->window() == window &&
-                !isFatal(*control))
+                !control->objectName().startsWith(QStringLiteral("optorga(")))
                 controls << control;
         }
-        if (!controls.isEmpty())
-            use(*controls[m_random.bounded(int(controls.size()))]);
-    }
-
-    // The list of reactions is empty in every run, and the views of a reaction without one are the run-time
-    // error.
-    static bool isFatal(const QWidget &control)
-    {
-        return control.objectName().startsWith(QStringLiteral("optorga("));
+        what += QStringLiteral("in ") + window->objectName();
+        if (controls.isEmpty() || (window != &form && below(20) == 0)) {
+            window->close();
+            return;
+        }
+        QWidget &control = *controls[below(controls.size())];
+        what += QStringLiteral(": %1 \"%2\": ")
+                    .arg(QLatin1StringView(control.metaObject()->className()), control.objectName());
+        use(control);
     }
 
     void use(QWidget &control)
     {
-        m_lastAct = QStringLiteral("%1 \"%2\" of %3")
-                        .arg(QLatin1StringView(control.metaObject()->className()), control.objectName(),
-                             control.window()->objectName());
         if (auto *tabs = qobject_cast<QTabBar *>(&control)) {
-            if (tabs->count() > 0)
-                click(*tabs, tabs->tabRect(m_random.bounded(tabs->count())).center());
-        } else if (auto *box = qobject_cast<QComboBox *>(&control)) {
-            choose(*box);
-        } else if (auto *view = qobject_cast<QAbstractItemView *>(&control)) {
-            clickRow(*view);
-        } else if (auto *field = qobject_cast<QLineEdit *>(&control)) {
-            type(*field);
+            click(*tabs, tabs->tabRect(below(tabs->count())).center());
+        } else if (auto *box = qobject_cast<QComboBox *>(&control); box && box->count() > 0) {
+            box->setCurrentIndex(below(box->count()));
+            Q_EMIT box->activated(box->currentIndex());
+        } else if (auto *view = qobject_cast<QAbstractItemView *>(&control); view && view->model()) {
+            const QModelIndex index = view->model()->index(below(view->model()->rowCount()), 0);
+            view->scrollTo(index);
+            click(*view->viewport(), view->visualRect(index).center());
+        } else if (qobject_cast<QLineEdit *>(&control)) {
+            static const QStringList texts{"0",     "-3.7", "1e300", "12345678901234567890",
+                                           "water", "*?[",  ",.-+e"};
+            if (below(2) == 0)
+                QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(&control, texts[below(texts.size())]);
         } else if (auto *bar = qobject_cast<QScrollBar *>(&control)) {
             bar->setValue(m_random.bounded(bar->minimum(), bar->maximum() + 1));
-        } else if (m_random.bounded(4) == 0) {
-            press(control);
+        } else if (below(4) == 0) {
+            static const QList keys{Qt::Key_Left,   Qt::Key_Down,  Qt::Key_Tab, Qt::Key_End,
+                                    Qt::Key_PageUp, Qt::Key_F,     Qt::Key_7,   Qt::Key_Return,
+                                    Qt::Key_Space,  Qt::Key_Escape};
+            QTest::keyClick(&control, keys[below(keys.size())]);
         } else {
-            click(control, QPoint(m_random.bounded(std::max(control.width(), 1)),
-                                  m_random.bounded(std::max(control.height(), 1))));
+            click(control, QPoint(below(control.width()), below(control.height())));
         }
     }
 
     void click(QWidget &control, const QPoint &place)
     {
-        if (m_random.bounded(8) == 0)
+        if (below(8) == 0)
             QTest::mouseDClick(&control, Qt::LeftButton, {}, place);
         else
             QTest::mouseClick(&control, Qt::LeftButton, {}, place);
     }
 
-    void choose(QComboBox &box)
-    {
-        if (box.count() == 0)
-            return;
-        const int index = m_random.bounded(box.count());
-        box.setCurrentIndex(index);
-        Q_EMIT box.activated(index);
-    }
-
-    void clickRow(QAbstractItemView &view)
-    {
-        const int rows = view.model() ? view.model()->rowCount() : 0;
-        if (rows == 0)
-            return;
-        const QModelIndex index = view.model()->index(m_random.bounded(rows), 0);
-        view.scrollTo(index);
-        click(*view.viewport(), view.visualRect(index).center());
-    }
-
-    void type(QLineEdit &field)
-    {
-        static const QStringList texts{QStringLiteral("0"),
-                                       QStringLiteral("1"),
-                                       QStringLiteral("-3.7"),
-                                       QStringLiteral("1e300"),
-                                       QStringLiteral("12345678901234567890"),
-                                       QStringLiteral("water"),
-                                       QStringLiteral("A"),
-                                       QStringLiteral("*?["),
-                                       QStringLiteral(",.-+e"),
-                                       QStringLiteral("0.0000001")};
-        if (m_random.bounded(2) == 0) {
-            field.setFocus();
-            field.selectAll();
-            QTest::keyClick(&field, Qt::Key_Delete);
-        }
-        QTest::keyClicks(&field, texts[m_random.bounded(int(texts.size()))]);
-        if (m_random.bounded(3) == 0)
-            QTest::keyClick(&field, Qt::Key_Return);
-    }
-
-    void press(QWidget &control)
-    {
-        static constexpr std::array Keys{Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up,     Qt::Key_Down,
-                                         Qt::Key_Tab,   Qt::Key_Home,   Qt::Key_End,    Qt::Key_PageUp,
-                                         Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape, Qt::Key_F,
-                                         Qt::Key_7};
-        QTest::keyClick(&control, Keys[size_t(m_random.bounded(int(Keys.size())))]);
-    }
-
-    Form1 &m_form;
-    ScriptedDesktop &m_desktop;
-    const QString m_folder;
-    QRandomGenerator m_random;
-    QString m_lastAct;
+    QRandomGenerator m_random{20260101};
 };
 
-} // namespace
-
-/// 10,000 commands, clicks, keys and texts by chance on the delivered data: nothing crashes, no run-time
-/// error meets the user, and memory does not grow once everything has been seen.
-class MonkeyTest final : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void anythingInAnyOrder();
-};
-
-void MonkeyTest::anythingInAnyOrder()
-{
-    constexpr int Acts = 10000;
-    constexpr int FirstLook = 1000;
-    QPixmapCache::setCacheLimit(1024); // kilobytes; a cache that fills is no leak
-    const ProgramFolder folder;
-    const QTemporaryDir saved;
-    FaultRun run;
-    QString failure;
-    size_t bytesAtFirst = 0;
-    size_t bytesAtEnd = 0;
-    qsizetype widgetsAtFirst = 0;
-    qsizetype widgetsAtEnd = 0;
-    run.start(folder, [&](Form1 &form) {
-        Monkey monkey(form, run.desktop, saved.path(), 20260101);
-        for (int act = 1; act <= Acts && failure.isEmpty(); ++act) {
-            run.desktop.boxes.clear();
-            run.desktop.targets.clear();
-            run.desktop.saveRequests.clear();
-            try {
-                monkey.act();
-            } catch (const ProcessEnded &) {
-                failure = QStringLiteral("act %1, %2: %3")
-                              .arg(act)
-                              .arg(monkey.lastAct(), run.desktop.boxes.constLast().first);
-            }
-            const qsizetype widgets = QApplication::allWidgets().size();
-            if (act <= FirstLook) {
-                bytesAtFirst = std::max(bytesAtFirst, bytesInUse());
-                widgetsAtFirst = std::max(widgetsAtFirst, widgets);
-            }
-            if (act == Acts) {
-                bytesAtEnd = bytesInUse();
-                widgetsAtEnd = widgets;
-            }
-        }
-    });
-    QVERIFY2(failure.isEmpty(), qPrintable(failure));
-    qInfo("in use: %zu kB at first, %zu kB at the end; widgets: %lld and %lld", bytesAtFirst / 1024,
-          bytesAtEnd / 1024, qlonglong(widgetsAtFirst), qlonglong(widgetsAtEnd));
-    QVERIFY(widgetsAtEnd <= widgetsAtFirst * 11 / 10);
-    QVERIFY(bytesAtEnd <= bytesAtFirst + (8u << 20));
-}
-
-QTEST_MAIN(MonkeyTest)
+const TestClass<MonkeyTest> monkeyTest;
 #include "monkey_test.moc"

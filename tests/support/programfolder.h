@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
+#include "tests/support/files.h"
+
 #include <QTemporaryDir>
 
 /// A copy of the assembled program folder, for a test to spoil. The folders of pictures and of the original
@@ -21,17 +21,23 @@ public:
     QString path(const QString &below) const { return m_folder.filePath(below); }
     QString executable() const { return path(QStringLiteral("Alembra_uk")); }
 
-    void write(const QString &below, const QByteArray &content) const
-    {
-        QFile file(path(below));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qUtf8Printable(file.fileName()));
-    }
+    void write(const QString &below, const QByteArray &content) const { writeFile(path(below), content); }
+    QByteArray read(const QString &below) const { return readFile(path(below)); }
 
-    QByteArray read(const QString &below) const
+    /// Makes each linked folder on the way to @p below a folder of links, so that its files may be replaced.
+    void makeOwn(const QString &below) const
     {
-        QFile file(path(below));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        QString to = root();
+        for (const QString &part : below.split(QLatin1Char('/'))) {
+            to += QLatin1Char('/') + part;
+            const QString from = QFile::symLinkTarget(to);
+            if (from.isEmpty())
+                continue;
+            QFile::remove(to);
+            QDir().mkpath(to);
+            for (const QString &name : QDir(from).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
+                QFile::link(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
+        }
     }
 
     /// Sets one line, from 0, of the options file.
