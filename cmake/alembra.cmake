@@ -95,7 +95,7 @@ function(alembra_library name)
 endfunction()
 
 # alembra_list_widget_free(<file>): writes a line "<library> <folder>/<source>" for each source of the libraries so far
-# that link no widgets, directly or through another. tools/mutate and tools/coverage read it.
+# that link no widgets, directly or through another. tools/coverage reads it.
 function(alembra_list_widget_free file)
     get_property(libraries GLOBAL PROPERTY ALEMBRA_LIBRARIES)
     get_property(with_widgets GLOBAL PROPERTY ALEMBRA_WITH_WIDGETS)
