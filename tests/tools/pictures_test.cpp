@@ -92,6 +92,9 @@ private Q_SLOTS:
             const PictureFolder again(folder.path());
             draw(data.path(), again);
             QCOMPARE(again.written(), 0); // the date of a file is that of its last change
+            const QFileInfo first(folder.filePath(QLatin1StringView(kind) + names.constFirst()));
+            QVERIFY(QFile::copy(first.filePath(), first.path() + u"/of a gone row"_s));
+            QCOMPARE(again.removeOthers(), 1);
             for (const QString &name : names) {
                 QString below = QLatin1StringView(kind) + name;
                 const QString drawn = folder.filePath(below);

@@ -1,5 +1,6 @@
 // make_pictures <data folder> <program folder's Data> [kind ...]: draws every picture that the program shows
-// or prints, from the tables of data/. Ends with status 1 and a line on standard error if one cannot be made.
+// or prints, from the tables of data/. Unless only some kinds are named, it removes the pictures of rows that
+// are gone. Ends with status 1 and a line on standard error if one cannot be made.
 
 #include "tools/make_pictures/crystals.h"
 #include "tools/make_pictures/elements.h"
@@ -65,7 +66,9 @@ int main(int argc, char **argv)
     try {
         const PictureFolder pictures(arguments[1]);
         drawKinds(arguments[0], pictures, arguments.mid(2));
-        std::printf("pictures: %d written, %d unchanged\n", pictures.written(), pictures.unchanged());
+        const int removed = arguments.size() == 2 ? pictures.removeOthers() : 0;
+        std::printf("pictures: %d written, %d unchanged, %d removed\n", pictures.written(),
+                    pictures.unchanged(), removed);
         return 0;
     } catch (const std::exception &error) {
         std::fprintf(stderr, "make_pictures: %s\n", error.what());

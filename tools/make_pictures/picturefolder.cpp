@@ -126,7 +126,8 @@ QByteArray encodeGif(const QImage &picture)
 
 void PictureFolder::write(const QString &name, const QImage &picture) const
 {
-    const QString path = m_root + u'/' + name;
+    const QString path = QDir::cleanPath(m_root + u'/' + name);
+    m_paths << path;
     const QByteArray format = QFileInfo(name).suffix().toLatin1();
     const QByteArray bytes = format == "gif" ? encodeGif(picture) : encodeByQt(picture, format);
 
@@ -140,4 +141,19 @@ void PictureFolder::write(const QString &name, const QImage &picture) const
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         throw BuildError(u"%1: %2"_s.arg(path, file.errorString()));
     ++m_written;
+}
+
+int PictureFolder::removeOthers() const
+{
+    QSet<QString> folders;
+    for (const QString &path : std::as_const(m_paths))
+        folders << QFileInfo(path).path();
+    int removed = 0;
+    for (const QString &folder : std::as_const(folders)) {
+        for (const QFileInfo &file : QDir(folder).entryInfoList(QDir::Files)) {
+            if (!m_paths.contains(file.filePath()) && QFile::remove(file.filePath()))
+                ++removed;
+        }
+    }
+    return removed;
 }

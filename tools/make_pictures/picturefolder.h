@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QSet>
 #include <QString>
 
 #include <utility>
@@ -17,11 +18,16 @@ public:
     /// Folders are made as needed. Throws BuildError if that fails.
     void write(const QString &name, const QImage &picture) const;
 
+    /// Removes the pictures that were not written, changed or not, from the folders that were: those of rows
+    /// that are gone. Call it after everything has been drawn.
+    int removeOthers() const;
+
     int written() const { return m_written; }
     int unchanged() const { return m_unchanged; }
 
 private:
     const QString m_root;
+    mutable QSet<QString> m_paths;
     mutable int m_written = 0;
     mutable int m_unchanged = 0;
 };
