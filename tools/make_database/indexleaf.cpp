@@ -15,7 +15,7 @@ constexpr qsizetype EntriesAt = 480;
 constexpr qsizetype Room = Jet::PageSize - EntriesAt;
 constexpr char NotNull = '\x7F';
 
-// Sort codes of 0 to 9 and of A to Z; small letters sort like capital ones.
+// Sort codes of 0 to 9 and of A to Z; small letters have those of capital letters.
 // NOLINTBEGIN(modernize-raw-string-literal): codes, of which some happen to be letters
 const QByteArrayView DigitCodes("\x36\x38\x3A\x3C\x3E\x40\x42\x44\x46\x48");
 const QByteArrayView LetterCodes("\x4A\x4C\x4D\x4F\x51\x53\x55\x57\x59\x5B\x5C\x5E\x60"
@@ -29,7 +29,7 @@ char sortCode(QChar c)
     const QChar upper = c.toUpper();
     if (upper >= u'A' && upper <= u'Z')
         return LetterCodes[upper.unicode() - u'A'];
-    throw BuildError(u"a table name may hold letters and digits only, not \"%1\""_s.arg(c));
+    throw BuildError(u"a table name may consist of letters and digits only, not of \"%1\""_s.arg(c));
 }
 
 } // namespace

@@ -8,7 +8,8 @@
 class IndexLeaf final
 {
 public:
-    /// @p key is made of the keys below, column by column; the row stands at @p page and @p slot.
+    /// @p key is the keys of the columns, joined, as the functions below make them; @p page and @p slot
+    /// locate the row.
     void add(const QByteArray &key, quint32 page, quint8 slot);
 
     /// @p owner is the definition page of the table. BuildError if the entries need more than this one page.
@@ -16,8 +17,8 @@ public:
 
     static QByteArray key(quint32 number);
 
-    /// In the collation "General", which is known here for letters and digits: another character is
-    /// BuildError.
+    /// In the collation "General", which is implemented for letters and digits: BuildError for another
+    /// character.
     static QByteArray key(const QString &text);
 
 private:

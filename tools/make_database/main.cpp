@@ -1,7 +1,7 @@
 // Makes the database that the program ships from the reviewable table files:
 //   make_database <folder of the table files> <database>
-// A table file is called "<table>.tsv" and holds the columns of the schema and, last, `source`. With anything
-// wrong, nothing is written, "<file>:<line>: <message>" goes to standard error, and the status is 1.
+// A table file is "<table>.tsv"; its columns are those of the schema and, last, `source`. In case of an
+// error, nothing is written, "<file>:<line>: <message>" goes to standard error, and the status is 1.
 
 #include "store/databasepassword.h"
 #include "store/tablecatalog.h"
@@ -21,7 +21,7 @@ namespace {
 // Reports are in Windows-1252; chart names are the only texts that no report prints.
 bool isNeverPrinted(const QString &table)
 {
-    return table == QLatin1StringView("RMN1Hspectro") || table == QLatin1StringView("RMN13Cspectro");
+    return table == "RMN1Hspectro"_L1 || table == "RMN13Cspectro"_L1;
 }
 
 QList<TableData> readTables(const QDir &folder)

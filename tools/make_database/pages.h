@@ -3,14 +3,14 @@
 #include <QByteArray>
 #include <QList>
 
-/// A data page in the making: rows are laid from its end downwards, their slots from its start upwards.
+/// A data page in the making: rows fill it from the end backwards, their slots from the start.
 class DataPageWriter final
 {
 public:
     /// @p owner is the definition page of the table, 0 for usage maps.
     explicit DataPageWriter(quint32 owner) : m_owner(owner) {}
 
-    /// False, and nothing is added, if @p row does not fit any more. A page takes 255 rows at most.
+    /// False, and nothing is added, if @p row does not fit. A page takes 255 rows at most.
     bool add(const QByteArray &row);
 
     qsizetype rowCount() const { return m_rows.size(); }
@@ -37,11 +37,10 @@ inline constexpr qsizetype LongestRow = 4060;
 /// @p rows on as many pages as they need, in their order. No row is longer than LongestRow.
 QList<DataPageWriter> layOut(const QList<QByteArray> &rows, quint32 owner);
 
-/// A usage map that names @p pages. It speaks of the first 512 pages of the file; a larger file is
-/// BuildError.
+/// A usage map of @p pages. It covers the first 512 pages of the file; BuildError for a larger file.
 QByteArray usageMap(const QList<quint32> &pages);
 
-/// The map of the pages that are not in use, in a file of @p pageCount pages: all behind its end.
+/// The map of free pages, in a file of @p pageCount pages: all after its end.
 QByteArray freePageMap(quint32 pageCount);
 
 } // namespace Pages

@@ -11,7 +11,7 @@ namespace {
 
 using Jet::Type;
 
-// Account numbers under the mask that belongs to the creation date.
+// Account numbers, masked with the creation date.
 constexpr quint16 Admin = 0x8B64;
 constexpr quint16 Users = 0x8B65;
 constexpr quint16 Creator = 0x8E65;
@@ -30,41 +30,58 @@ struct Column
     quint16 number;
     quint16 variableIndex;
     quint16 fixedOffset;
-    quint8 flags; // 18 variable, 19 fixed, 50 variable and an account
+    quint8 flags;
 };
 
-// By name, as the engine stores them.
+// Flags of a column.
+constexpr quint8 Variable = 18;
+constexpr quint8 Fixed = 19;
+constexpr quint8 Account = 50; // variable too
+
+// Sorted by name, as the engine stores them.
 constexpr Column ObjectsColumns[] = {
-    {"Connect", Type::Memo, 9, 3, 0, 18},     {"Database", Type::Memo, 8, 2, 0, 18},
-    {"DateCreate", Type::Date, 4, 1, 10, 19}, {"DateUpdate", Type::Date, 5, 1, 18, 19},
-    {"Flags", Type::Int32, 7, 2, 26, 19},     {"ForeignName", Type::Text, 10, 4, 0, 18},
-    {"Id", Type::Int32, 0, 0, 0, 19},         {"Lv", Type::Ole, 13, 7, 0, 18},
-    {"LvExtra", Type::Ole, 16, 10, 0, 18},    {"LvModule", Type::Ole, 15, 9, 0, 18},
-    {"LvProp", Type::Ole, 14, 8, 0, 18},      {"Name", Type::Text, 2, 0, 0, 18},
-    {"Owner", Type::Binary, 6, 1, 0, 50},     {"ParentId", Type::Int32, 1, 0, 4, 19},
-    {"RmtInfoLong", Type::Ole, 12, 6, 0, 18}, {"RmtInfoShort", Type::Binary, 11, 5, 0, 18},
-    {"Type", Type::Int16, 3, 1, 8, 19},
+    {"Connect", Type::Memo, 9, 3, 0, Variable},
+    {"Database", Type::Memo, 8, 2, 0, Variable},
+    {"DateCreate", Type::Date, 4, 1, 10, Fixed},
+    {"DateUpdate", Type::Date, 5, 1, 18, Fixed},
+    {"Flags", Type::Int32, 7, 2, 26, Fixed},
+    {"ForeignName", Type::Text, 10, 4, 0, Variable},
+    {"Id", Type::Int32, 0, 0, 0, Fixed},
+    {"Lv", Type::Ole, 13, 7, 0, Variable},
+    {"LvExtra", Type::Ole, 16, 10, 0, Variable},
+    {"LvModule", Type::Ole, 15, 9, 0, Variable},
+    {"LvProp", Type::Ole, 14, 8, 0, Variable},
+    {"Name", Type::Text, 2, 0, 0, Variable},
+    {"Owner", Type::Binary, 6, 1, 0, Account},
+    {"ParentId", Type::Int32, 1, 0, 4, Fixed},
+    {"RmtInfoLong", Type::Ole, 12, 6, 0, Variable},
+    {"RmtInfoShort", Type::Binary, 11, 5, 0, Variable},
+    {"Type", Type::Int16, 3, 1, 8, Fixed},
 };
 
 constexpr Column PermissionsColumns[] = {
-    {"ACM", Type::Int32, 2, 1, 4, 19},
-    {"FInheritable", Type::Boolean, 3, 1, 0, 19},
-    {"ObjectId", Type::Int32, 0, 0, 0, 19},
-    {"SID", Type::Binary, 1, 0, 0, 50},
+    {"ACM", Type::Int32, 2, 1, 4, Fixed},
+    {"FInheritable", Type::Boolean, 3, 1, 0, Fixed},
+    {"ObjectId", Type::Int32, 0, 0, 0, Fixed},
+    {"SID", Type::Binary, 1, 0, 0, Account},
 };
 
 constexpr Column QueriesColumns[] = {
-    {"Attribute", Type::Byte, 1, 0, 4, 19}, {"Expression", Type::Memo, 5, 3, 0, 18},
-    {"Flag", Type::Int16, 6, 4, 5, 19},     {"LvExtra", Type::Int32, 7, 4, 7, 19},
-    {"Name1", Type::Text, 3, 1, 0, 18},     {"Name2", Type::Text, 4, 2, 0, 18},
-    {"ObjectId", Type::Int32, 0, 0, 0, 19}, {"Order", Type::Binary, 2, 0, 0, 18},
+    {"Attribute", Type::Byte, 1, 0, 4, Fixed}, {"Expression", Type::Memo, 5, 3, 0, Variable},
+    {"Flag", Type::Int16, 6, 4, 5, Fixed},     {"LvExtra", Type::Int32, 7, 4, 7, Fixed},
+    {"Name1", Type::Text, 3, 1, 0, Variable},  {"Name2", Type::Text, 4, 2, 0, Variable},
+    {"ObjectId", Type::Int32, 0, 0, 0, Fixed}, {"Order", Type::Binary, 2, 0, 0, Variable},
 };
 
 constexpr Column RelationshipsColumns[] = {
-    {"ccolumn", Type::Int32, 2, 1, 4, 19},           {"grbit", Type::Int32, 1, 1, 0, 19},
-    {"icolumn", Type::Int32, 3, 1, 8, 19},           {"szColumn", Type::Text, 5, 2, 0, 18},
-    {"szObject", Type::Text, 4, 1, 0, 18},           {"szReferencedColumn", Type::Text, 7, 4, 0, 18},
-    {"szReferencedObject", Type::Text, 6, 3, 0, 18}, {"szRelationship", Type::Text, 0, 0, 0, 18},
+    {"ccolumn", Type::Int32, 2, 1, 4, Fixed},
+    {"grbit", Type::Int32, 1, 1, 0, Fixed},
+    {"icolumn", Type::Int32, 3, 1, 8, Fixed},
+    {"szColumn", Type::Text, 5, 2, 0, Variable},
+    {"szObject", Type::Text, 4, 1, 0, Variable},
+    {"szReferencedColumn", Type::Text, 7, 4, 0, Variable},
+    {"szReferencedObject", Type::Text, 6, 3, 0, Variable},
+    {"szRelationship", Type::Text, 0, 0, 0, Variable},
 };
 
 quint16 lengthOf(Type type)
@@ -203,7 +220,7 @@ QByteArray SystemTables::Permission::row() const
     parts.variable = {sid(account)};
     QList<int> present{0, 1, 2};
     if (inherited)
-        present.append(3); // the bit is the value
+        present.append(3); // FInheritable, a Boolean: its value is its bit in the null mask
     parts.nullMask = Rows::nullMask(parts.columns, present);
     return Rows::encode(parts);
 }

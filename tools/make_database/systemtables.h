@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// The four tables that every database has of its own: their fixed layout, their pages and their rows.
+/// The four system tables of every database: their fixed layout, pages and rows.
 namespace SystemTables {
 
 /// Definition pages.
@@ -14,7 +14,7 @@ inline constexpr quint32 Permissions = 3;
 inline constexpr quint32 Queries = 4;
 inline constexpr quint32 Relationships = 5;
 
-/// The page with the usage maps of the four, and how many maps it holds.
+/// The page with the usage maps of the four tables, and their number.
 inline constexpr quint32 UsageMapPage = 6;
 inline constexpr int UsageMapCount = 31;
 
@@ -26,10 +26,10 @@ inline constexpr quint32 QueriesPage = 10;
 inline constexpr quint32 FirstRelationshipsPage = 11;
 inline constexpr quint32 LastRelationshipsPage = 13;
 
-/// The first page behind the fixed ones.
+/// The first page after the fixed ones.
 inline constexpr quint32 FirstFreePage = 14;
 
-/// Layouts of the four, for that many rows.
+/// Layouts of the four tables, with their numbers of rows.
 TableLayout objectsLayout(quint32 rows);
 TableLayout permissionsLayout(quint32 rows, quint32 objects);
 TableLayout queriesLayout();
@@ -70,8 +70,8 @@ QList<Permission> fixedPermissions();
 /// What Access grants to the administrator and to all users on a new table.
 QList<Permission> tablePermissions(quint32 definitionPage);
 
-/// Bytes of the creation date, 2015-11-21 22:40:31. It stays: the account numbers of the tables are masked by
-/// it, and it makes every build the same.
+/// Bytes of the creation date, 2015-11-21 22:40:31. It is the same for every build: the account numbers of
+/// the tables are masked with it, and equal builds give equal bytes.
 inline constexpr char CreationDate[] = "\x3E\x85\xD3\x3B\x3E\xAB\xE4\x40";
 
 } // namespace SystemTables

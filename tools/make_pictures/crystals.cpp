@@ -19,10 +19,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Side = 360;
-constexpr int CellArea = 292; // the texts stand below
+constexpr int CellArea = 292; // the texts are below
 constexpr int Pieces = 48;    // a line is cut into pieces so that spheres can hide parts of it
 
-/// Looks at the cell from the front, a little from the right and from above, so that the axis a points to the
+/// Looks at the cell from the front, slightly from the right and above, so that the axis a points to the
 /// viewer's left, b to the right and c upwards.
 class View
 {
@@ -109,7 +109,7 @@ void addLine(QList<Item> &items, const View &view, const Lattice &cell, const La
         const QLineF piece(view.project(from), view.project(to));
         const QPen pen(line.bold ? Ink : QColor(0x9a, 0xa2, 0xaa), line.bold ? 2.2 : 1.2, Qt::SolidLine,
                        Qt::RoundCap);
-        // A bold line lies on a thin one where the cell and its surroundings share an edge.
+        // Where the cell and its surroundings share an edge, the bold line covers the thin one.
         items << Item{view.depth((from + to) / 2) - (line.bold ? 0.01F : 0), [piece, pen](QPainter &painter) {
                           painter.setPen(pen);
                           painter.drawLine(piece);
@@ -195,12 +195,12 @@ void drawCrystals(const QString &data, const PictureFolder &pictures)
     const Table table = Table::read(data + u"/tables/Elements.tsv"_s);
     for (int row = 0; row < table.rowCount(); ++row) {
         const QString name = table.cell(row, Column);
-        if (name == QLatin1String("-") || table.find(Column, name) != row)
+        if (name == "-"_L1 || table.find(Column, name) != row)
             continue;
         const auto cell = std::find_if(lattices().begin(), lattices().end(),
                                        [&](const Lattice &lattice) { return lattice.name == name; });
         if (cell == lattices().end())
-            table.fail(row, u"no cell is known for the crystal structure \"%1\""_s.arg(name));
+            table.fail(row, u"there is no drawing of the crystal structure \"%1\""_s.arg(name));
         pictures.write(u"cristal/%1.bmp"_s.arg(name), drawCell(*cell));
     }
 }

@@ -4,6 +4,6 @@
 class PictureFolder;
 class QString;
 
-/// Draws "<name>.bmp" for each name in the column cristallo except "-". A name without a cell here is an
-/// error.
+/// Draws "<name>.bmp" for each name in the column cristallo except "-". BuildError for a name without a
+/// drawing.
 void drawCrystals(const QString &data, const PictureFolder &pictures);

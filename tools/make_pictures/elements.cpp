@@ -63,7 +63,7 @@ QString writtenOut(const Table &table, int row)
             break;
         const int gas = table.find("symb", match.captured(1));
         if (gas < 0 || gas >= row)
-            table.fail(row, u"no noble gas %1 above"_s.arg(match.captured()));
+            table.fail(row, u"there is no noble gas %1 in a row before"_s.arg(match.captured()));
         configuration.replace(0, match.capturedLength(), table.cell(gas, "elecconf"));
     }
     return configuration;
@@ -76,11 +76,11 @@ Element readElement(const Table &table, int row)
         table.fail(row, u"atomic number %1 is out of order"_s.arg(element["nbato"]));
     if (std::accumulate(element.shells.begin(), element.shells.end(), 0) != element.number())
         table.fail(row,
-                   u"\"%1\" does not hold %2 electrons"_s.arg(element["elecconf"]).arg(element.number()));
+                   u"\"%1\" does not have %2 electrons"_s.arg(element["elecconf"]).arg(element.number()));
     return element;
 }
 
-/// The electrons as dots on the circles of their shells, the symbol in the middle.
+/// Draws the electrons as dots on the circles of their shells, with the symbol in the middle.
 void paintShells(QPainter &painter, const Element &element, QPointF centre, double radius, double dot)
 {
     const double core = radius * 0.26;
@@ -137,19 +137,19 @@ QImage drawSmallCard(const Element &element)
 QString temperature(const QString &cell)
 {
     const QStringList parts = cell.split(u' ');
-    if (cell == QLatin1String("-"))
+    if (cell == "-"_L1)
         return cell;
     QString text = parts[0] + u" °C"_s;
-    if (parts.value(1) == QLatin1String("tp"))
+    if (parts.value(1) == "tp"_L1)
         text += u" (triple point)"_s;
-    if (parts.value(1) == QLatin1String("sp"))
+    if (parts.value(1) == "sp"_L1)
         text += u" (sublimes)"_s;
     return text;
 }
 
 QString withUnit(const QString &cell, const QString &unit)
 {
-    return cell == QLatin1String("-") ? cell : cell + u' ' + unit;
+    return cell == "-"_L1 ? cell : cell + u' ' + unit;
 }
 
 struct Fact
@@ -233,7 +233,7 @@ QImage drawLargeCard(const Element &element)
 
 const QColor SharedColour(0x6b, 0x73, 0x7b);
 
-/// The small card that the last elements share: it names none of them.
+/// The small card that the last elements share. It names none of them.
 QImage drawSmallSharedCard(const Table &table)
 {
     constexpr int Side = 160;
@@ -253,7 +253,7 @@ QImage drawSmallSharedCard(const Table &table)
     return picture;
 }
 
-/// The large one lists them.
+/// The large card that they share lists them.
 QImage drawLargeSharedCard(const Table &table)
 {
     constexpr int Side = 480;

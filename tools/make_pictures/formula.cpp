@@ -16,7 +16,7 @@ RDKit::DrawColour drawColour(const QColor &colour)
     return {colour.redF(), colour.greenF(), colour.blueF()};
 }
 
-/// Draws @p label for the atom as it is given, and @p leftwards where its bond leaves to the right.
+/// Draws the atom as @p label, or as @p leftwards where its bond is on its right.
 void setLabel(RDKit::Atom &atom, const std::string &label, const std::string &leftwards)
 {
     atom.setProp(RDKit::common_properties::_displayLabel, label);
@@ -32,7 +32,7 @@ bool isPhenylOnPhosphorus(const RDKit::RWMol &molecule, const RDKit::Atom *atom)
     return ring && onPhosphorus;
 }
 
-/// Phenyl groups on phosphorus as "Ph": they never take part and would fill the picture.
+/// Writes phenyl groups on phosphorus as "Ph": they never react and would fill the picture.
 void shortenPhenyls(RDKit::RWMol &molecule)
 {
     std::vector<unsigned> removed;
@@ -56,8 +56,8 @@ void shortenPhenyls(RDKit::RWMol &molecule)
     molecule.commitBatchEdit();
 }
 
-/// RDKit takes what a bare metal atom or ion lacks to a closed shell for radical electrons; nobody writes
-/// them.
+/// RDKit counts the electrons that a bare metal atom or ion lacks for a closed shell as radicals. Nobody
+/// writes them.
 void dropMetalRadicals(RDKit::RWMol &molecule)
 {
     for (RDKit::Atom *atom : molecule.atoms()) {
@@ -68,8 +68,8 @@ void dropMetalRadicals(RDKit::RWMol &molecule)
     }
 }
 
-/// RDKit would put the sign between the atom and a bond to its right, where it reads as a part of the bond:
-/// it stands first there.
+/// RDKit would write the sign between the atom and a bond on its right, where it looks like part of the bond.
+/// Here it comes first.
 void clearNegativeEnds(RDKit::RWMol &molecule)
 {
     for (RDKit::Atom *atom : molecule.atoms()) {
@@ -92,7 +92,7 @@ std::optional<Formula> Formula::fromSmiles(const QString &smiles, const Style &s
         RDKit::SmilesParserParams parameters;
         parameters.removeHs = false;
         molecule.reset(RDKit::SmilesToMol(smiles.toStdString(), parameters));
-    } catch (const std::exception &) { // RDKit has a type of its own for each fault
+    } catch (const std::exception &) { // RDKit throws a different type for each fault
         return std::nullopt;
     }
     if (!molecule || molecule->getNumAtoms() == 0)

@@ -21,13 +21,13 @@ class RWMol;
 class Formula
 {
 public:
-    /// The scale is fixed by the style, so that the formulas of one kind of picture can be compared. A bond
-    /// of 1.5 Å is 1.5 × pixelsPerAngstrom long.
+    /// The style fixes the scale, so that formulas of one kind of picture can be compared: a bond of 1.5 Å is
+    /// 1.5 × pixelsPerAngstrom long.
     struct Style
     {
         double pixelsPerAngstrom;
         int fontPixels;
-        QColor mark = QColor(0xff, 0xd2, 0x66); ///< behind marked atoms
+        QColor mark = QColor(0xff, 0xd2, 0x66); ///< of the discs behind marked atoms
     };
 
     /// Nothing if @p smiles is not a structure. It may bring labels and coordinates as CXSMILES; atoms with a

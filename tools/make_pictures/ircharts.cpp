@@ -38,7 +38,7 @@ struct Section
     QList<Band> bands;
 };
 
-/// "Alkenes, trans" under "Alkenes" is "trans"; another name stays whole; the motif's own name is left out.
+/// "Alkenes, trans" under "Alkenes" becomes "trans"; the motif's own name is left out, any other name stays.
 QString within(const QString &group, const QString &motif)
 {
     if (group == motif)
@@ -56,7 +56,7 @@ Band readBand(const Table &table, int row)
     band.colour = QColor(u'#' + cell("colour_rgb"));
     band.row = row;
     if (!band.colour.isValid() || band.low > band.high || band.low < 0 || band.high > 4000)
-        table.fail(row, u"the band has no colour or lies off the scale"_s);
+        table.fail(row, u"the band has no colour or is off the scale"_s);
     const QString group = within(cell("group"), cell("item"));
     band.text = (group.isEmpty() ? group : group + u": "_s) + cell("molec") + u", "_s + cell("wave") +
                 u" "_s + cell("intensity");
@@ -98,7 +98,7 @@ void paintGrid(QPainter &painter, double top, double bottom)
     painter.drawLine(QPointF(IrLeft, top + 0.5), QPointF(IrRight, top + 0.5));
 }
 
-/// Both scales in numbers, so that the chart can be read without the window around it.
+/// Paints both scales with their numbers, so that the chart can be read without the window around it.
 void paintAxis(QPainter &painter, double y)
 {
     painter.setPen(QPen(Ink, 1));
@@ -116,7 +116,7 @@ void paintAxis(QPainter &painter, double y)
     painter.drawText(QRectF(IrRight - 40, y + 22, Width - IrRight + 38, 14), Qt::AlignRight, u"λ / µm"_s);
 }
 
-/// The bar and, beside it on the side with more room, what it is.
+/// Paints the bar and its name, on the side with more room.
 void paintBand(QPainter &painter, const Table &bands, const Band &band, double top)
 {
     const double left = irAbscissa(band.high);
@@ -135,7 +135,7 @@ void paintBand(QPainter &painter, const Table &bands, const Band &band, double t
     text.paint(painter, x, top + RowHeight - 4);
 }
 
-/// What the letters of the intensities and the colours mean, for the bonds that occur.
+/// Explains the letters of the intensities and the colours of the bonds that occur.
 double paintLegend(QPainter &painter, const QList<Section> &sections, double y)
 {
     painter.setFont(textFont(11));
@@ -165,8 +165,7 @@ double paintLegend(QPainter &painter, const QList<Section> &sections, double y)
     return y;
 }
 
-/// The scroll bar of the pane stops short of the end of tall pictures: of H pixels it brings 0.89 H + 84 into
-/// view.
+/// The pane's scroll bar does not reach the end of a tall picture: of H pixels it shows 0.89 H + 84.
 int scrollableHeight(double content)
 {
     return int(std::ceil(std::max(content, (content - 80) / 0.89)));

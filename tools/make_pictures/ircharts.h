@@ -4,6 +4,6 @@
 class PictureFolder;
 class QString;
 
-/// Draws "<group>.gif". The bands stand under the motifs that the list offers for the group, in its order, as
-/// bars in the colour of their bond, on the scale of ChartGeometry.
+/// Draws "<group>.gif": the motifs of the group in the order of the list, each with its bands as bars in the
+/// colour of their bond, on the scale of ChartGeometry.
 void drawIrCharts(const QString &data, const PictureFolder &pictures);

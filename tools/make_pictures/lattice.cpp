@@ -53,7 +53,7 @@ void addEdges(Lattice &cell)
     }
 }
 
-/// A cell that shows its lattice points only: how many atoms belong to each differs from element to element.
+/// A cell with its lattice points only: the number of atoms at each point differs between elements.
 Lattice pointCell(Lattice cell)
 {
     addEdges(cell);
@@ -112,7 +112,7 @@ Lattice diamond()
 }
 
 /// Hexagonal close packing in the prism of three cells. @p layers: the positions A, B, C of the layers from
-/// below, the last one lying on the top face; ideal spacing of the layers.
+/// bottom to top, the last one on the top face. The spacing of the layers is ideal.
 Lattice hexagonal(const char *name, const QString &note, const QString &layers)
 {
     const float height = std::sqrt(2.F / 3) * float(layers.size() - 1);
@@ -120,7 +120,7 @@ Lattice hexagonal(const char *name, const QString &note, const QString &layers)
     cell.b = {std::cos(radians(120)), std::sin(radians(120)), 0};
     addEdges(cell);
 
-    const QVector3D axis = at(cell, 1, 1, 0); // the prism stands around this corner of the cell
+    const QVector3D axis = at(cell, 1, 1, 0); // the prism is centred on this corner of the cell
     const auto rim = [&](int i, float w) {
         return axis + QVector3D(std::cos(radians(60 * i)), std::sin(radians(60 * i)), 0) + cell.c * w;
     };
@@ -137,7 +137,7 @@ Lattice hexagonal(const char *name, const QString &note, const QString &layers)
                 cell.spheres << Lattice::Sphere{rim(i, w), Site::Corner};
             continue;
         }
-        // Three hollows of the layer below: every second one of the six around the axis.
+        // Three hollows of the layer below: every second of the six around the axis.
         const int first = layers[layer] == u'B' ? 30 : 90;
         for (int angle = first; angle < 360; angle += 120) {
             const QVector3D hollow(std::cos(radians(float(angle))), std::sin(radians(float(angle))), 0);

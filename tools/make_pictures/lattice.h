@@ -5,7 +5,7 @@
 #include <QString>
 #include <QVector3D>
 
-/// A unit cell as it is drawn. Lengths are in units of the edge a, points are Cartesian.
+/// A unit cell, ready to draw. Lengths are in units of the edge a, points are Cartesian.
 struct Lattice
 {
     enum class Site { Corner, Centre, Inner, Point };

@@ -19,7 +19,7 @@ namespace {
 
 using namespace ChartGeometry;
 
-/// What differs between the two lists.
+/// What differs between the two nuclei.
 struct Nucleus
 {
     const char *symbol; ///< as the overview table writes it
@@ -35,8 +35,8 @@ constexpr Nucleus Proton{"1H", "nmr/1h", "/drawing/nmr_1h.tsv", "motif", "/notes
 constexpr Nucleus Carbon{"13C", "nmr/13c", "/drawing/nmr_13c.tsv", "motif2", "/notes/RMN13Cspectro.tsv",
                          -30,   250};
 
-/// From this many observations on the range is drawn as a bar; below the second number it runs from lowest to
-/// highest. The data keep the ends and the median of a motif, not its single values.
+/// From the first number of observations on, the range is a bar; below the second, it runs from the lowest to
+/// the highest shift. The data keep the ends and the median of a motif, not its single values.
 constexpr int FewestForBar = 20;
 constexpr int ExtremesOnly = 8;
 
@@ -69,7 +69,7 @@ struct Motif
     int observations = 0; ///< 0: general correlation values
     QString remark;       ///< what narrows or qualifies the range
 
-    bool isOverview() const { return group == QLatin1String("Overview"); }
+    bool isOverview() const { return group == "Overview"_L1; }
 };
 
 QString minusSign(QString text)
@@ -77,14 +77,14 @@ QString minusSign(QString text)
     return text.replace(u'-', u"−"_s);
 }
 
-/// The parts of a note that a user of the chart should know, without those that the chart says anyway.
+/// The parts of a note that the chart does not show anyway.
 QString remarkOf(const QString &note)
 {
     static const QRegularExpression known(
         u"^(percentiles|min / median|few data|overview row|[0-9]+ outlier|[0-9]+ value\\(s\\)|narrowed: )"_s);
     QStringList parts;
     for (const QString &part : note.split(u"; "_s)) {
-        if (part.startsWith(QLatin1String("narrowed: ")))
+        if (part.startsWith("narrowed: "_L1))
             parts << part.mid(10);
         else if (!part.contains(known))
             parts << part;
@@ -118,7 +118,7 @@ QList<Motif> readMotifs(const Nucleus &nucleus, const QString &data, const Table
         motif.range.bar = motif.observations >= FewestForBar;
         if (!motif.isOverview() &&
             !(motif.range.low <= motif.range.typical && motif.range.typical <= motif.range.high))
-            table.fail(row, u"the typical shift lies outside its range"_s);
+            table.fail(row, u"the typical shift is outside its range"_s);
         if (const int note = notes.find("row", QString::number(row + 1)); note >= 0)
             motif.remark = remarkOf(notes.cell(note, "note"));
         motifs << motif;
@@ -149,7 +149,7 @@ QString legend(const QString &structure)
     return meanings.join(u", "_s);
 }
 
-/// Lines of a formula text, one below the other; gives the ordinate below the last one.
+/// Paints lines of formula text and returns the y below the last one.
 double paintFormulaLines(QPainter &painter, const QString &text, int pixels, bool bold, QRectF place)
 {
     const QStringList lines = wrapped(text, textFont(pixels, bold), int(place.width()));
@@ -162,7 +162,7 @@ double paintFormulaLines(QPainter &painter, const QString &text, int pixels, boo
     return place.top() + lines.size() * height;
 }
 
-/// The motif at the left, its values at the right.
+/// Paints the motif on the left and its values on the right.
 void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, double height)
 {
     const QSizeF size = formula.size();
@@ -197,7 +197,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
         painter.drawText(QPointF(texts.left(), y += 16), line);
 }
 
-/// The whole scale of the nucleus with the range on it and the part that is drawn larger below.
+/// Paints the whole scale of the nucleus, with the range and the part that is enlarged below.
 void paintWholeScale(QPainter &painter, const Nucleus &nucleus, const Motif &motif, const ShiftAxis &detail,
                      double y)
 {
@@ -210,7 +210,7 @@ void paintWholeScale(QPainter &painter, const Nucleus &nucleus, const Motif &mot
     whole.paint(painter, y + 16);
 }
 
-/// Up to this many motifs of the group stand together on one chart.
+/// The most motifs of a group that share a chart.
 constexpr int RowsOfGroup = 7;
 
 QList<Motif> neighboursInGroup(const QList<Motif> &motifs, const Motif &motif)
@@ -229,7 +229,7 @@ QList<Motif> neighboursInGroup(const QList<Motif> &motifs, const Motif &motif)
     return group.mid(first, RowsOfGroup);
 }
 
-/// Columns of the bars: the names left, the numbers of observations right.
+/// The columns beside the bars: names on the left, numbers of observations on the right.
 constexpr int NameLeft = 10;
 constexpr int BarsLeft = 244;
 constexpr int BarsRight = 582;
@@ -297,7 +297,7 @@ QImage drawMotifChart(const Nucleus &nucleus, const QList<Motif> &motifs, const 
     return picture;
 }
 
-/// One bar for each class of the overview on the whole scale.
+/// Paints one bar for each class of the overview, on the whole scale.
 QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &overview)
 {
     constexpr double RowsTop = 48;
@@ -366,8 +366,8 @@ void drawCharts(const Nucleus &nucleus, const QString &data, const PictureFolder
             continue;
         }
         const std::optional<Formula> formula = Formula::fromSmiles(motif.structure, {20, 13});
-        if (!formula || !motif.structure.contains(QLatin1String(":1]")))
-            table.fail(motif.row, u"\"%1\" is no structure with a marked atom"_s.arg(motif.structure));
+        if (!formula || !motif.structure.contains(":1]"_L1))
+            table.fail(motif.row, u"\"%1\" is not a structure with a marked atom"_s.arg(motif.structure));
         pictures.write(name.arg(motif.row + 2 - overviews), drawMotifChart(nucleus, motifs, motif, *formula));
     }
 }

@@ -4,6 +4,6 @@
 class PictureFolder;
 class QString;
 
-/// Draws the charts of both nuclei. The overview rows stand first and are numbered from 1000; the motif rows
-/// are numbered from 2.
+/// Draws the charts of both nuclei. The overview rows come first and are numbered from 1000; the motif
+/// rows are numbered from 2.
 void drawNmrCharts(const QString &data, const PictureFolder &pictures);

@@ -27,7 +27,7 @@ QColor between(double share)
             mix(NonPolar.blue(), Polar.blue())};
 }
 
-/// An arrow at the left that grows wider and darker towards the polar end.
+/// Paints an arrow on the left that grows wider and darker towards the polar end.
 void paintArrow(QPainter &painter)
 {
     QLinearGradient colours(0, Top, 0, Bottom);

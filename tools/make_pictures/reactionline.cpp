@@ -58,8 +58,8 @@ ReactionLine::Piece ReactionLine::arrow(const QString &conditions) const
             2 * (lines.size() * metrics.height() + 4)};
 }
 
-/// Adds a group for each different molecule: "+" where one stands before it, the number, the formula. Lines
-/// are broken between groups only.
+/// Adds a group for each different molecule: "+" unless it is the first, the number, the formula. Lines break
+/// between groups only.
 bool ReactionLine::addSide(const QString &side, QList<QList<Piece>> &groups) const
 {
     const QStringList molecules = side.split(u'.');

@@ -7,8 +7,8 @@
 
 class QPainter;
 
-/// A reaction "educts>>products" in SMILES, laid out for a given width in pixels. Equal molecules are
-/// drawn once, after their number; the conditions are above the arrow.
+/// A reaction, "educts>>products" in SMILES, laid out for a given width in pixels. Equal molecules are drawn
+/// once, after their number. The conditions are above the arrow.
 class ReactionLine
 {
 public:

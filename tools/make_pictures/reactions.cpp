@@ -24,7 +24,7 @@ constexpr int WordsWidth = 122;
 constexpr int StepLeft = WordsLeft + WordsWidth + 14;
 constexpr int StepGap = 8;
 
-/// From the scale that reads best to the smallest that is still readable. Phenyl groups on phosphorus are
+/// From the scale that is easiest to read to the smallest that is readable. Phenyl groups on phosphorus are
 /// "Ph".
 constexpr std::array Scales{Formula::Style{20, 14}, Formula::Style{17, 13}, Formula::Style{15, 12},
                             Formula::Style{13, 11}, Formula::Style{11, 10}, Formula::Style{9, 9}};
@@ -42,13 +42,14 @@ struct Reaction
     QList<Step> steps;
 };
 
-/// The reactions by their number, each with one equation and the steps 1, 2, 3 ... of its mechanism.
+/// The reactions in the order of their numbers, each with an equation and the steps 1, 2, 3 ... of its
+/// mechanism.
 QList<Reaction> readReactions(const Table &table)
 {
     QList<Reaction> reactions;
     for (int row = 0; row < table.rowCount(); ++row) {
         const Step step{row, table.cell(row, "rxn_smiles"), table.cell(row, "words")};
-        if (table.cell(row, "kind") == QLatin1String("equation")) {
+        if (table.cell(row, "kind") == "equation"_L1) {
             reactions << Reaction{step, {}};
         } else {
             if (reactions.isEmpty() || int(table.number(row, "step")) != reactions.last().steps.size() + 1)
@@ -70,7 +71,7 @@ ReactionLine layOut(const Table &table, const Step &step, const QString &conditi
     return *line;
 }
 
-/// Takes the largest scale at which @p fits, preferring those that break no line while they read well.
+/// Takes the largest scale at which @p fits, and prefers easily readable ones that need no line break.
 template<class Fits>
 const Formula::Style *bestScale(Fits fits)
 {
@@ -104,7 +105,7 @@ QImage drawEquation(const Table &table, const Step &equation)
     return picture;
 }
 
-/// A step with its number and words at the left.
+/// Paints a step, its number and words on the left.
 struct StepBlock
 {
     ReactionLine line;

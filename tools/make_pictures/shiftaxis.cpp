@@ -14,7 +14,7 @@ namespace {
 constexpr int MostTicks = 10;
 constexpr double Rounding = 1e-6; // of a tick: shifts are decimal fractions
 
-/// The finest of 1, 2, 5 times a power of ten that needs no more than MostTicks.
+/// The smallest step of 1, 2 or 5 times a power of ten that needs no more than MostTicks.
 double tickStep(double span)
 {
     double step = 0.01;
@@ -29,7 +29,7 @@ struct ClassColour
     QRgb colour;
 };
 
-// The first that fits counts.
+// The first match counts.
 constexpr std::array ClassColours{
     ClassColour{R"(C=O|arbonyl|COO\b)", 0xd07820},
     ClassColour{R"(halogen|-(F|Cl|Br|I)\b)", 0x1f9a9a},

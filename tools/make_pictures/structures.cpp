@@ -32,7 +32,7 @@ struct Compound
     }
 };
 
-/// Row by row the compound, or nothing where the table gives no structure.
+/// The compound of each row, or nothing where the table gives no structure.
 QList<std::optional<Compound>> readCompounds(const QString &file, const QString &kind)
 {
     const Table table = Table::read(file);
@@ -50,7 +50,7 @@ QList<std::optional<Compound>> readCompounds(const QString &file, const QString 
     return compounds;
 }
 
-/// Sixteen greys, so that the file takes half a byte for a pixel.
+/// Reduces the picture to sixteen greys, so that the file needs half a byte for each pixel.
 QImage inSixteenGreys(const QImage &picture)
 {
     QList<QRgb> greys;
@@ -59,7 +59,7 @@ QImage inSixteenGreys(const QImage &picture)
     return picture.convertToFormat(QImage::Format_Indexed8, greys, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
-/// What is drawn, with a narrow margin.
+/// Crops the picture to what is drawn, with a narrow margin.
 QImage cropped(const QImage &picture)
 {
     QRect ink;
@@ -72,7 +72,7 @@ QImage cropped(const QImage &picture)
     return picture.copy(ink.adjusted(-Margin, -Margin, Margin, Margin) & picture.rect());
 }
 
-/// A formula alone: what it shows stands beside it in the window and in the report.
+/// The formula alone: the window and the report print the name beside it.
 QImage drawCompound(const Compound &compound)
 {
     const QSizeF size = compound.formula.size();
@@ -129,7 +129,7 @@ void drawStructures(const QString &data, const PictureFolder &pictures)
         const QString numbered = u"chemicals/%1.bmp"_s.arg(row + 1);
         if (solvent)
             pictures.write(u"chemicals/%1.bmp"_s.arg(solvent->name), drawCompound(*solvent));
-        // Solvents and amino acids share the numbers; a picture that both lists open shows both.
+        // Solvents and amino acids share the numbers, so a picture that belongs to both lists shows both.
         if (solvent && acid)
             pictures.write(numbered, drawCompounds({*solvent, *acid}));
         else if (solvent || acid)

@@ -16,12 +16,12 @@ using namespace Qt::StringLiterals;
 
 // Runs the program, walks through its panes and windows and saves a picture of each:
 // screenshots <program folder> <folder for the pictures> [light|dark [<font family> [<points>]]]
-// Without a palette only the pictures that the folder holds are taken anew: those of the documentation.
+// Without a palette, only the pictures that are already in the folder are taken anew: those of the docs.
 
 namespace {
 
 /// A picture: the command that shows the pane or window, and the control that is clicked or, with a tab,
-/// selected there. Where a side window stands open then, the picture is of that.
+/// selected there. If that opens a side window, the picture is of the window.
 struct Shot
 {
     const char *file;
@@ -119,7 +119,7 @@ void take(QWidget &window, const QString &path)
 
 void walk(Form1 &form, const QDir &pictures)
 {
-    form.resize(form.sizeHint()); // whatever the display, of which nothing is seen here
+    form.resize(form.sizeHint()); // whatever the display: the pictures are not of the screen
     for (const Shot &shot : Shots) {
         form.executeCommand(shot.command);
         const auto shown = [&form]() -> QWidget & {
@@ -161,7 +161,7 @@ int main(int argc, char *argv[])
         QApplication::setFont(QFont(arguments[4], arguments.value(5, u"9"_s).toInt()));
     const QDir pictures(arguments[2]);
 
-    // The program's own event loop runs once before the load is through: the pause of the splash.
+    // The splash runs an event loop before the load is complete.
     QTimer started;
     QObject::connect(&started, &QTimer::timeout, &application, [&] {
         Form1 *form = mainWindow();

@@ -3,8 +3,8 @@
 #include <QString>
 #include <stdexcept>
 
-/// Why a tool cannot make what the program ships, ready to print: "<file>:<line>: <reason>" where a table is
-/// at fault, line 1 being its header row.
+/// Why a tool failed, ready to print: "<file>:<line>: <reason>" where a table is at fault. Line 1 is its
+/// header.
 class BuildError final : public std::runtime_error
 {
 public:

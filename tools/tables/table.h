@@ -12,8 +12,8 @@
 class Table final
 {
 public:
-    /// BuildError if @p file cannot be read, is not valid UTF-8, or has a row with another number of cells
-    /// than the header.
+    /// BuildError if @p file cannot be read, is not valid UTF-8, or a row and the header differ in their
+    /// number of cells.
     static Table read(const QString &file);
 
     const QStringList &columns() const { return m_columns; }
@@ -23,13 +23,13 @@ public:
     /// BuildError if there is no such column.
     QString cell(int row, const char *column) const;
 
-    /// The cell as a number; BuildError if it is none.
+    /// The cell as a number; BuildError if it is not one.
     double number(int row, const char *column) const;
 
     /// The first row whose @p column reads @p text, or -1.
     int find(const char *column, const QString &text) const;
 
-    /// Ends the work with a BuildError at the line of @p row, or of the header for row -1.
+    /// Throws a BuildError at the line of @p row, or of the header for row -1.
     [[noreturn]] void fail(int row, const QString &reason) const;
 
 private:
