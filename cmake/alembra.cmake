@@ -1,4 +1,4 @@
-# Language, warnings, hardening and sanitizers, and the kinds of target that the project is made of.
+# Language, warnings, hardening, sanitizers, and functions for the project's kinds of target.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,13 +16,13 @@ if(ALEMBRA_WERROR)
     add_compile_options(-Werror)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    # GCC 12 sees uninitialised members in every std::optional of a class with a Qt container: false alarms only.
+    # GCC 12 warns of uninitialised members in every std::optional of a class with a Qt container, always wrongly.
     add_compile_options(-Wno-maybe-uninitialized)
 endif()
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-# Resources without the times of their files.
+# Format 1 leaves out the times of the files.
 set(CMAKE_AUTORCC_OPTIONS --format-version 1)
 
 if(CMAKE_BUILD_TYPE STREQUAL Release)
@@ -49,17 +49,17 @@ if(ALEMBRA_COVERAGE)
     add_link_options(--coverage)
 endif()
 
-# One precompiled set of headers for all targets halves the time to compile. It also hides a missing #include, which the
-# presets "debug" and "lint" find: they build without.
+# One precompiled set of headers for all targets halves the time to compile. It also hides a missing #include; the presets
+# "debug" and "lint" build without it and find that.
 if(ALEMBRA_PRECOMPILE)
-    # Otherwise ccache takes nothing that is compiled with them, or reads all 170 MB of them for each file.
+    # Without these settings ccache refuses files that use the headers, or reads their 170 MB for each file.
     list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros
          CCACHE_INODECACHE=1)
-    # GCC 12 crashes in this pass over some files.
+    # GCC 12 crashes in this pass on some files.
     add_compile_options(-fno-ipa-cp)
     file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
     add_library(precompiled STATIC "${CMAKE_BINARY_DIR}/precompiled.cpp")
-    # The include folders alone, for who links less of Qt defines less, and the compiler wants no definition missing.
+    # Only the include folders: a target that links less of Qt has fewer definitions than the headers would have.
     foreach(module Core Gui Widgets)
         target_include_directories(precompiled SYSTEM PRIVATE
             $<TARGET_PROPERTY:Qt6::${module},INTERFACE_INCLUDE_DIRECTORIES>)
@@ -141,7 +141,7 @@ function(alembra_test_program name)
         list(APPEND ARG_SOURCES "${PROJECT_SOURCE_DIR}/tests/support/testmain.cpp")
     endif()
     add_executable(${name} ${ARG_SOURCES})
-    # One step, where AUTOMOC takes three: a second of each test.
+    # AUTOMOC takes three steps for this one, and a second for each test.
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     foreach(source IN LISTS ARG_SOURCES)
         if(source MATCHES "^(.*_test)\\.cpp$")

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Starts Alembra with a folder of the user's own, ~/.local/share/alembra, for options and database: the program's own
-# folder cannot be written to.
+# Starts Alembra with the user's folder, ~/.local/share/alembra, for options and database: the program's own folder cannot
+# be written to. The program fills the folder and brings it up to date.
 set -u
 
 prefix=$(dirname -- "$(dirname -- "$(readlink -f -- "$0")")")
@@ -9,8 +9,8 @@ case ${XDG_DATA_HOME-} in
 *) folder=${HOME:?names no home folder for your options and database}/.local/share/alembra ;;
 esac
 
-# In earlier releases the folder held a copy of the program and a link to each of its other files. What the user put in the
-# place of a link stays and is used.
+# Earlier releases put a copy of the program and a link to each of its files into the folder. Files that the user put in
+# place of a link stay and are used.
 if [ -e "$folder/.release" ]; then
     find "$folder" -lname '*/share/alembra/*' -delete
     find "$folder" -mindepth 1 -type d -empty -delete

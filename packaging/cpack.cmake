@@ -1,4 +1,4 @@
-# What the packages are called and say. Which component goes into which stands in cpackgenerators.cmake.
+# Names and descriptions of the packages. cpackgenerators.cmake says which component goes into which.
 
 set(CPACK_GENERATOR TXZ DEB)
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_SOURCE_DIR}/cpackgenerators.cmake")
@@ -21,7 +21,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_THREADS 2)
 
 string(TOLOWER "alembra-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}" CPACK_PACKAGE_FILE_NAME)
-set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF) # the archive holds one folder, "alembra", as an installation does
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF) # the archive contains one folder, "alembra", as an installation does
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
@@ -30,10 +30,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
-# A font with the letters of formulas, a way to open links, and a viewer of the help file: without one the program shows
-# the pages itself.
+# A font with the letters of formulas, a program that opens links, and a viewer of the help file, without which the
+# program shows the pages itself.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, xdg-utils, xchm | kchmviewer")
-# The native platform of desktops without X.
+# For desktops without X.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 
 include(CPack)

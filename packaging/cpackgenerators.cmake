@@ -1,4 +1,4 @@
-# The time of each file in a package is that of the release, so that two builds give the same bytes.
+# Files in a package carry the time of the release, so that two builds give the same bytes.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
     file(STRINGS "${CMAKE_CURRENT_LIST_DIR}/changelog.debian.in" date REGEX "^ -- ")
     string(REGEX REPLACE "^ -- .*  " "" date "${date}")
@@ -7,7 +7,8 @@ if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
     set(ENV{SOURCE_DATE_EPOCH} "${seconds}")
 endif()
 
-# The archive holds the portable folder, the Debian package the system's. Read by CPack once for each generator.
+# The archive contains the portable folder, the Debian package the files of the system. CPack reads this once for each
+# generator.
 
 if(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

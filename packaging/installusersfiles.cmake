@@ -1,5 +1,5 @@
-# Installs what belongs to the user once it is there: the options where there are none, and the database where there is
-# none or where it is still as it came. Runs before the original database, which tells that, is renewed.
+# Installs the files that belong to the user afterwards: the options if there are none, the database if there is none or
+# the user has not changed it. Must run before the original database is installed, which the user's is compared with.
 
 set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/alembra")
 
