@@ -198,10 +198,9 @@ void Form1::load(frmload &splash, TableLoader &loader)
 
 void Form1::loadTables(frmload &splash, TableLoader &loader)
 {
-    constexpr int LastLoadedStep = 31;
     loader.LoadCounter = 1;
     splash.setMaximum(185);
-    for (int step = TableCatalog::FirstStep; step <= LastLoadedStep; ++step) {
+    for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStepAtStart; ++step) {
         splash.ProgressTick();
         loader.LoadTable(TableCatalog::statement(step));
         if (step == 29)
@@ -209,7 +208,7 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
         ++loader.LoadCounter;
     }
     // The last four tables, resistors and reactions, wait until the user asks for them.
-    for (int step = LastLoadedStep + 1; step <= TableCatalog::LastStep; ++step) {
+    for (int step = TableCatalog::LastStepAtStart + 1; step <= TableCatalog::LastStep; ++step) {
         splash.ProgressTick();
         if (step < TableCatalog::LastStep)
             ++loader.LoadCounter;

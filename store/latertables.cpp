@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int FirstStep = 32;
+constexpr int FirstStep = TableCatalog::LastStepAtStart + 1;
 
 QList<RowList *> listsOf(RowLists &lists)
 {

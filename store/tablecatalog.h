@@ -17,6 +17,7 @@ class RowSource;
 namespace TableCatalog {
 
 inline constexpr int FirstStep = 1;
+inline constexpr int LastStepAtStart = 31; ///< the others are run when the user asks for their tables
 inline constexpr int LastStep = 35;
 
 /// Consecutive rows of a table, and the list that takes them.
