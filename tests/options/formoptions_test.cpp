@@ -40,7 +40,7 @@ struct Bench
     void setOptions(const QMap<int, QByteArray> &slots)
     {
         QByteArray lines;
-        for (int slot = 0; slot < 90; ++slot)
+        for (int slot = 0; slot <= OptionSlots::LastIndex; ++slot)
             lines += slots.value(slot, "0") + "\r\n";
         write("options_uk.ini", lines);
         module.OptionSlots = OptionSlots();
@@ -129,7 +129,10 @@ private Q_SLOTS:
 
 void FormoptionsTest::everyBoxShowsAndStoresItsSlotAlone()
 {
+    OptionSlots delivered;
+    delivered.read(QStringLiteral(ALEMBRA_SOURCE "/data/program/options_uk.ini"));
     for (const Shown &box : Boxes) {
+        QVERIFY2(box.slot <= delivered.lastIndex(), box.control);
         Bench bench;
         bench.setOptions({{box.slot, "1"}});
         const Formoptions &window = bench.open();
@@ -139,13 +142,13 @@ void FormoptionsTest::everyBoxShowsAndStoresItsSlotAlone()
         control->setEnabled(true);
         control->click();
         bench.press("XPButton1");
-        for (int slot = 0; slot < 90; ++slot)
+        for (int slot = 0; slot <= OptionSlots::LastIndex; ++slot)
             QVERIFY2(bench.module.OptionSlots(slot) == Value(0), box.control);
 
         QWidget *again = &bench.open();
         again->findChild<QCheckBox *>(QLatin1StringView(box.control))->setChecked(true);
         bench.press("XPButton1");
-        for (int slot = 0; slot < 90; ++slot)
+        for (int slot = 0; slot <= OptionSlots::LastIndex; ++slot)
             QVERIFY2(bench.module.OptionSlots(slot) == Value(slot == box.slot ? 1 : 0), box.control);
         QCOMPARE(bench.writtenOptions().at(box.slot), QByteArray("1\r"));
     }
