@@ -6,6 +6,8 @@
 
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using TableCatalog::Group;
@@ -72,6 +74,16 @@ private:
     int m_row = 0;
 };
 
+void explainEmptyLists(const TableCatalog::Step &step, const QString &column, RowLists &lists)
+{
+    for (const Group &group : step.groups) {
+        if (group.list)
+            group.list(lists).setWhyEmpty(
+                u"The database has no column %1: it was made for another version of Alembra.\n"
+                "\"Restore\" in the options, tab Database, brings the original database back."_s.arg(column));
+    }
+}
+
 } // namespace
 
 TableLoader::TableLoader(DataStore &data, OpenRows openRows, std::function<void()> onMissingTable)
@@ -94,7 +106,10 @@ int TableLoader::runStep(const QString &statement)
         fill(LoadCounter, *m_openRows(statement), m_data);
         return 0;
     } catch (const RuntimeError &error) {
-        return error.number(); // a step that fails keeps its rows and says nothing
+        // A step that fails keeps its rows and says nothing, but a list without a column says so itself.
+        if (error.number() == ErrorNumber::ColumnNotFound)
+            explainEmptyLists(TableCatalog::at(LoadCounter), error.subject(), m_data.lists);
+        return error.number();
     }
 }
 

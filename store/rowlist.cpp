@@ -33,6 +33,7 @@ void RowList::clear()
     m_texts.clear();
     m_ends.clear();
     m_firstCells.clear();
+    m_whyEmpty.clear();
     filled();
 }
 

@@ -34,6 +34,10 @@ public:
     void filled() { Q_EMIT reset(); }
     void clear();
 
+    /// Why the list has no rows, in words for the user; empty if there is nothing to say. clear() resets it.
+    const QString &whyEmpty() const { return m_whyEmpty; }
+    void setWhyEmpty(const QString &text) { m_whyEmpty = text; }
+
     bool gridLines() const { return m_gridLines; }
     void setGridLines(bool on);
 
@@ -45,5 +49,6 @@ private:
     QString m_texts;               ///< of all cells
     QList<qsizetype> m_ends;       ///< of each cell's text in m_texts
     QList<qsizetype> m_firstCells; ///< of each row in m_ends
+    QString m_whyEmpty;
     bool m_gridLines = false;
 };

@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 
@@ -44,13 +45,14 @@ void copy(const QString &lines)
 } // namespace
 
 RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent)
-    : QTreeView(parent), m_model(new RowListModel(list, std::move(columns), this))
+    : QTreeView(parent), m_list(list), m_model(new RowListModel(list, std::move(columns), this))
 {
     // A list that is one of an array gets its name with its index later.
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString &newName) { setAccessibleName(ListNames::of(newName)); });
     setObjectName(name);
     setModel(m_model);
+    setAccessibleDescription(list.whyEmpty());
     m_delegate = new RowListDelegate(list, m_model->columns(), this);
     setItemDelegate(m_delegate);
     setRootIsDecorated(false);
@@ -166,6 +168,16 @@ void RowListView::mousePressEvent(QMouseEvent *event)
     QTreeView::mousePressEvent(event);
     if (event->button() == Qt::RightButton && selectedRow() >= 0 && selectedRow() != before)
         Q_EMIT rowClicked(selectedRow());
+}
+
+void RowListView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    constexpr int Margin = 16; // logical pixels
+    if (m_model->rowCount() == 0)
+        QPainter(viewport())
+            .drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
+                      Qt::AlignCenter | Qt::TextWordWrap, m_list.whyEmpty());
 }
 
 bool RowListView::viewportEvent(QEvent *event)

@@ -11,7 +11,7 @@ class RowListDelegate;
 /// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
 /// the columns to copied text and to screen readers. The context menu copies the selected row (Ctrl+C) or
 /// the list with its titles (Ctrl+Shift+C), as tab-separated text and as an HTML table. A text that does not
-/// fit shows whole on hover.
+/// fit shows whole on hover. An empty list shows why, if it knows.
 class RowListView final : public QTreeView
 {
     Q_OBJECT
@@ -43,6 +43,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     bool viewportEvent(QEvent *event) override;
 
 private:
@@ -50,6 +51,7 @@ private:
     void spanHeadings();
     QString rowText(int row) const;
 
+    const RowList &m_list;
     RowListModel *m_model;
     RowListDelegate *m_delegate;
 };
