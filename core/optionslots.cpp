@@ -6,6 +6,7 @@
 #include "core/runtimeerror.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -15,61 +16,30 @@ namespace {
 class DelimitedReader
 {
 public:
-    explicit DelimitedReader(QStringView text) : m_rest(text) {}
+    explicit DelimitedReader(const QString &text) : m_text(text) {}
 
-    bool atEnd() const { return m_rest.isEmpty(); }
+    bool atEnd() const { return m_position == m_text.size(); }
 
     Value next()
     {
-        skipBlanks();
-        Value value = m_rest.startsWith(u'"') ? quoted() : bare();
-        skipBlanks();
-        skipDelimiter();
-        return value;
+        // A quoted text, up to the next quote or the end of the file, or a bare value; then the delimiter.
+        static const QRegularExpression Next(
+            uR"#([ \t]*(?:"([^"]*+)"?|([^,\r\n]*+))[ \t]*(?:\r\n|[,\r\n])?)#"_s);
+        const QRegularExpressionMatch match = Next.match(m_text, m_position, QRegularExpression::NormalMatch,
+                                                         QRegularExpression::AnchorAtOffsetMatchOption);
+        m_position = match.capturedEnd();
+        if (match.hasCaptured(1))
+            return match.captured(1);
+        const QString bare = match.captured(2).trimmed();
+        if (bare.isEmpty())
+            return {};
+        const std::optional<double> number = Numbers::parseInvariant(bare);
+        return number ? Value(*number) : Value(bare);
     }
 
 private:
-    void skipBlanks()
-    {
-        while (m_rest.startsWith(u' ') || m_rest.startsWith(u'\t'))
-            m_rest = m_rest.sliced(1);
-    }
-
-    void skipDelimiter()
-    {
-        if (m_rest.startsWith(u"\r\n"))
-            m_rest = m_rest.sliced(2);
-        else if (!m_rest.isEmpty() && isDelimiter(m_rest.front()))
-            m_rest = m_rest.sliced(1);
-    }
-
-    static bool isDelimiter(QChar c) { return c == u',' || c == u'\r' || c == u'\n'; }
-
-    // Up to the next quote or, without one, to the end of the file.
-    Value quoted()
-    {
-        m_rest = m_rest.sliced(1);
-        const qsizetype end = m_rest.indexOf(u'"');
-        const QStringView text = end < 0 ? m_rest : m_rest.first(end);
-        m_rest = end < 0 ? QStringView() : m_rest.sliced(end + 1);
-        return text.toString();
-    }
-
-    Value bare()
-    {
-        qsizetype end = 0;
-        while (end < m_rest.size() && !isDelimiter(m_rest[end]))
-            ++end;
-        const QStringView text = m_rest.first(end).trimmed();
-        m_rest = m_rest.sliced(end);
-        if (text.isEmpty())
-            return {};
-        if (const std::optional<double> number = Numbers::parseInvariant(text))
-            return *number;
-        return text.toString();
-    }
-
-    QStringView m_rest;
+    const QString &m_text;
+    qsizetype m_position = 0;
 };
 
 QByteArray delimited(const Value &value)
