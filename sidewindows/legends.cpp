@@ -1,7 +1,6 @@
 #include "sidewindows/legends.h"
 
 #include "core/symboltext.h"
-#include "sidewindows/colourmnemonic.h"
 #include "sidewindows/legendcolumn.h"
 #include "store/memorytables.h"
 #include "store/rowlist.h"
@@ -238,11 +237,12 @@ void paint(QWidget &widget, QPalette::ColorRole role, const QColor &colour)
 }
 
 /// A bar as in the charts: light colours are hard to distinguish in text.
-QWidget *bar(QRgb colour, QWidget *parent)
+QFrame *bar(QRgb colour, QSize size, QWidget *parent)
 {
-    auto *bar = new QWidget(parent);
-    bar->setFixedSize(36, 10);
+    auto *bar = new QFrame(parent);
+    bar->setFixedSize(size);
     bar->setAutoFillBackground(true);
+    bar->setBackgroundRole(QPalette::Window);
     paint(*bar, QPalette::Window, colour);
     return bar;
 }
@@ -262,11 +262,52 @@ QFrame *makeBonds(QWidget *parent)
     for (const Bond &bond : Bonds) {
         QLabel *label = Controls::heading(Controls::indexedName("Label2", bond.index), bond.partner, sheet);
         paint(*label, QPalette::WindowText, bond.colour);
-        grid->addWidget(bar(bond.colour, sheet), row, 0);
+        grid->addWidget(bar(bond.colour, {36, 10}, sheet), row, 0);
         grid->addWidget(label, row, 1);
         ++row;
     }
     return sheet;
+}
+
+// --- Mnemonic
+
+struct Digit
+{
+    const char *word;
+    const char *colourName;
+    QRgb colour; ///< that of the bands on the Electronics pane
+};
+
+constexpr std::array Digits{
+    Digit{"Big", "Black", 0xFF000000},    Digit{"Bottles", "Brown", 0xFF8B4513},
+    Digit{"Rarely", "Red", 0xFFFF0000},   Digit{"Overflow:", "Orange", 0xFFFFA500},
+    Digit{"Your", "Yellow", 0xFFFFFF00},  Digit{"Glass", "Green", 0xFF008000},
+    Digit{"Beakers", "Blue", 0xFF0000FF}, Digit{"Very", "Violet", 0xFF9400D3},
+    Digit{"Gladly", "Grey", 0xFF808080},  Digit{"Will", "White", 0xFFFFFFFF},
+};
+
+/// The colours of the digits 0 to 9 on resistors (IEC 60062), each with a word that has the same initial. The
+/// words make a sentence.
+QFrame *makeMnemonic(QWidget *parent)
+{
+    QFrame *panel = framedPanel(parent);
+    auto *grid = new QGridLayout(panel);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(10);
+    QStringList words;
+    for (int digit = 0; digit < int(Digits.size()); ++digit) {
+        const auto &[word, colourName, colour] = Digits[size_t(digit)];
+        QFrame *band = bar(colour, {56, 18}, panel);
+        // The outline makes black visible on a dark desktop and white on a light one.
+        band->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+        grid->addWidget(Controls::heading({}, QChar(u'0' + digit), panel), digit, 0);
+        grid->addWidget(band, digit, 1);
+        grid->addWidget(Controls::heading({}, word, panel), digit, 2);
+        grid->addWidget(Controls::label({}, colourName, panel), digit, 3);
+        words << word;
+    }
+    panel->setAccessibleName(words.join(u' '));
+    return panel;
 }
 
 } // namespace
@@ -304,6 +345,6 @@ void openMnemonic(QWidget &form1)
 {
     auto *legend = new Legend("Formhelp4", u"Form3"_s, form1); // this caption is intended
     legend->add(Controls::heading(u"Label3"_s, u"Mnemonic:"_s, legend));
-    legend->add(Controls::named(new ColourMnemonic(legend), u"Image3"_s));
+    legend->add(Controls::named(makeMnemonic(legend), u"Image3"_s));
     legend->open();
 }

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aboutNamesTheProgramAndOpensItsSite();
     void systemInformationIsNotAvailable();
     void closingTheCaptionsClosesTheStructureWindow();
+    void mnemonicShowsTheColoursOfTheDigits();
     void signsAndMeaningsOfALegendStandLineByLine();
     void journalsEndAtTheFirstEmptyRow();
     void allFiftyJournalsFit();
@@ -281,6 +282,19 @@ void SideWindowsTest::closingTheCaptionsClosesTheStructureWindow()
     window("Formhelp")->close();
     QTRY_VERIFY(!structure);
     QVERIFY(m_form1->isEnabled());
+}
+
+void SideWindowsTest::mnemonicShowsTheColoursOfTheDigits()
+{
+    openMnemonic(*m_form1);
+    const QImage picture = control<QWidget>("Formhelp4", "Image3")->grab().toImage();
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            colours << picture.pixel(x, y);
+    }
+    for (const QRgb band : {0xFF8B4513U, 0xFFFF0000U, 0xFFFFA500U, 0xFFFFFF00U, 0xFF008000U, 0xFF0000FFU})
+        QVERIFY2(colours.contains(band), qPrintable(QColor(band).name()));
 }
 
 void SideWindowsTest::signsAndMeaningsOfALegendStandLineByLine()
