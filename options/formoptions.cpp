@@ -85,19 +85,14 @@ QLayout *Formoptions::buildButtons()
     return buttons;
 }
 
-void Formoptions::connectClickRules()
+void Formoptions::build()
 {
+    buildWindow();
     // The balloon needs the tray.
     controls.Check1.connectEach(&QCheckBox::toggled, this, [this](int) {
         controls.Check1[8].setEnabled(controls.Check1[7].isChecked());
     });
     connect(controls.Check10, &QCheckBox::toggled, controls.Combo3, &QWidget::setEnabled);
-}
-
-void Formoptions::build()
-{
-    buildWindow();
-    connectClickRules();
     controls.Combo2->addItems(
         {u"Office 2000"_s, u"Office XP"_s, u"Office 2003"_s, u"Windows XP"_s, u"Office 2007"_s, u"Vista"_s});
     controls.Combo3->addItems({u"Solvents"_s, u"Solutions"_s, u"Elements"_s, u"Biochemistry"_s,

@@ -44,7 +44,6 @@ private:
     void buildWindow();
     QLayout *buildButtons();
     void applyGridLines();
-    void connectClickRules();
     void build();
 
     Module1 &m_module;

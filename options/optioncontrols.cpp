@@ -8,38 +8,38 @@
 
 namespace {
 
-enum class Control { Check1, Check2, Check10, Combo2, Combo3, Option1 };
-
-struct SlotControl
+struct Box
 {
     Slot slot;
-    Control control;
-    int index = 0; ///< in its array; of a pair, the button for 1
+    ControlArray<QCheckBox> OptionControls::*boxes;
+    int index;
 };
 
-// The order matters: a changed box runs its click rule, which reads other boxes.
-constexpr std::array SlotControls{
-    SlotControl{Slot::GridLines, Control::Check1, 6},
-    SlotControl{Slot::MenuStyle, Control::Combo2},
-    SlotControl{Slot::Structures, Control::Check1, 3},
-    SlotControl{Slot::TipAtStart, Control::Check1, 1},
-    SlotControl{Slot::ToolTips, Control::Check1, 2},
-    SlotControl{Slot::ElementZoom, Control::Check1, 4},
-    SlotControl{Slot::ElementPicture, Control::Check1, 5},
-    SlotControl{Slot::ReportStructures, Control::Check2, 0},
-    SlotControl{Slot::ReportElementPictures, Control::Check2, 3},
-    SlotControl{Slot::ReportPolarityChart, Control::Check2, 2},
-    SlotControl{Slot::ReportIsotopes, Control::Check2, 1},
-    SlotControl{Slot::TrayBalloon, Control::Check1, 8},
-    SlotControl{Slot::MinimiseToTray, Control::Check1, 7},
-    SlotControl{Slot::ReportGeneticCode, Control::Check1, 0},
-    SlotControl{Slot::ReportSdsPage, Control::Check1, 9},
-    SlotControl{Slot::ReportFluorochromes, Control::Check2, 7},
-    SlotControl{Slot::StartModuleOn, Control::Check10},
-    SlotControl{Slot::StartModule, Control::Combo3},
-    SlotControl{Slot::IrInFrequency, Control::Option1, 3},
-    SlotControl{Slot::ReportColours, Control::Option1, 1},
+constexpr Box Boxes[]{
+    {Slot::GridLines, &OptionControls::Check1, 6},
+    {Slot::Structures, &OptionControls::Check1, 3},
+    {Slot::TipAtStart, &OptionControls::Check1, 1},
+    {Slot::ToolTips, &OptionControls::Check1, 2},
+    {Slot::ElementZoom, &OptionControls::Check1, 4},
+    {Slot::ElementPicture, &OptionControls::Check1, 5},
+    {Slot::ReportStructures, &OptionControls::Check2, 0},
+    {Slot::ReportElementPictures, &OptionControls::Check2, 3},
+    {Slot::ReportPolarityChart, &OptionControls::Check2, 2},
+    {Slot::ReportIsotopes, &OptionControls::Check2, 1},
+    {Slot::TrayBalloon, &OptionControls::Check1, 8},
+    {Slot::MinimiseToTray, &OptionControls::Check1, 7},
+    {Slot::ReportGeneticCode, &OptionControls::Check1, 0},
+    {Slot::ReportSdsPage, &OptionControls::Check1, 9},
+    {Slot::ReportFluorochromes, &OptionControls::Check2, 7},
 };
+
+constexpr std::pair<Slot, QComboBox * OptionControls::*> Lists[]{
+    {Slot::MenuStyle, &OptionControls::Combo2},
+    {Slot::StartModule, &OptionControls::Combo3},
+};
+
+// The button for 1; the button before it is for all other values.
+constexpr std::pair<Slot, int> Pairs[]{{Slot::IrInFrequency, 3}, {Slot::ReportColours, 1}};
 
 // -1 is a number that no control can show.
 double shownNumber(const Value &value)
@@ -47,72 +47,47 @@ double shownNumber(const Value &value)
     return value.isText() ? -1 : value.toNumber();
 }
 
-QCheckBox &box(const OptionControls &controls, const SlotControl &entry)
+void showIn(QCheckBox &box, const Value &value)
 {
-    switch (entry.control) {
-    case Control::Check1:
-        return controls.Check1[entry.index];
-    case Control::Check2:
-        return controls.Check2[entry.index];
-    default:
-        return *controls.Check10;
-    }
+    const double number = shownNumber(value);
+    box.setCheckState(number == 0 ? Qt::Unchecked : number == 1 ? Qt::Checked : Qt::PartiallyChecked);
 }
 
-void showInBox(QCheckBox &box, double value)
+void showIn(QComboBox &list, const Value &value)
 {
-    box.setCheckState(value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked);
+    const double number = shownNumber(value);
+    const bool isItem = number >= 0 && number < list.count() && number == int(number);
+    list.setCurrentIndex(isItem ? int(number) : -1);
 }
 
-void showInList(QComboBox &list, double value)
+void storeFrom(const QCheckBox &box, Value &value)
 {
-    const bool isItem = value >= 0 && value < list.count() && value == int(value);
-    list.setCurrentIndex(isItem ? int(value) : -1);
+    if (box.checkState() != Qt::PartiallyChecked)
+        value = box.isChecked() ? 1 : 0;
 }
 
 } // namespace
 
 void OptionControls::show(const OptionSlots &slots)
 {
-    for (const SlotControl &entry : SlotControls) {
-        const Value &value = slots(entry.slot);
-        switch (entry.control) {
-        case Control::Combo2:
-            showInList(*Combo2, shownNumber(value));
-            break;
-        case Control::Combo3:
-            showInList(*Combo3, shownNumber(value));
-            break;
-        case Control::Option1:
-            Option1[value.equals(1) ? entry.index : entry.index - 1].setChecked(true);
-            break;
-        default:
-            showInBox(box(*this, entry), shownNumber(value));
-        }
-    }
+    for (const auto &[slot, boxes, index] : Boxes)
+        showIn((this->*boxes)[index], slots(slot));
+    showIn(*Check10, slots(Slot::StartModuleOn));
+    for (const auto &[slot, list] : Lists)
+        showIn(*(this->*list), slots(slot));
+    for (const auto &[slot, index] : Pairs)
+        Option1[slots(slot).equals(1) ? index : index - 1].setChecked(true);
 }
 
 void OptionControls::store(OptionSlots &slots) const
 {
-    const auto storeItem = [](Value &slot, const QComboBox &list) {
-        if (list.currentIndex() >= 0)
-            slot = list.currentIndex();
-    };
-    for (const SlotControl &entry : SlotControls) {
-        Value &slot = slots(entry.slot);
-        switch (entry.control) {
-        case Control::Combo2:
-            storeItem(slot, *Combo2);
-            break;
-        case Control::Combo3:
-            storeItem(slot, *Combo3);
-            break;
-        case Control::Option1:
-            slot = Option1[entry.index].isChecked() ? 1 : 0;
-            break;
-        default:
-            if (const QCheckBox &check = box(*this, entry); check.checkState() != Qt::PartiallyChecked)
-                slot = check.isChecked() ? 1 : 0;
-        }
+    for (const auto &[slot, boxes, index] : Boxes)
+        storeFrom((this->*boxes)[index], slots(slot));
+    storeFrom(*Check10, slots(Slot::StartModuleOn));
+    for (const auto &[slot, list] : Lists) {
+        if (const int item = (this->*list)->currentIndex(); item >= 0)
+            slots(slot) = item;
     }
+    for (const auto &[slot, index] : Pairs)
+        slots(slot) = Option1[index].isChecked() ? 1 : 0;
 }
