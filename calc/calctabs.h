@@ -11,12 +11,12 @@ struct TabSolver;
 struct CalcTab
 {
     const char *caption;
-    const char *formula;              ///< the text of `lbln(3)`
-    std::array<const char *, 3> over; ///< captions of `lbl2(0)` to `lbl2(2)`; null leaves them as they are
+    const char *formula; ///< the text of `lbln(3)`
     FieldSet fields;
-    FieldSet emptied;   ///< by each click on the tab
-    bool asksForLiquid; ///< shows `Option10` and `lbln(0)`
+    FieldSet emptied; ///< by each click on the tab
     const TabSolver &solver;
+    std::array<const char *, 3> over{}; ///< captions of `lbl2(0)` to `lbl2(2)`; null: unchanged
+    bool asksForLiquid = false;         ///< shows `Option10` and `lbln(0)`
 };
 
 /// A field with its label, and its place among the fields that are visible together.

@@ -2,7 +2,6 @@
 
 #include "calc/calcfields.h"
 
-#include <QStringList>
 #include <optional>
 
 /// What a click on "Calculate" does: write these changes in order, then show the message. Both are empty if

@@ -164,17 +164,16 @@ void ReactionsPane::changeView()
 
 void ReactionsPane::showReaction(int row)
 {
-    ChartKey = row + 1;
+    const int ChartKey = row + 1;
     const bool mechanism = !optorga[Equation].isChecked();
     SourceImage2->setPicture(
         PictureFile::load(m_module1.shippedFile(ReactionCharts::file(ChartKey, mechanism))));
-    Picture4->clear();
     Picture4->paint(SourceImage2->picture(), ReactionCharts::PaintLeft);
     setScrollRange();
     const double pictureWidth = WindowUnits::pictureUnits(SourceImage2->picture().width());
     const double frameWidth = Picture4->parentWidget()->width() * WindowUnits::TwipsPerPixel;
     Picture4->moveTo(ReactionCharts::left(frameWidth, pictureWidth), ReactionCharts::Top);
-    Label55->setText(m_store.lists.ListView3[31].text(ChartKey - 1));
+    Label55->setText(m_store.lists.ListView3[31].text(row));
     ListView3[31].setFocus();
 }
 

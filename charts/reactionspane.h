@@ -53,8 +53,6 @@ private:
     LaterTables &m_tables;
     Desktop &m_desktop;
 
-    int ChartKey = 0; ///< one-based position of the shown row
-
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 31
     ControlArray<QLabel> Label2{"Label2"};
     ControlArray<QRadioButton> optorga{"optorga"}; ///< by View

@@ -274,10 +274,9 @@ void SpectroscopyPane::showNmrChart(const NmrCharts &charts, int row)
 {
     const int number = charts.number(row + 1);
     m_module1.SelectedChart = number;
-    ChartKey = QString::number(number);
     if (charts.fillsText3)
-        Text3->setText(QString::number(m_module1.SelectedChart + 1));
-    loadChart(m_module1.shippedFile(charts.file(number)));
+        Text3->setText(QString::number(number + 1));
+    SourceImage->setPicture(PictureFile::load(m_module1.shippedFile(charts.file(number))));
     Picture3->paint(SourceImage->picture(), charts.paintLeft);
     setScrollRange();
     Picture3->setTop(0);
@@ -287,13 +286,13 @@ void SpectroscopyPane::showNmrChart(const NmrCharts &charts, int row)
 
 void SpectroscopyPane::showIrChart(int row)
 {
-    ChartKey = m_store.lists.ListView3[5].subItem(row, 1);
+    const QString ChartKey = m_store.lists.ListView3[5].subItem(row, 1);
     if (const auto title = IrCharts::title(ChartKey))
         Label20->setText(*title);
     Label20->setEnabled(true);
     m_bandsWanted = row;
     showIrScale();
-    loadChart(m_module1.shippedFile(IrCharts::file(ChartKey)));
+    SourceImage->setPicture(PictureFile::load(m_module1.shippedFile(IrCharts::file(ChartKey))));
     Picture3->moveTo(SpectroscopyModes::IrPlaces.Picture3Left, SpectroscopyModes::IrPlaces.Picture3Top);
     Picture3->paint(SourceImage->picture(), IrCharts::PaintLeft);
     setScrollRange();
@@ -314,12 +313,6 @@ void SpectroscopyPane::showBands()
     RowListView &table = ListView3[27];
     table.selectRow(row);
     table.scrollTo(table.currentIndex(), QAbstractItemView::PositionAtTop);
-}
-
-void SpectroscopyPane::loadChart(const QString &file)
-{
-    SourceImage->setPicture(PictureFile::load(file));
-    Picture3->clear();
 }
 
 void SpectroscopyPane::setScrollRange()
@@ -375,10 +368,9 @@ void SpectroscopyPane::applyIrGraduation()
     if (!isBuilt())
         return;
     placeIrLabels();
+    captionIrScale();
     if (Controls::isShown(ListView3[5]))
         showIrScale();
-    else
-        captionIrScale();
 }
 
 void SpectroscopyPane::refreshToolTips()

@@ -6,7 +6,6 @@
 #include "widgets/modulepanel.h"
 #include "widgets/rowlistview.h"
 
-#include <QImage>
 #include <QLabel>
 
 class ChartPicture;
@@ -81,7 +80,6 @@ private:
     void showNmrChart(const NmrCharts &charts, int row);
     void showIrChart(int row);
     void showBands();
-    void loadChart(const QString &file);
     void setScrollRange();
     void scroll(int value);
     void captionIrScale();
@@ -91,7 +89,6 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
 
-    QString ChartKey;       ///< of the chart last chosen
     int m_bandsWanted = -1; ///< row of ListView3(5) whose bands the table has not shown yet
 
     DropDown *Comboana = nullptr;

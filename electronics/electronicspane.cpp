@@ -115,11 +115,10 @@ void ElectronicsPane::buildRings()
     for (const Column &column : Columns) {
         QLabel *label = addLabel18(column.label, column.caption,
                                    {column.left, LabelTop, column.width, LabelHeight}, frmgen);
-        DropDown *list = addList(column.list, {},
+        DropDown *list = addList(column.list, column.caption,
                                  {column.left, LabelTop + LabelHeight, column.width, FieldHeight}, frmgen);
         list->showRows(
             new RowListModel(m_store.lists.Combo2[column.list], {{u"Colour"_s, column.width}}, list));
-        list->setAccessibleName(column.caption);
         label->setBuddy(list);
     }
 }

@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QTabBar>
 
-class ChipView;
 class Desktop;
 class LaterTables;
 class ResistorView;
