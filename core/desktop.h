@@ -27,8 +27,8 @@ public:
     Desktop() = default;
     virtual ~Desktop() = default;
 
-    /// A modal box titled "Alembra" with plain @p text. The style is a sum of Style numbers: the two bits
-    /// above 15 that make up the icon are read as a number, so 68 is the information icon with Yes and No.
+    /// A modal box titled "Alembra" with plain @p text. @p style is a sum of Style numbers, in which 32 + 32
+    /// is the information icon.
     virtual Answer messageBox(const QString &text, int style) = 0;
 
     /// The full chosen path. RuntimeError 32755 if the user cancels. Does not ask about existing files.

@@ -91,9 +91,9 @@ HelpPages::HelpPages() : QWidget(nullptr, Qt::Window)
     whole->addWidget(split);
 
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, tabs, [tabs] {
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, tabs, [this, tabs] {
         tabs->setCurrentIndex(tabs->count() - 1);
-        tabs->currentWidget()->findChild<QLineEdit *>()->setFocus();
+        m_words->setFocus();
     });
     connect(m_page, &QTextBrowser::sourceChanged, this, &HelpPages::markInContents);
     open(HelpBook::contents().constFirst().page);
@@ -137,18 +137,18 @@ QWidget *HelpPages::buildIndex()
 
 QWidget *HelpPages::buildSearch()
 {
-    auto *field = makeField(u"txtHelpSearch"_s, u"Words to look for"_s);
-    QListWidget *list = makeList(u"lstHelpHits"_s, u"Pages with these words"_s, *field);
-    connect(field, &QLineEdit::textChanged, list, [list](const QString &words) {
+    m_words = makeField(u"txtHelpSearch"_s, u"Words to look for"_s);
+    QListWidget *list = makeList(u"lstHelpHits"_s, u"Pages with these words"_s, *m_words);
+    connect(m_words, &QLineEdit::textChanged, list, [list](const QString &words) {
         showTopics(*list, HelpBook::search(words));
         if (list->count() == 0 && !words.trimmed().isEmpty())
             (new QListWidgetItem(u"No page has these words."_s, list))->setFlags(Qt::NoItemFlags);
     });
-    connect(list, &QListWidget::currentItemChanged, this, [this, field](const QListWidgetItem *item) {
+    connect(list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
         if (item)
-            m_page->find(field->text().section(u' ', 0, 0, QString::SectionSkipEmpty));
+            m_page->find(m_words->text().section(u' ', 0, 0, QString::SectionSkipEmpty));
     });
-    return column(field, list);
+    return column(m_words, list);
 }
 
 QListWidget *HelpPages::makeList(const QString &name, const QString &accessibleName, QLineEdit &field)

@@ -31,4 +31,5 @@ private:
 
     QTextBrowser *m_page;
     QTreeWidget *m_contents;
+    QLineEdit *m_words;
 };
