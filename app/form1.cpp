@@ -11,6 +11,7 @@
 #include "browsers/solventspane.h"
 #include "browsers/textpanes.h"
 #include "calc/calculationspane.h"
+#include "calc/units.h"
 #include "charts/reactionspane.h"
 #include "charts/spectroscopypane.h"
 #include "core/buildsettings.h"
@@ -99,7 +100,7 @@ ModulePanel *Form1::makePanel(PanelId id)
         connect(m_solvents, &SolventsPane::tabChanged, this, &Form1::updateCommands);
         return m_solvents;
     case PanelId::Calculations:
-        m_calculations = new CalculationsPane(m_module, m_desktop, m_store.lists, m_units, m_paneArea);
+        m_calculations = new CalculationsPane(m_module, m_desktop, m_store.lists, m_paneArea);
         return m_calculations;
     case PanelId::Solutions:
         return new SolutionsPane(m_store, m_paneArea);
@@ -193,7 +194,7 @@ void Form1::load(frmload &splash, TableLoader &loader)
     m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);
     loadTables(splash, loader);
     loadMenus();
-    m_units.fill(m_module.OptionSlots, m_module.UnitItemCount);
+    m_module.UnitItemCount = Units::count();
 }
 
 void Form1::loadTables(frmload &splash, TableLoader &loader)

@@ -8,7 +8,6 @@
 #include "app/paneswitch.h"
 #include "app/scaleactions.h"
 #include "app/trayicon.h"
-#include "calc/unitlists.h"
 #include "reports/reportsave.h"
 #include "search/findbar.h"
 #include "update/miseajour.h"
@@ -115,6 +114,4 @@ private:
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;
     std::unique_ptr<OptionsHost> m_options;
-
-    UnitLists m_units; ///< filled at the end of the load
 };

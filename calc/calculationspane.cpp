@@ -13,9 +13,8 @@ constexpr int SolverHeight = 158;
 
 } // namespace
 
-CalculationsPane::CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists,
-                                   const UnitLists &units, QWidget *parent)
-    : ModulePanel("Frame2", parent), m_module(module), m_desktop(desktop), m_lists(lists), m_units(units)
+CalculationsPane::CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists, QWidget *parent)
+    : ModulePanel("Frame2", parent), m_module(module), m_desktop(desktop), m_lists(lists)
 {}
 
 void CalculationsPane::buildContents()
@@ -28,7 +27,7 @@ void CalculationsPane::buildContents()
     m_solver->setGeometry(room.left(), room.top(), left, SolverHeight);
     auto *constants = new ConstantsBox(m_lists, {left, room.height() - below}, this);
     constants->move(room.left(), room.top() + below);
-    m_conversions = new ConversionBox(m_module, m_desktop, m_units, this);
+    m_conversions = new ConversionBox(m_module, m_desktop, this);
     m_conversions->setGeometry(room.left() + left + Gap, room.top(), ConversionWidth, room.height());
 }
 

@@ -5,7 +5,6 @@
 class ConversionBox;
 class Desktop;
 class SolverBox;
-class UnitLists;
 struct Module1;
 struct RowLists;
 
@@ -15,8 +14,7 @@ class CalculationsPane final : public ModulePanel
     Q_OBJECT
 
 public:
-    CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists, const UnitLists &units,
-                     QWidget *parent);
+    CalculationsPane(const Module1 &module, Desktop &desktop, RowLists &lists, QWidget *parent);
 
     /// Empties the entry fields except those of tabs 4 and 6, after an OK in the options.
     void emptyEntryFields();
@@ -28,7 +26,6 @@ private:
     const Module1 &m_module;
     Desktop &m_desktop;
     RowLists &m_lists;
-    const UnitLists &m_units;
 
     SolverBox *m_solver = nullptr; ///< null until the pane is built
     ConversionBox *m_conversions = nullptr;

@@ -1,7 +1,6 @@
 #include "calc/conversionbox.h"
 
 #include "calc/calctabs.h"
-#include "calc/unitlists.h"
 #include "core/desktop.h"
 #include "core/module1.h"
 #include "widgets/controls.h"
@@ -51,7 +50,7 @@ protected:
 
 } // namespace
 
-ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent)
+ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     : QWidget(parent), m_module(module), m_desktop(desktop), m_converter([this](int tab) {
           return UnitPair{list(Units::quantity(tab).inputList).currentRow(),
                           list(Units::quantity(tab).resultList).currentRow()};
@@ -64,7 +63,7 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
     TextBoxM2->setReadOnly(true);
     TextBoxM1->installEventFilter(this);
     TextBoxM2->installEventFilter(this);
-    buildLists(units);
+    buildLists();
     connect(TabStrip3, &TabStrip::tabClicked, this,
             [this](int tab) { endOnError(m_desktop, [&] { clickTab(tab); }); });
     // A mouse paste or a drop has no key event.
@@ -73,11 +72,12 @@ ConversionBox::ConversionBox(const Module1 &module, Desktop &desktop, const Unit
     reset();
 }
 
-void ConversionBox::buildLists(const UnitLists &units)
+void ConversionBox::buildLists()
 {
     for (const Quantity &each : Units::quantities()) {
-        buildList(each.inputList, units.names(each.inputList), each.startInput);
-        buildList(each.resultList, units.names(each.resultList), each.startResult);
+        const QStringList names = Units::names(each, m_module.OptionSlots);
+        buildList(each.inputList, names, each.startInput);
+        buildList(each.resultList, names, each.startResult);
     }
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});

@@ -7,7 +7,6 @@
 #include <QListWidget>
 
 class Desktop;
-class UnitLists;
 struct Module1;
 
 /// The unit conversions: `TextBoxM1` in the unit of one list, `TextBoxM2` in that of the other.
@@ -16,7 +15,7 @@ class ConversionBox final : public QWidget
     Q_OBJECT
 
 public:
-    ConversionBox(const Module1 &module, Desktop &desktop, const UnitLists &units, QWidget *parent);
+    ConversionBox(const Module1 &module, Desktop &desktop, QWidget *parent);
 
     /// Empties the input and sets the result to "0"; the selected units stay.
     void reset();
@@ -26,7 +25,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void buildLists(const UnitLists &units);
+    void buildLists();
     void buildList(int number, const QStringList &names, int start);
     void clickTab(int tab);
     void showLists(int tab);

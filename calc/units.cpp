@@ -1,5 +1,7 @@
 #include "calc/units.h"
 
+#include "core/optionslots.h"
+
 namespace {
 
 // Do not round the fractions: their quotients are the intended numbers. If a factor is not today's definition
@@ -118,4 +120,23 @@ std::span<const Quantity> Units::quantities()
 const Quantity &Units::quantity(int tab)
 {
     return Quantities[tab - 1];
+}
+
+QStringList Units::names(const Quantity &quantity, const OptionSlots &slots)
+{
+    QStringList names;
+    const auto addNames = [&](const auto &units) {
+        for (const auto &unit : units)
+            names << slots(unit.slot).toText();
+    };
+    std::visit(addNames, quantity.units);
+    return names;
+}
+
+int Units::count()
+{
+    int count = 0;
+    for (const Quantity &quantity : Quantities)
+        count += std::visit([](const auto &units) { return int(units.size()); }, quantity.units);
+    return count;
 }

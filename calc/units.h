@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QStringList>
 #include <span>
 #include <variant>
+
+class OptionSlots;
 
 /// A unit that converts by its factor.
 struct UnitByFactor
@@ -39,5 +42,11 @@ enum Tab { Length = 1, Surface, Volume, Mass, Temperature, Pressure, Energy, Rad
 std::span<const Quantity> quantities();
 
 const Quantity &quantity(int tab);
+
+/// The names of its units, in list order. An empty slot is an empty name, so positions keep their meaning.
+QStringList names(const Quantity &quantity, const OptionSlots &slots);
+
+/// Number of units of all quantities.
+int count();
 
 } // namespace Units

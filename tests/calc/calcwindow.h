@@ -1,7 +1,6 @@
 #pragma once
 
 #include "calc/calculationspane.h"
-#include "calc/unitlists.h"
 #include "core/module1.h"
 #include "store/rowlists.h"
 #include "tests/support/scripteddesktop.h"
@@ -22,7 +21,6 @@ public:
     CalcWindow()
     {
         module.OptionSlots.read(QStringLiteral(ALEMBRA_SOURCE "/data/program/options_uk.ini"));
-        units.fill(module.OptionSlots, module.UnitItemCount);
         pane.show();
         show();
     }
@@ -98,6 +96,5 @@ public:
     Module1 module;
     ScriptedDesktop desktop;
     RowLists lists;
-    UnitLists units;
-    CalculationsPane pane{module, desktop, lists, units, this};
+    CalculationsPane pane{module, desktop, lists, this};
 };

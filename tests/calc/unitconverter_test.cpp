@@ -1,5 +1,6 @@
 #include "calc/unitconverter.h"
 
+#include "core/optionslots.h"
 #include "core/runtimeerror.h"
 #include "fieldrows.h"
 
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void aListConvertsByItselfOrByTheMode();
     void bracketTextTakesTheSymbol();
     void aLengthWithoutABracketStopsTheSwitchAfterTheMode();
+    void unitsHaveTheNamesInTheirSlots();
     void theLocaleOfTheDesktop();
     void theSameInOtherLocales();
 };
@@ -217,6 +219,20 @@ void UnitConverterTest::aLengthWithoutABracketStopsTheSwitchAfterTheMode()
     QVERIFY_THROWS_EXCEPTION(
         RuntimeError, converter.selectTab(Length, QStringLiteral("meter (m)"), QStringLiteral("foot")));
     QCOMPARE(converter.ConversionMode(), QStringLiteral("longueur"));
+}
+
+void UnitConverterTest::unitsHaveTheNamesInTheirSlots()
+{
+    OptionSlots slots;
+    for (int slot = 0; slot <= OptionSlots::LastIndex; ++slot)
+        slots(slot) = slot;
+    QStringList ends;
+    for (const Quantity &each : Units::quantities())
+        ends << Units::names(each, slots).first() + u'-' + Units::names(each, slots).last();
+    QCOMPARE(ends.join(u' '), QStringLiteral("1-13 44-52 14-24 31-43 28-30 63-73 25-87 59-62"));
+    QCOMPARE(Units::names(Units::quantity(Energy), OptionSlots()),
+             QStringList(4, QString())); // positions stay
+    QCOMPARE(Units::count(), 68);
 }
 
 void UnitConverterTest::theLocaleOfTheDesktop()

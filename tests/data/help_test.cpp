@@ -3,7 +3,7 @@
 
 #include "calc/solver.h"
 #include "calc/unitconverter.h"
-#include "calc/unitlists.h"
+#include "core/optionslots.h"
 #include "sidewindows/helpbook.h"
 
 #include <QDir>
@@ -246,9 +246,6 @@ void HelpTest::conversionsAreWhatTheProgramShows()
 {
     OptionSlots options;
     options.read(QStringLiteral(ALEMBRA_FOLDER "/options_uk.ini"));
-    UnitLists lists;
-    int count = 0;
-    lists.fill(options, count);
     static const QRegularExpression Equation(QStringLiteral("^(\\d+) (.+) = ([\\d.]+) ([^(]+?)(?: \\(.*)?$"));
     const auto quantities = Units::quantities();
     QList<QStringList> rows = Page(QStringLiteral("conversions.html")).rows;
@@ -261,18 +258,17 @@ void HelpTest::conversionsAreWhatTheProgramShows()
         QCOMPARE(cells[0], QLatin1StringView(quantity.caption));
         const QRegularExpressionMatch equation = Equation.match(cells[1]);
         QVERIFY2(equation.hasMatch(), qPrintable(cells[1]));
-        const auto position = [&](int list, const QString &unit) {
-            const QStringList &names = lists.names(list);
+        const QStringList names = Units::names(quantity, options);
+        const auto position = [&](const QString &unit) {
             return int(std::find_if(names.begin(), names.end(),
                                     [&](const QString &name) {
                                         return name.startsWith(unit + QStringLiteral(" ("));
                                     }) -
                        names.begin());
         };
-        const UnitPair pair{position(quantity.inputList, equation.captured(2)),
-                            position(quantity.resultList, equation.captured(4))};
-        QVERIFY2(pair.from < lists.names(quantity.inputList).size(), qPrintable(equation.captured(2)));
-        QVERIFY2(pair.to < lists.names(quantity.resultList).size(), qPrintable(equation.captured(4)));
+        const UnitPair pair{position(equation.captured(2)), position(equation.captured(4))};
+        QVERIFY2(pair.from < names.size(), qPrintable(equation.captured(2)));
+        QVERIFY2(pair.to < names.size(), qPrintable(equation.captured(4)));
         UnitConverter converter([&](int) { return pair; });
         QCOMPARE(converter.keyReleased(int(tab), equation.captured(1)), equation.captured(3));
     }
