@@ -2,6 +2,7 @@
 
 #include "core/numbers.h"
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -32,12 +33,12 @@ const std::array<ResistorCode::Ring, 6> &ResistorCode::rings()
     // The lists of digits leave out the two rows without a digit, the last two lists leave out other rows.
     // Band 5 (tolerance) is left of band 4 (temperature).
     static constexpr std::array<Ring, 6> table{{
-        {4, 0, Coef1, 2},
-        {5, 1, Coef2, 2},
-        {6, 2, Coef3, 2},
-        {7, 3, Mult, 0},
-        {8, 5, Tol, std::nullopt},
-        {9, 4, Temp, std::nullopt},
+        {4, 0, 3, Coef1, 2},
+        {5, 1, 3, Coef2, 2},
+        {6, 2, 5, Coef3, 2},
+        {7, 3, 3, Mult, 0},
+        {8, 5, 4, Tol, std::nullopt},
+        {9, 4, 6, Temp, std::nullopt},
     }};
     return table;
 }
@@ -49,16 +50,8 @@ QStringList ResistorCode::ringCounts()
 
 bool ResistorCode::hasRing(const QString &ringCount, int list)
 {
-    switch (list) {
-    case 6:
-        return ringCount == u"5" || ringCount == u"6";
-    case 8:
-        return ringCount != u"3";
-    case 9:
-        return ringCount == u"6";
-    default:
-        return true;
-    }
+    const auto *ring = std::ranges::find(rings(), list, &Ring::list);
+    return ringCount.toInt() >= ring->fewestRings;
 }
 
 std::optional<ResistorCode::Paint> ResistorCode::choose(const Ring &ring, int position, const QString &name)

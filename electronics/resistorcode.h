@@ -20,6 +20,7 @@ public:
     {
         int list;
         int band;
+        int fewestRings;             ///< of a resistor that has this ring
         int column;                  ///< of the table: what the colour means on this ring
         std::optional<int> firstRow; ///< of the list in the table; none: rows are found by the colour's name
     };
