@@ -30,9 +30,8 @@ public:
 
     const QString &ConversionMode() const { return m_mode; }
 
-    /// A click on @p tab; the units are the selected texts of its lists. RuntimeError 9 on tab 1 if a unit
-    /// has no
-    /// "(".
+    /// A click on @p tab; the units are the selected texts of its lists. RuntimeError 9 if a unit on tab 1
+    /// has no bracket.
     void selectTab(int tab, const QString &inputUnit, const QString &resultUnit);
 
     /// The result for a key released in the input field on @p tab.

@@ -17,7 +17,7 @@ struct NumberEntry
     std::optional<QString> typed(QString text) const;
 
     /// The new entry if @p text is pasted: a number, also in E notation, rounded to the decimals and the
-    /// length of the field. Nothing if @p text is ambiguous: where the decimal separator is a point, 1,234
-    /// may mean a thousand, and the other way round.
+    /// length of the field. Nothing if @p text is not a number or ambiguous: 1,234 may mean 1234 where the
+    /// decimal separator is a point, and 1.234 where it is a comma.
     std::optional<QString> pasted(const QString &text) const;
 };
