@@ -323,7 +323,7 @@ void Form1::updateCommands()
     const bool searchable = m_panes->isShown(PanelId::Solvents) &&
                             (m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown());
     m_commandBars.action(CommandId::Find).setEnabled(searchable || m_panes->isShown(PanelId::Elements));
-    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::isThereOneFor(reportContext()));
+    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(reportContext()));
     m_commandBars.action(CommandId::Print).setEnabled(false);
     m_copyActions.update();
 }

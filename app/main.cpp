@@ -57,8 +57,8 @@ int run(int &argc, char **argv)
         return WrongUsage;
     }
 
-    scale.byDesktop = Scale::ofType(QApplication::font().pointSizeF());
-    const int wanted = Scale::wanted(scale.byDesktop);
+    scale.byDesktop = Scale::forFontSize(QApplication::font().pointSizeF());
+    const int wanted = Scale::chosenOr(scale.byDesktop);
     if (!left.percent && wanted != scale.percent) {
         StartAgain::leave({wanted, {}}); // the desktop's type has changed since the last time
         return 0;

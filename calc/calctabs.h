@@ -15,8 +15,8 @@ struct CalcTab
     FieldSet fields;
     FieldSet emptied; ///< by each click on the tab
     const TabSolver &solver;
-    std::array<const char *, 3> over{}; ///< captions of `lbl2(0)` to `lbl2(2)`; null: unchanged
-    bool asksForLiquid = false;         ///< shows `Option10` and `lbln(0)`
+    std::array<const char *, 3> labels{}; ///< captions of `lbl2(0)` to `lbl2(2)`; null: unchanged
+    bool asksForLiquid = false;           ///< shows `Option10` and `lbln(0)`
 };
 
 /// A field with its label, and its place among the fields that are visible together.

@@ -150,8 +150,8 @@ void SolverBox::showTab(int number)
     lbln[0].setVisible(tab.asksForLiquid);
     lbln[3].setText(tab.formula);
     placeDelta();
-    for (int index = 0; index < int(tab.over.size()); ++index) {
-        if (const char *caption = tab.over[size_t(index)])
+    for (int index = 0; index < int(tab.labels.size()); ++index) {
+        if (const char *caption = tab.labels[size_t(index)])
             lbl2[index].setText(caption);
     }
 }

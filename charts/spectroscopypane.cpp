@@ -290,7 +290,7 @@ void SpectroscopyPane::showIrChart(int row)
     if (const auto title = IrCharts::title(ChartKey))
         Label20->setText(*title);
     Label20->setEnabled(true);
-    m_bandsWanted = row;
+    m_pendingBandsRow = row;
     showIrScale();
     SourceImage->setPicture(PictureFile::load(m_module1.shippedFile(IrCharts::file(ChartKey))));
     Picture3->moveTo(SpectroscopyModes::IrPlaces.Picture3Left, SpectroscopyModes::IrPlaces.Picture3Top);
@@ -302,12 +302,13 @@ void SpectroscopyPane::showIrChart(int row)
 // Scrolls the table to the bands of the chart chosen last.
 void SpectroscopyPane::showBands()
 {
-    if (m_bandsWanted < 0)
+    if (m_pendingBandsRow < 0)
         return;
     const RowList &charts = m_store.lists.ListView3[5];
-    const int row = IrCharts::bandsOf(m_store.lists.ListView3[27], charts.cell(m_bandsWanted, 0),
-                                      IrCharts::title(charts.subItem(m_bandsWanted, 1)).value_or(QString()));
-    m_bandsWanted = -1;
+    const int row =
+        IrCharts::bandsOf(m_store.lists.ListView3[27], charts.cell(m_pendingBandsRow, 0),
+                          IrCharts::title(charts.subItem(m_pendingBandsRow, 1)).value_or(QString()));
+    m_pendingBandsRow = -1;
     if (row < 0)
         return;
     RowListView &table = ListView3[27];

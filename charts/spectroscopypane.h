@@ -89,7 +89,7 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
 
-    int m_bandsWanted = -1; ///< row of ListView3(5) whose bands the table has not shown yet
+    int m_pendingBandsRow = -1; ///< row of ListView3(5) whose bands the table has not shown yet
 
     DropDown *Comboana = nullptr;
     ControlArray<RowListView> ListView3{"ListView3"}; ///< 5, 15, 16, 27

@@ -22,7 +22,7 @@ int read(const QSettings &settings, QLatin1StringView key)
 
 } // namespace
 
-int Scale::ofType(double points)
+int Scale::forFontSize(double points)
 {
     constexpr int Round = 5;
     return std::clamp(int(std::lround(points * 10 / Round)) * Round, Normal, Most);
@@ -57,7 +57,7 @@ int Scale::remembered()
     return Normal;
 }
 
-int Scale::wanted(int byDesktop)
+int Scale::chosenOr(int byDesktop)
 {
     QSettings settings = userSettings();
     if (settings.value(Desktop, Normal) != byDesktop)

@@ -13,7 +13,7 @@ struct Scale
     int byDesktop = Normal; ///< from the desktop's font size
 
     /// For a desktop font of @p points: 100 up to 10 points, for which the windows are made.
-    static int ofType(double points);
+    static int forFontSize(double points);
 
     /// The next step up or down; unchanged at either end.
     static int larger(int percent);
@@ -26,7 +26,7 @@ struct Scale
     static int remembered();
 
     /// What this run should use: the user's choice or the desktop's scale. Remembers the latter.
-    static int wanted(int byDesktop);
+    static int chosenOr(int byDesktop);
 
     /// Remembers the user's choice. Choosing the desktop's scale means following the desktop.
     void choose(int choice) const;

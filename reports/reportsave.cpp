@@ -62,7 +62,7 @@ ReportSave::ReportSave(Module1 &module, const DataStore &data, Desktop &desktop)
       CommonDialog1({"Page Web", {"*.htm", "*.html"}}, module, desktop)
 {}
 
-bool ReportSave::isThereOneFor(const ReportContext &shown)
+bool ReportSave::hasReportFor(const ReportContext &shown)
 {
     return choose(shown).has_value();
 }
@@ -74,7 +74,7 @@ void ReportSave::run(const std::function<ReportContext()> &onShow)
         m_module.ProbedLength = 0;
     } catch (const RuntimeError &error) {
         if (error.number() != ErrorNumber::DialogCancelled)
-            tell(error);
+            showMessage(error);
     }
 }
 
@@ -97,7 +97,7 @@ void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
         throw RuntimeError(ErrorNumber::DiskFull, file.fileName()); // a partial write sets no error
 }
 
-void ReportSave::tell(const RuntimeError &error)
+void ReportSave::showMessage(const RuntimeError &error)
 {
     const QString path = CommonDialog1.FileName();
     m_module.ProbedLength = error.number();

@@ -25,7 +25,7 @@ public:
     ReportSave(Module1 &module, const DataStore &data, Desktop &desktop);
 
     /// Whether the export command has a report for what is shown.
-    static bool isThereOneFor(const ReportContext &shown);
+    static bool hasReportFor(const ReportContext &shown);
 
     /// Shows the dialog and writes the file, replacing its contents. Reports only a file that is in use or
     /// not writable. Any other failure is silent and leaves the file incomplete. Without a report for what is
@@ -34,7 +34,7 @@ public:
 
 private:
     void saveReport(const std::function<ReportContext()> &onShow);
-    void tell(const RuntimeError &error);
+    void showMessage(const RuntimeError &error);
 
     Module1 &m_module;
     const DataStore &m_data;

@@ -26,7 +26,7 @@ frmTip::frmTip(Module1 &module1, Desktop &desktop, std::function<void(bool)> set
 {
     setWindowTitle(u"Tip of the day"_s);
     buildWindow();
-    connect(chkLoadTipsAtStartup, &QCheckBox::toggled, this, &frmTip::storeWish);
+    connect(chkLoadTipsAtStartup, &QCheckBox::toggled, this, &frmTip::storeChoice);
     chkLoadTipsAtStartup->setChecked(true);
     if (!LoadTips(module1.shippedFile(TipFile))) {
         lblTipText->setText(u"That the %1 file was not found? \n\n"
@@ -104,7 +104,7 @@ void frmTip::DisplayCurrentTip()
         lblTipText->setText(m_tips[m_current - 1]);
 }
 
-void frmTip::storeWish(bool wanted)
+void frmTip::storeChoice(bool wanted)
 {
     m_module1.OptionSlots(Slot::TipAtStart) = wanted ? 1 : 0;
     m_setCheck1(wanted);

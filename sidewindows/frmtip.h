@@ -34,7 +34,7 @@ private:
     void buildWindow();
     QLayout *buildButtons();
     void nextTip();
-    void storeWish(bool wanted);
+    void storeChoice(bool wanted);
 
     Module1 &m_module1;
     Desktop &m_desktop;
