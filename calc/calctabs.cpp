@@ -1,6 +1,7 @@
 #include "calc/calctabs.h"
 
 #include "calc/calculation.h"
+#include "calc/plainanswer.h"
 #include "core/numbers.h"
 #include "core/optionslots.h"
 
@@ -22,8 +23,18 @@ constexpr CalcTab Tabs[]{
      ThreeFields,
      ThreeFields,
      AmountSolver,
-     {"n (mol)", "m (g)", "M (g/mol)"}},
-    {"Concentration", "C = n / V", ThreeFields, ThreeFields, AmountSolver, {"C (mol/L)", "n (mol)", "V (L)"}},
+     {"n (mol)", "m (g)", "M (g/mol)"},
+     false,
+     nullptr,
+     {TextBoxM5}},
+    {"Concentration",
+     "C = n / V",
+     ThreeFields,
+     ThreeFields,
+     AmountSolver,
+     {"C (mol/L)", "n (mol)", "V (L)"},
+     false,
+     PlainAnswer::concentration},
     {"Volumic mass",
      "m = rau . V",
      ThreeFields,
@@ -34,9 +45,19 @@ constexpr CalcTab Tabs[]{
      "Ci . Vi = Cf . Vf  et  T = Cf / Ci = Vi / Vf",
      {Ci, Vi, Cf, Vf, T},
      FractionFields,
-     DilutionSolver},
-    {"Massic / molar fraction", "Xm1 = (Xn1 . M1) / [Xn1 . M1 + (1 - Xn1) . M2]", FractionFields,
-     FractionFields, FractionSolver},
+     DilutionSolver,
+     {},
+     false,
+     PlainAnswer::dilution},
+    {"Massic / molar fraction",
+     "Xm1 = (Xn1 . M1) / [Xn1 . M1 + (1 - Xn1) . M2]",
+     FractionFields,
+     FractionFields,
+     FractionSolver,
+     {},
+     false,
+     PlainAnswer::fractions,
+     {M1, M2}},
     {"Temperature / Pressure",
      "P = P* . exp [ - (   vap H / R) . (1 / T - 1 / T*) ]     * = atmospheric",
      {Tc, P, TcStar, PStar},

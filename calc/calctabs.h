@@ -17,6 +17,8 @@ struct CalcTab
     const TabSolver &solver;
     std::array<const char *, 3> labels{}; ///< captions of `lbl2(0)` to `lbl2(2)`; null: unchanged
     bool asksForLiquid = false;           ///< shows `Option10` and `lbln(0)`
+    QString (*plain)(const FieldTexts &texts) = nullptr; ///< the line under the fields
+    FieldSet molarMasses{};                              ///< fields that take a molar mass in g/mol
 };
 
 /// A field with its label, and its place among the fields that are visible together.

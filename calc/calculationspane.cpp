@@ -9,7 +9,7 @@ namespace {
 constexpr int Margin = 8;
 constexpr int Gap = 12;
 constexpr int ConversionWidth = 204;
-constexpr int SolverHeight = 158;
+constexpr int SolverHeight = 180;
 
 } // namespace
 
@@ -25,6 +25,8 @@ void CalculationsPane::buildContents()
 
     m_solver = new SolverBox(m_module, m_desktop, this);
     m_solver->setGeometry(room.left(), room.top(), left, SolverHeight);
+    connect(m_solver, &SolverBox::molarMassWanted, this, &CalculationsPane::molarMassWanted);
+    connect(m_solver, &SolverBox::stockWanted, this, &CalculationsPane::stockWanted);
     auto *constants = new ConstantsBox(m_lists, {left, room.height() - below}, this);
     constants->move(room.left(), room.top() + below);
     m_conversions = new ConversionBox(m_module, m_desktop, this);
@@ -38,4 +40,14 @@ void CalculationsPane::emptyEntryFields()
         return;
     m_solver->empty({TextBoxM3, TextBoxM4, TextBoxM5, Xn1, Xn2, Xm1, Xm2, M1, M2});
     m_conversions->reset();
+}
+
+QString CalculationsPane::massField() const
+{
+    return isBuilt() ? m_solver->massField() : QString();
+}
+
+void CalculationsPane::putMass(const QString &mass)
+{
+    m_solver->putMass(mass);
 }

@@ -19,6 +19,15 @@ public:
     /// Empties the entry fields except those of tabs 4 and 6, after an OK in the options.
     void emptyEntryFields();
 
+    /// The field of the calculator that takes a molar mass, "M1"; empty if the tab has none.
+    QString massField() const;
+    void putMass(const QString &mass);
+
+Q_SIGNALS:
+    /// The buttons of the calculators for the windows of these names were pressed.
+    void molarMassWanted();
+    void stockWanted();
+
 protected:
     void buildContents() override;
 

@@ -48,7 +48,9 @@ SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     column->setContentsMargins({});
     column->setSpacing(4);
     column->addWidget(TabStrip4);
-    column->addWidget(&lbln.add(3, Controls::label({}, {}, this)));
+    auto *head = new QHBoxLayout;
+    column->addLayout(head);
+    head->addWidget(&lbln.add(3, Controls::label({}, {}, this)), 1);
     lbln.add(0, Controls::label({}, SymbolText::toUnicode(u"D"_s), &lbln[3]));
     lbln[3].setContentsMargins(4, 3, 0, 3);
 
@@ -61,9 +63,26 @@ SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     buildFields(*line);
     line->addStretch(1);
     buildButtons(*line);
+    buildWindowButtons(*head);
+
+    lblPlain = Controls::label(u"lblPlain"_s, {}, this);
+    lblPlain->setContentsMargins(4, 0, 0, 0);
+    lblPlain->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    column->addWidget(lblPlain);
 
     connect(TabStrip4, &TabStrip::tabClicked, this, &SolverBox::clickTab);
     showTab(1);
+}
+
+void SolverBox::buildWindowButtons(QBoxLayout &line)
+{
+    const auto add = [&](const QString &caption, const QString &name, void (SolverBox::*wanted)()) {
+        auto *button = Controls::named(new QPushButton(caption, this), name);
+        connect(button, &QPushButton::clicked, this, wanted);
+        line.addWidget(button);
+    };
+    add(u"Molar mass..."_s, u"cmdMolarMass"_s, &SolverBox::molarMassWanted);
+    add(u"Stock solutions..."_s, u"cmdStock"_s, &SolverBox::stockWanted);
 }
 
 void SolverBox::buildFields(QBoxLayout &line)
@@ -94,6 +113,7 @@ void SolverBox::buildFields(QBoxLayout &line)
         grid->addWidget(&label, row, each.column);
         grid->addWidget(field, row + 1, each.column);
         connect(field, &QLineEdit::returnPressed, this, &SolverBox::calculate);
+        connect(field, &QLineEdit::textChanged, this, &SolverBox::showPlainAnswer);
     }
 }
 
@@ -153,6 +173,45 @@ void SolverBox::showTab(int number)
     for (int index = 0; index < int(tab.labels.size()); ++index) {
         if (const char *caption = tab.labels[size_t(index)])
             lbl2[index].setText(caption);
+    }
+    showPlainAnswer();
+}
+
+const CalcTab &SolverBox::tab() const
+{
+    return CalcTabs::tabs()[size_t(TabStrip4->selectedTab() - 1)];
+}
+
+void SolverBox::showPlainAnswer()
+{
+    lblPlain->setText(tab().plain ? tab().plain(texts()) : QString());
+}
+
+std::optional<Field> SolverBox::fieldForMass() const
+{
+    std::optional<Field> chosen;
+    for (const CalcLabel &label : CalcTabs::labels()) {
+        const bool takesOne = tab().molarMasses.contains(label.field);
+        if (takesOne &&
+            (!chosen || (!m_fields[*chosen]->text().isEmpty() && m_fields[label.field]->text().isEmpty())))
+            chosen = label.field;
+    }
+    return chosen;
+}
+
+QString SolverBox::massField() const
+{
+    const std::optional<Field> field = fieldForMass();
+    if (!field)
+        return {};
+    return *field == TextBoxM5 ? u"M"_s : *field == M1 ? u"M1"_s : u"M2"_s;
+}
+
+void SolverBox::putMass(const QString &mass)
+{
+    if (const std::optional<Field> field = fieldForMass()) {
+        m_fields[*field]->setText(mass);
+        m_fields[*field]->setFocus();
     }
 }
 

@@ -25,6 +25,14 @@ public:
 
     void empty(FieldSet fields);
 
+    /// What of the tab takes a molar mass: "M", "M1"; the first empty one of two. Empty if nothing does.
+    QString massField() const;
+    void putMass(const QString &mass);
+
+Q_SIGNALS:
+    void molarMassWanted();
+    void stockWanted();
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -32,6 +40,7 @@ private:
     void buildFields(QBoxLayout &line);
     void buildLiquids(QBoxLayout &line);
     void buildButtons(QBoxLayout &line);
+    void buildWindowButtons(QBoxLayout &line);
 
     void clickTab(int tab);
     void showTab(int number);
@@ -39,6 +48,9 @@ private:
     void watch(Field changed);
     void write(const Change &change);
     void placeDelta();
+    void showPlainAnswer();
+    std::optional<Field> fieldForMass() const;
+    const CalcTab &tab() const;
 
     FieldTexts texts() const;
     std::optional<double> vaporisationEntropy() const;
@@ -54,4 +66,5 @@ private:
     ControlArray<QPushButton> Command8{"Command8"};
     std::array<TextBoxM *, CalcFields::FieldCount> m_fields{};
     QLabel *m_liquidHeading = nullptr;
+    QLabel *lblPlain = nullptr;
 };

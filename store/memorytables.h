@@ -34,6 +34,7 @@ namespace ElementColumn {
 inline constexpr int Name = 0;
 inline constexpr int Symbol = 1;
 inline constexpr int AtomicNumber = 2;
+inline constexpr int AtomicMass = 3; ///< in u; "[97]" without a stable isotope
 inline constexpr int CrystalStructure = 14;
 inline constexpr int FirstIsotope = 15; ///< then half-life and decay modes; five such groups
 } // namespace ElementColumn

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "calc/calcfields.h"
+
+/// What the fields of a tab say, in the amounts of the bench: the line under them. Empty where they do not
+/// say enough.
+namespace PlainAnswer {
+
+/// "20.8 mmol in 250 mL: 83.3 mmol/L"
+QString concentration(const FieldTexts &texts);
+
+/// "20.8 mL, made up to 250 mL; 1 in 12", and a warning where Ci x Vi and Cf x Vf do not agree.
+QString dilution(const FieldTexts &texts);
+
+/// "By amount 25 % and 75 %, by mass 46.1 % and 53.9 %"
+QString fractions(const FieldTexts &texts);
+
+} // namespace PlainAnswer

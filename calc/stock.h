@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+/// A concentrated reagent as its bottle says.
+struct Stock
+{
+    double percent = 0;   ///< by mass
+    double density = 0;   ///< g/mL
+    double molarMass = 0; ///< g/mol
+
+    /// mol/L
+    double molarity() const { return 10 * percent * density / molarMass; }
+
+    /// mL of it in @p volume mL of a solution of @p concentration mol/L.
+    double volumeFor(double concentration, double volume) const
+    {
+        return concentration * volume / molarity();
+    }
+
+    /// mol/L of @p taken mL of it in @p volume mL.
+    double concentrationOf(double taken, double volume) const { return molarity() * taken / volume; }
+
+    /// Every figure above 0, and at most 100 per cent.
+    bool isPossible() const { return percent > 0 && percent <= 100 && density > 0 && molarMass > 0; }
+};
+
+/// A row of the list of reagents that the program ships.
+struct StockReagent
+{
+    QString name; ///< with the strength: "Hydrochloric acid 37 %"
+    QString formula;
+    Stock stock;
+    QString safety; ///< one line
+    QString source; ///< keys of the documents
+    QString note;   ///< begins with the temperature of the density
+};
+
+namespace StockReagents {
+
+/// Reads the tab-separated UTF-8 text of the file: a header, then a row for each reagent. A row that is not
+/// complete, or whose figures are not possible, is left out.
+QList<StockReagent> parse(const QString &text);
+
+} // namespace StockReagents
