@@ -39,7 +39,11 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
              const Scale &scale)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
       m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
-      m_scaleActions(m_ownActions, scale, laterTables, *this), m_tray(*this, module.OptionSlots)
+      m_scaleActions(m_ownActions, scale, laterTables, *this),
+      m_answerActions(m_ownActions, module, store, *this),
+      m_printActions(
+          m_ownActions, m_reportSave, [this] { return reportContext(); }, *this),
+      m_tray(*this, module.OptionSlots)
 {
     setObjectName(QStringLiteral("Form1"));
     m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
@@ -101,6 +105,7 @@ ModulePanel *Form1::makePanel(PanelId id)
         return m_solvents;
     case PanelId::Calculations:
         m_calculations = new CalculationsPane(m_module, m_desktop, m_store.lists, m_paneArea);
+        m_answerActions.connectTo(*m_calculations);
         return m_calculations;
     case PanelId::Solutions:
         return new SolutionsPane(m_store, m_paneArea);
@@ -326,6 +331,7 @@ void Form1::updateCommands()
     m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(reportContext()));
     m_commandBars.action(CommandId::Print).setEnabled(false);
     m_copyActions.update();
+    m_printActions.update(reportContext());
 }
 
 void Form1::closeEvent(QCloseEvent *event)

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "app/answeractions.h"
 #include "app/commandbars.h"
 #include "app/copyactions.h"
 #include "app/focuskeeper.h"
 #include "app/helpopener.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
+#include "app/printactions.h"
 #include "app/scaleactions.h"
 #include "app/trayicon.h"
 #include "reports/reportsave.h"
@@ -100,6 +102,8 @@ private:
     CopyActions m_copyActions{m_ownActions, *this};
     HelpOpener m_help{m_module, m_desktop, m_ownActions.action("actHelpPages")};
     ScaleActions m_scaleActions;
+    AnswerActions m_answerActions;
+    PrintActions m_printActions;
     TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;

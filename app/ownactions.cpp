@@ -25,6 +25,8 @@ struct Entry
 
 // In the order of the menu bar.
 constexpr std::array Entries{
+    Entry{"&File", "actPrintReport", "P&rint report...", "Ctrl+Shift+P", "print", CommandId::Print},
+    Entry{"&File", "actPdfReport", "Save report as P&DF...", "Ctrl+Shift+E", "export", CommandId::Print},
     Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", CommandId::Find},
     Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", CommandId::Find},
     Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, CommandId::Find},
@@ -33,6 +35,8 @@ constexpr std::array Entries{
     Entry{"&View", "actZoomReset", "&Default size...", "Ctrl+0", nullptr, 0},
     Entry{"&View", nullptr, nullptr, nullptr, nullptr, 0},
     Entry{"&View", "actFitWindow", "&Fit to screen", nullptr, "fit-screen", 0},
+    Entry{"&Tools", "actMolarMass", "&Molar mass...", "Ctrl+M", "molar-mass", 0},
+    Entry{"&Tools", "actStock", "&Stock solutions...", "Ctrl+Shift+M", "stock", 0},
     Entry{"&Help", "actHelpPages", "Help &pages", "Shift+F1", "help", CommandId::WebSite},
 };
 

@@ -46,6 +46,13 @@ std::optional<Choice> choose(const ReportContext &context)
     return {};
 }
 
+QByteArray write(Report report, Module1 &module, const DataStore &data)
+{
+    ReportPage page(module);
+    report(page, data);
+    return page.bytes();
+}
+
 void openForOutput(QFile &file)
 {
     FileErrors::refuseSpecialFile(file.fileName());
@@ -59,7 +66,8 @@ void openForOutput(QFile &file)
 
 ReportSave::ReportSave(Module1 &module, const DataStore &data, Desktop &desktop)
     : m_module(module), m_data(data), m_desktop(desktop),
-      CommonDialog1({"Page Web", {"*.htm", "*.html"}}, module, desktop)
+      CommonDialog1({"Page Web", {"*.htm", "*.html"}}, module, desktop),
+      m_pdfDialog({"PDF", {"*.pdf"}}, module, desktop)
 {}
 
 bool ReportSave::hasReportFor(const ReportContext &shown)
@@ -67,39 +75,60 @@ bool ReportSave::hasReportFor(const ReportContext &shown)
     return choose(shown).has_value();
 }
 
+std::optional<QByteArray> ReportSave::forPaper(const ReportContext &shown) const
+{
+    const std::optional<Choice> choice = choose(shown);
+    if (!choice || !choice->report)
+        return {};
+    Module1 module = m_module;
+    module.OptionSlots(Slot::ReportColours) = 0;
+    return write(choice->report, module, m_data);
+}
+
 void ReportSave::run(const std::function<ReportContext()> &onShow)
 {
+    save(CommonDialog1, onShow, {});
+}
+
+void ReportSave::runPdf(const std::function<ReportContext()> &onShow, const PageConverter &toPdf)
+{
+    save(m_pdfDialog, onShow, toPdf);
+}
+
+void ReportSave::save(SaveDialog &dialog, const std::function<ReportContext()> &onShow,
+                      const PageConverter &toPdf)
+{
     try {
-        saveReport(onShow);
+        saveReport(dialog, onShow, toPdf);
         m_module.ProbedLength = 0;
     } catch (const RuntimeError &error) {
         if (error.number() != ErrorNumber::DialogCancelled)
-            showMessage(error);
+            showMessage(error, dialog.FileName());
     }
 }
 
 // The visible pane may change while the dialog is open, so it is determined again. The file is truncated,
 // without a backup, before the report is made: if it cannot be opened, the row class does not change.
-void ReportSave::saveReport(const std::function<ReportContext()> &onShow)
+void ReportSave::saveReport(SaveDialog &dialog, const std::function<ReportContext()> &onShow,
+                            const PageConverter &toPdf)
 {
-    CommonDialog1.choose([&]() -> std::optional<QString> {
+    dialog.choose([&]() -> std::optional<QString> {
         const std::optional<Choice> choice = choose(onShow());
         return choice ? std::optional(choice->name) : std::nullopt;
     });
     const std::optional<Choice> choice = choose(onShow());
     if (!choice || !choice->report)
         return;
-    QFile file(CommonDialog1.FileName());
+    QFile file(dialog.FileName());
     openForOutput(file);
-    ReportPage page(m_module);
-    choice->report(page, m_data);
-    if (file.write(page.bytes()) != page.bytes().size() || !file.flush())
+    const QByteArray bytes =
+        toPdf ? toPdf(forPaper(onShow()).value()) : write(choice->report, m_module, m_data);
+    if (file.write(bytes) != bytes.size() || !file.flush())
         throw RuntimeError(ErrorNumber::DiskFull, file.fileName()); // a partial write sets no error
 }
 
-void ReportSave::showMessage(const RuntimeError &error)
+void ReportSave::showMessage(const RuntimeError &error, const QString &path)
 {
-    const QString path = CommonDialog1.FileName();
     m_module.ProbedLength = error.number();
     if (error.number() == ErrorNumber::PermissionDenied)
         m_desktop.messageBox("Impossible to peform back-up, the file '" + path + "' is in use.",

@@ -22,6 +22,8 @@ struct ReportContext
 class ReportSave final
 {
 public:
+    using PageConverter = std::function<QByteArray(const QByteArray &page)>;
+
     ReportSave(Module1 &module, const DataStore &data, Desktop &desktop);
 
     /// Whether the export command has a report for what is shown.
@@ -32,12 +34,22 @@ public:
     /// shown, the dialog still appears, but nothing is written.
     void run(const std::function<ReportContext()> &onShow);
 
+    /// The same for a PDF file, which @p toPdf makes of the page for paper.
+    void runPdf(const std::function<ReportContext()> &onShow, const PageConverter &toPdf);
+
+    /// The report of what is shown, in greys, for printing. Nothing if there is none. It leaves the row class
+    /// of the exported reports alone.
+    std::optional<QByteArray> forPaper(const ReportContext &shown) const;
+
 private:
-    void saveReport(const std::function<ReportContext()> &onShow);
-    void showMessage(const RuntimeError &error);
+    void save(SaveDialog &dialog, const std::function<ReportContext()> &onShow, const PageConverter &toPdf);
+    void saveReport(SaveDialog &dialog, const std::function<ReportContext()> &onShow,
+                    const PageConverter &toPdf);
+    void showMessage(const RuntimeError &error, const QString &path);
 
     Module1 &m_module;
     const DataStore &m_data;
     Desktop &m_desktop;
     SaveDialog CommonDialog1;
+    SaveDialog m_pdfDialog;
 };

@@ -1,0 +1,102 @@
+#include "tests/support/files.h"
+#include "tests/support/wholerun.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+
+/// What answers a question of the bench in a few steps, and paper, in whole runs of the program.
+class AnswersRunTest final : public WholeRun
+{
+    Q_OBJECT
+
+    static void trigger(const Form1 &form, const char *action)
+    {
+        get<QAction>(form, QString::fromLatin1(action)).trigger();
+    }
+
+private Q_SLOTS:
+    void molarMassOfAFormula()
+    {
+        const ProgramFolder folder;
+        folder.setOption(56, "0"); // no tip
+        QCOMPARE(run(folder,
+                     [](Form1 &form) {
+                         form.executeCommand(1120);
+                         trigger(form, "actMolarMass");
+                         const QWidget &window = get(form, "frmFormula");
+                         auto &formula = get<QLineEdit>(window, "txtFormula");
+                         const QString mass = QStringLiteral("198.171 g/mol");
+                         QTest::keyClicks(&formula, "C6H12O6*H2O");
+                         QCOMPARE(get<QLabel>(window, "lblMass").text(), mass);
+                         QTest::keyClicks(&formula, "(");
+                         QCOMPARE(get<QLabel>(window, "lblMass").text(), "");
+                         QCOMPARE(get<QLabel>(window, "lblError").text(),
+                                  "After \"C6H12O6*H2O(\": an element is missing here");
+                         QVERIFY(!get<QPushButton>(window, "cmdPutM").isEnabled());
+                         QTest::keyClick(&formula, Qt::Key_Backspace);
+                         QTest::keyClick(&formula, Qt::Key_Return);
+                         QCOMPARE(get<QLineEdit>(form, "TextBoxM5").text(), "198.171");
+                     }),
+                 0);
+    }
+
+    void stockSolutionAndDilution()
+    {
+        const ProgramFolder folder;
+        folder.setOption(56, "0");
+        QCOMPARE(
+            run(folder,
+                [](Form1 &form) {
+                    form.executeCommand(1120);
+                    get<QPushButton>(form, "cmdStock").click();
+                    QWidget &window = get(form, "frmStock");
+                    QTest::keyClicks(&get<QLineEdit>(window, "txtConcentration"), "1");
+                    QTest::keyClicks(&get<QLineEdit>(window, "txtVolume"), "250");
+                    const QString wanted = QStringLiteral("20.8 mL (exactly 20.81 mL), made up to 250 mL");
+                    QCOMPARE(get<QLabel>(window, "lblStockVolume").text(), wanted);
+                    QCOMPARE(get<QLabel>(window, "lblStockMass").text(), "24.64 g (exactly 24.64 g)");
+                    QTest::keyClicks(&get<QLineEdit>(window, "txtTaken"), "20.8");
+                    QCOMPARE(get<QLabel>(window, "lblMade").text(), "0.9997 mol/L in 250 mL");
+                    QTest::keyClicks(&get<QLineEdit>(window, "txtConcentration"), "3"); // 13 mol/L
+                    QCOMPARE(get<QLabel>(window, "lblStockVolume").text(), "");
+                    QCOMPARE(get<QLabel>(window, "lblWarning").text(), "That is stronger than the bottle.");
+                    window.close();
+
+                    get<QTabBar>(form, "TabStrip4").setCurrentIndex(3);
+                    QTest::keyClicks(&get<QLineEdit>(form, "TextBoxM7(7)"), "0.0208");
+                    QTest::keyClicks(&get<QLineEdit>(form, "TextBoxM7(9)"), "0.25");
+                    QCOMPARE(get<QLabel>(form, "lblPlain").text(), "20.8 mL, made up to 250 mL; 1 in 12");
+                }),
+            0);
+    }
+
+    void reportsOnPaper()
+    {
+        const ProgramFolder folder;
+        folder.setOption(56, "0");
+        const QString file = folder.root() + "/acids.pdf";
+        m_desktop.savePaths = {file};
+        QCOMPARE(run(folder,
+                     [&](Form1 &form) {
+                         QVERIFY(get<QAction>(form, "actPdfReport").isEnabled()); // the elements
+                         form.executeCommand(1111);
+                         QVERIFY(!get<QAction>(form, "actPrintReport").isEnabled());
+                         form.executeCommand(1113);
+                         trigger(form, "actPdfReport");
+                         trigger(form, "actPrintReport");
+                         QWidget &preview = get(form, "frmPreview");
+                         QVERIFY(QTest::qWaitForWindowExposed(&preview));
+                         preview.close();
+                     }),
+                 0);
+        const QByteArray pdf = readFile(file);
+        QVERIFY(pdf.startsWith("%PDF-"));
+        QVERIFY(pdf.count("/Type /Page\n") > 5);
+    }
+};
+
+const TestClass<AnswersRunTest> answersRunTest;
+#include "answers_run_test.moc"
