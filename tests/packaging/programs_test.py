@@ -115,7 +115,7 @@ class Installation(InFolder):
         self.install("there")
         self.assertEqual([path.name for path in (self.folder / "there").iterdir()], ["alembra"])
         moved = (self.folder / "there/alembra").rename(self.folder / "a moved folder")
-        self.assertEqual(files(moved), assembled_files() | {"LICENSE", "LICENSES.md", "README.txt"})
+        self.assertEqual(files(moved), assembled_files() | {"LICENSE", "LICENSES.md", "README.txt", "SOURCES.md"})
         program = self.start(moved / "Alembra_uk")
         self.assert_answers(program)
         program.kill()
