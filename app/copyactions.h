@@ -21,9 +21,10 @@ public:
     /// Enables what can be copied now.
     void update();
 
-private:
+    /// The list that they copy from; null for none.
     RowListView *list() const;
 
+private:
     QWidget &m_window;
     QAction &m_copyRow;
     QAction &m_copyTable;

@@ -4,6 +4,7 @@
 #include "app/menulayout.h"
 #include "app/optionshost.h"
 #include "app/panescroll.h"
+#include "app/sourceaction.h"
 #include "browsers/biochemistrypane.h"
 #include "browsers/references.h"
 #include "browsers/referencespane.h"
@@ -57,6 +58,8 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
         *this);
+    m_sourceAction =
+        std::make_unique<SourceAction>(m_ownActions, m_copyActions, *m_panes, module, desktop, *this);
     m_focusKeeper = std::make_unique<FocusKeeper>(*this, *m_panes);
     connectTray();
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);

@@ -25,6 +25,7 @@ class ElementsPane;
 class LaterTables;
 class OptionsHost;
 class ReactionsPane;
+class SourceAction;
 class SolventsPane;
 class SpectroscopyPane;
 class TableLoader;
@@ -115,6 +116,7 @@ private:
     SpectroscopyPane *m_spectroscopy = nullptr;
     ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
+    std::unique_ptr<SourceAction> m_sourceAction;
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;
     std::unique_ptr<OptionsHost> m_options;

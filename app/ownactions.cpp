@@ -29,6 +29,7 @@ constexpr std::array Entries{
     Entry{"&File", "actPdfReport", "Save report as P&DF...", "Ctrl+Shift+E", "export", CommandId::Print},
     Entry{"&Edit", "actCopyRow", "Copy &row", "Ctrl+C", "copy", CommandId::Find},
     Entry{"&Edit", "actCopyTable", "Copy &table", "Ctrl+Shift+C", "copy-table", CommandId::Find},
+    Entry{"&Edit", "actWhereFrom", "&Where is this from?", "Ctrl+I", nullptr, CommandId::Find},
     Entry{"&Edit", nullptr, nullptr, nullptr, nullptr, CommandId::Find},
     Entry{"&View", "actZoomIn", "Zoom &in...", "Ctrl++; Ctrl+=", "zoom-in", 0},
     Entry{"&View", "actZoomOut", "Zoom &out...", "Ctrl+-", "zoom-out", 0},

@@ -42,8 +42,8 @@ void BiochemistryPane::buildContents()
 {
     buildBiomolecules();
     buildSdsPage();
-    auto *code = new GeneticCodeSection(m_store, m_desktop, this);
-    code->setGeometry(GeneticCodePlace);
+    m_code = new GeneticCodeSection(m_store, m_desktop, this);
+    m_code->setGeometry(GeneticCodePlace);
 
     Option4.connectEach(&QRadioButton::clicked, this,
                         [this](int index) { apply(PaneEffects::Option4(), index); });
@@ -53,6 +53,11 @@ void BiochemistryPane::buildContents()
     apply(PaneEffects::Option5(), 0);
     apply(PaneEffects::TabStrip9(), 1);
     apply(PaneEffects::TabStrip8(), 1);
+}
+
+TableRow BiochemistryPane::currentRow() const
+{
+    return m_code->currentRow();
 }
 
 // What is made later lies above: the other tabs cover the amino acids, and the buttons of the bases theirs.

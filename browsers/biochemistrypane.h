@@ -3,6 +3,7 @@
 #include "browsers/browserpane.h"
 
 class Desktop;
+class GeneticCodeSection;
 struct DataStore;
 struct Module1;
 
@@ -13,6 +14,8 @@ class BiochemistryPane final : public BrowserPane
 
 public:
     BiochemistryPane(Module1 &module, DataStore &store, Desktop &desktop, QWidget *parent);
+
+    TableRow currentRow() const override;
 
 protected:
     void buildContents() override;
@@ -29,6 +32,7 @@ private:
     Module1 &m_module;
     DataStore &m_store;
     Desktop &m_desktop;
+    GeneticCodeSection *m_code = nullptr;
     ControlArray<RowListView> ListView3{"ListView3"};
     ControlArray<QRadioButton> Option4{"Option4"};
     ControlArray<QRadioButton> Option5{"Option5"};

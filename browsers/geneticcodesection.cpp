@@ -4,6 +4,7 @@
 #include "browsers/geneticcodechart.h"
 #include "core/desktop.h"
 #include "store/datastore.h"
+#include "store/tablecatalog.h"
 #include "widgets/rowlistmodel.h"
 
 #include <QApplication>
@@ -165,4 +166,17 @@ void GeneticCodeSection::showCodons()
         for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
             tbm[codon].setText(codons[codon - 1]);
     });
+}
+
+TableRow GeneticCodeSection::currentRow() const
+{
+    constexpr int Step = 18;
+    const QString found = tbm[0].isEnabled() ? tbm[0].text() : QString(); // greyed: of an earlier codon
+    const QString name = Comb2->currentIndex() >= 0 ? Comb2->currentText() : found;
+    const auto &names = m_store.lists.Comb2;
+    for (int row = 0; row < names.rowCount(); ++row) {
+        if (names.text(row) == name)
+            return TableCatalog::rowOf(Step, row, {name});
+    }
+    return {};
 }

@@ -9,6 +9,7 @@
 
 class Desktop;
 struct DataStore;
+struct TableRow;
 
 /// The section "Genetic code": from three letters to the amino acid, and from the amino acid to its codons.
 ///
@@ -19,6 +20,9 @@ class GeneticCodeSection final : public QWidget
 
 public:
     GeneticCodeSection(DataStore &store, Desktop &desktop, QWidget *parent);
+
+    /// The amino acid on show, chosen or found.
+    TableRow currentRow() const;
 
 private:
     void buildControls();

@@ -6,6 +6,7 @@
 #include "electronics/partviews.h"
 #include "store/datastore.h"
 #include "store/latertables.h"
+#include "store/tablecatalog.h"
 #include "widgets/tablesnotice.h"
 #include "widgets/titleframe.h"
 
@@ -341,4 +342,20 @@ void ElectronicsPane::decodeMarking()
         tbm[10].setText(*marking.value);
     Label18[13].setText(marking.code);
     Label18[15].setText(marking.letter);
+}
+
+TableRow ElectronicsPane::currentRow() const
+{
+    constexpr int ColourStep = 32;
+    if (frmcms->isVisible() && Combo4->currentIndex() >= 0)
+        return TableCatalog::rowOf(m_store.lists.ListView3[29], Combo4->currentIndex());
+    for (const ResistorCode::Ring &ring : ResistorCode::rings()) {
+        const auto &colours = m_store.tables.ResistorColourData;
+        const QString chosen = frmgen->isVisible() ? Combo2[ring.list].currentText() : QString();
+        for (int row = 0; row < colours.rowCount() && !chosen.isEmpty(); ++row) {
+            if (colours(row, 0) == chosen)
+                return TableCatalog::rowOf(ColourStep, row, {chosen});
+        }
+    }
+    return {};
 }

@@ -25,6 +25,9 @@ class ElectronicsPane final : public ModulePanel
 public:
     ElectronicsPane(DataStore &store, LaterTables &tables, Desktop &desktop, QWidget *parent);
 
+    /// That of the marking, or of the first ring that has a colour.
+    TableRow currentRow() const override;
+
 Q_SIGNALS:
     /// `Command2` was pressed (`Formhelp4`).
     void mnemonicRequested();

@@ -7,6 +7,7 @@
 #include "elements/portrait.h"
 #include "search/findbar.h"
 #include "store/datastore.h"
+#include "store/tablecatalog.h"
 #include "widgets/icons.h"
 #include "widgets/picturebox.h"
 #include "widgets/picturefile.h"
@@ -120,6 +121,17 @@ void ElementsPane::keyPressEvent(QKeyEvent *event)
             return move(arrow.direction);
     }
     ModulePanel::keyPressEvent(event);
+}
+
+TableRow ElementsPane::currentRow() const
+{
+    constexpr int Step = 3;
+    if (m_panel.shownElement < 0)
+        return {};
+    QStringList texts;
+    for (qsizetype column = 0; column < TableCatalog::columns(Step).size(); ++column)
+        texts << m_tables.ElementData(m_panel.shownElement, int(column));
+    return TableCatalog::rowOf(Step, m_panel.shownElement, texts);
 }
 
 QWidget *ElementsPane::firstFocus() const

@@ -31,6 +31,8 @@ public:
     /// The button of the selected element.
     QWidget *firstFocus() const override;
 
+    TableRow currentRow() const override;
+
     /// What a click on the element's button does.
     void select(int element);
 

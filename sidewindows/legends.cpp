@@ -164,6 +164,8 @@ class Journals final : public Legend
 public:
     Journals(const MemoryTables &tables, QWidget &form1) : Legend("Formhelp2", u"Abréviations"_s, form1)
     {
+        constexpr int Step = 29;
+        m_journals.setOrigin({Step, 0});
         const auto &table = tables.NmrReferenceData;
         for (int row = 1; row < table.rowCount() && !table(row, 0).isEmpty(); ++row) {
             m_journals.append(table(row, 0));

@@ -22,6 +22,10 @@ public:
           m_data(data), m_tally(data.tallies.rows[size_t(step)])
     {
         std::iota(m_allFields.begin(), m_allFields.end(), 0);
+        for (int group = 0; group < m_step.groups.size(); ++group) {
+            if (m_step.groups[group].list)
+                m_step.groups[group].list(data.lists).setOrigin({step, group});
+        }
     }
 
     void all()

@@ -38,6 +38,16 @@ public:
     const QString &whyEmpty() const { return m_whyEmpty; }
     void setWhyEmpty(const QString &text) { m_whyEmpty = text; }
 
+    /// The group of rows of a load step that is in this list, both counted as in TableCatalog; step 0 for
+    /// none.
+    struct Origin
+    {
+        int step = 0;
+        int group = 0;
+    };
+    const Origin &origin() const { return m_origin; }
+    void setOrigin(const Origin &origin) { m_origin = origin; }
+
     bool gridLines() const { return m_gridLines; }
     void setGridLines(bool on);
 
@@ -50,5 +60,6 @@ private:
     QList<qsizetype> m_ends;       ///< of each cell's text in m_texts
     QList<qsizetype> m_firstCells; ///< of each row in m_ends
     QString m_whyEmpty;
+    Origin m_origin;
     bool m_gridLines = false;
 };

@@ -172,6 +172,22 @@ const QList<Step> &steps()
     return table;
 }
 
+// Where row @p row of the list of group @p group is in the table: behind the groups before it, or among the
+// rows that are left over after the last group.
+int placeInTable(const Step &step, int group, int row)
+{
+    int before = 0;
+    int all = 0;
+    for (int each = 0; each < step.groups.size(); ++each) {
+        before += each < group ? step.groups[each].rows : 0;
+        all += step.groups[each].rows;
+    }
+    const int own = step.groups[group].rows;
+    if (own == 0 || row < own)
+        return before + row;
+    return step.surplus == Surplus::StartsOver ? row / own * all + before + row % own : all + row - own;
+}
+
 SelectStatement parsed(int step)
 {
     return SelectStatement::parse(TableCatalog::statement(step)).value();
@@ -207,4 +223,25 @@ int TableCatalog::rowCount(int step)
     for (const Group &group : at(step).groups)
         rows += group.rows;
     return rows;
+}
+
+TableRow TableCatalog::rowOf(const RowList &list, int row)
+{
+    const auto [number, group] = list.origin();
+    if (number == 0)
+        return {};
+    const QStringList all = columns(number);
+    const QList<int> fields = at(number).groups[group].fields;
+    const qsizetype count = fields.isEmpty() ? all.size() : fields.size();
+    TableRow found{table(number), placeInTable(at(number), group, row), {}, {}};
+    for (int cell = 0; cell < count; ++cell) {
+        found.columns << all[fields.isEmpty() ? cell : fields[cell]];
+        found.texts << list.subItem(row, cell);
+    }
+    return found;
+}
+
+TableRow TableCatalog::rowOf(int step, int row, const QStringList &texts)
+{
+    return {table(step), row, columns(step).first(texts.size()), texts};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/rowlists.h"
+#include "store/tablerow.h"
 
 #include <QList>
 #include <QString>
@@ -54,5 +55,12 @@ QStringList columns(int step);
 
 /// The number of rows that the groups need; 0 for any number.
 int rowCount(int step);
+
+/// The row of the table that row @p row of @p list came from, both from 0. No table for a list that no step
+/// fills. RuntimeError 9 if the list has no such row.
+TableRow rowOf(const RowList &list, int row);
+
+/// Row @p row of the table of @p step, for what is kept in no list. @p texts are those of the first columns.
+TableRow rowOf(int step, int row, const QStringList &texts);
 
 } // namespace TableCatalog

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/tablerow.h"
+
 #include <QWidget>
 
 /// One of the twelve panes of `Form1`, shown one at a time.
@@ -28,6 +30,9 @@ public:
 
     /// The control for the keyboard when the pane is opened. Null for no one in particular.
     virtual QWidget *firstFocus() const { return nullptr; }
+
+    /// The row whose values the pane shows outside of a list. No table if there is none.
+    virtual TableRow currentRow() const { return {}; }
 
     bool isBuilt() const { return m_built; }
 

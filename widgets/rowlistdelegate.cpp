@@ -58,6 +58,13 @@ QString RowListDelegate::shownText(const QModelIndex &index) const
     return m_columns[index.column()].shown(index.data().toString());
 }
 
+// On the screen alone: no copy, report or search has it.
+QString RowListDelegate::signOf(const QModelIndex &index) const
+{
+    const bool general = index.data(RowListModel::GeneralKnowledgeRole).toBool();
+    return general ? QStringLiteral("\u00A0\u25CA") : QString(); // a lozenge that stays on the line
+}
+
 bool RowListDelegate::isHeading(int row) const
 {
     if (!m_recipes || m_list.cell(row, 0).isEmpty())
@@ -120,12 +127,14 @@ bool RowListDelegate::isCut(QFont font, const QRect &cell, const QModelIndex &in
         return false;
     font.setBold(heading);
     // A pixel of the space between two cells is better than three dots.
-    return QFontMetricsF(font).horizontalAdvance(shownText(index)) > room(cell, index).width() + 1;
+    return QFontMetricsF(font).horizontalAdvance(shownText(index) + signOf(index)) >
+           room(cell, index).width() + 1;
 }
 
 void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QModelIndex &index) const
 {
-    const QString text = shownText(index);
+    const QString sign = signOf(index);
+    const QString text = shownText(index) + sign;
     const ListColumn &column = m_columns[index.column()];
     const QFontMetrics metrics = painter.fontMetrics();
     QRect cell = room(rect, index);
@@ -136,8 +145,10 @@ void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QMode
     const bool cut = isCut(painter.font(), rect, index);
     if (column.kind == ListColumn::Kind::Number)
         cell.setLeft(numberLeft(metrics, text, cell, index));
+    const int forText = cell.width() - metrics.horizontalAdvance(sign);
     painter.drawText(cell, Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-                     cut ? metrics.elidedText(text, Qt::ElideRight, cell.width()) : text);
+                     cut ? metrics.elidedText(text.chopped(sign.size()), Qt::ElideRight, forText) + sign
+                         : text);
 }
 
 // Where the text begins so that the decimal points of a column are in one line. What is no number is centred.
@@ -181,6 +192,6 @@ QSize RowListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModel
     if (column.kind != ListColumn::Kind::Wrapped || isHeading(index.row()))
         return {0, metrics.height() + Leading};
     const int width = column.width - leftInset(index) - Padding;
-    const QString text = wrappable(shownText(index), metrics, width);
+    const QString text = wrappable(shownText(index) + signOf(index), metrics, width);
     return {0, metrics.boundingRect(QRect(0, 0, width, 1), Qt::TextWordWrap, text).height() + Leading};
 }

@@ -6,7 +6,7 @@
 #include <QStyledItemDelegate>
 
 /// Draws the cells of a list: generous rows, grid lines where the list has them, numbers by their decimal
-/// point.
+/// point, a small lozenge behind the name of a row that is general knowledge alone.
 class RowListDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -26,13 +26,14 @@ public:
 
     bool isHeading(int row) const;
 
-    /// What the cell shows, before it is shortened.
+    /// The text of the cell, before it is shortened and without the sign of general knowledge.
     QString shownText(const QModelIndex &index) const;
 
     /// Whether the text has no room in @p cell and is drawn shortened.
     bool isCut(QFont font, const QRect &cell, const QModelIndex &index) const;
 
 private:
+    QString signOf(const QModelIndex &index) const;
     int leftInset(const QModelIndex &index) const;
     QRect room(const QRect &cell, const QModelIndex &index) const;
     int numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &cell,

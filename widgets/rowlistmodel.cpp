@@ -1,6 +1,8 @@
 #include "widgets/rowlistmodel.h"
 
 #include "store/rowlist.h"
+#include "store/rowremarks.h"
+#include "store/tablecatalog.h"
 
 QString ListColumn::shown(QString stored) const
 {
@@ -30,11 +32,30 @@ int RowListModel::columnCount(const QModelIndex &parent) const
 
 QVariant RowListModel::data(const QModelIndex &index, int role) const
 {
-    const bool known = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
-    if (!known || !index.isValid() || index.row() >= m_list.rowCount())
+    if (!index.isValid() || index.row() >= m_list.rowCount())
         return {};
     const QString stored = m_list.cell(index.row(), index.column()).toString();
-    return role == Qt::DisplayRole ? stored : m_columns[index.column()].shown(stored);
+    switch (role) {
+    case Qt::DisplayRole:
+        return stored;
+    case Qt::AccessibleTextRole:
+        return m_columns[index.column()].shown(stored) +
+               (isGeneralKnowledge(index) ? QStringLiteral(", general knowledge") : QString());
+    case GeneralKnowledgeRole:
+        return isGeneralKnowledge(index);
+    default:
+        return {};
+    }
+}
+
+TableRow RowListModel::tableRow(int row) const
+{
+    return TableCatalog::rowOf(m_list, row);
+}
+
+bool RowListModel::isGeneralKnowledge(const QModelIndex &index) const
+{
+    return index.column() == 0 && RowRemarks::isGeneralKnowledge(tableRow(index.row()));
 }
 
 QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int role) const

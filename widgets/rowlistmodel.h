@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/tablerow.h"
+
 #include <QAbstractTableModel>
 #include <QList>
 
@@ -29,6 +31,9 @@ class RowListModel final : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// Of the first column: whether no value of the row has a document, true or false.
+    static constexpr int GeneralKnowledgeRole = Qt::UserRole;
+
     /// @p list outlives the model.
     RowListModel(const RowList &list, QList<ListColumn> columns, QObject *parent);
 
@@ -37,9 +42,14 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
+    /// The row of the database that @p row came from.
+    TableRow tableRow(int row) const;
+
     const QList<ListColumn> &columns() const { return m_columns; }
 
 private:
+    bool isGeneralKnowledge(const QModelIndex &index) const;
+
     const RowList &m_list;
     const QList<ListColumn> m_columns;
 };

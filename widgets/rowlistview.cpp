@@ -186,9 +186,11 @@ bool RowListView::viewportEvent(QEvent *event)
         return QTreeView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
+    QStringList lines;
     if (index.isValid() && m_delegate->isCut(font(), visualRect(index), index))
-        QToolTip::showText(help->globalPos(), m_delegate->shownText(index), viewport(), visualRect(index));
-    else
-        QToolTip::hideText();
+        lines << m_delegate->shownText(index);
+    if (index.data(RowListModel::GeneralKnowledgeRole).toBool())
+        lines << QStringLiteral("General knowledge, no document");
+    QToolTip::showText(help->globalPos(), lines.join(QLatin1Char('\n')), viewport(), visualRect(index));
     return true;
 }

@@ -11,7 +11,8 @@ class RowListDelegate;
 /// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
 /// the columns to copied text and to screen readers. The context menu copies the selected row (Ctrl+C) or
 /// the list with its titles (Ctrl+Shift+C), as tab-separated text and as an HTML table. A text that does not
-/// fit shows whole on hover. An empty list shows why, if it knows.
+/// fit shows whole on hover, and what the sign of general knowledge means. An empty list shows why, if it
+/// knows.
 class RowListView final : public QTreeView
 {
     Q_OBJECT
@@ -30,6 +31,9 @@ public:
     void selectRow(int row);
 
     const QList<ListColumn> &columns() const { return m_model->columns(); }
+
+    /// The row of the database that @p row came from.
+    TableRow tableRow(int row) const { return m_model->tableRow(row); }
 
     /// Nothing without a selected row.
     void copyRow();

@@ -189,6 +189,7 @@ void LooksTest::throughSideWindows(Form1 &form)
         }
     });
     control(form, "Command7(16)").click();
+    openAndLook(form, [&] { form.findChild<QAction *>(QStringLiteral("actWhereFrom"))->trigger(); });
     for (const char *opener : {"cmdhelp", "Command9"})
         openAndLook(form, [&] { control(form, opener).click(); });
     const auto openStructure = [&](int command, const char *list, int row) {

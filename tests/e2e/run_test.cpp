@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScrollArea>
@@ -16,7 +17,10 @@
 #include <QSettings>
 #include <QTabBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <future>
+
+using namespace Qt::StringLiterals;
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
 class RunTest final : public WholeRun
@@ -45,6 +49,8 @@ private Q_SLOTS:
     void theHelpOpensWithAndWithoutAViewer();
     void theLastTablesAreReadOnDemand();
     void readingOnDemandFailsLikeTheStart();
+    void everyListTellsWhereItsRowsAreFrom();
+    void aRowWithoutASourceOrChangedSaysSo();
 
 private:
     static QStringList shownPanes(const Form1 &form)
@@ -67,7 +73,46 @@ private:
         return form.findChild<QAction *>(QStringLiteral("Id%1").arg(id));
     }
 
-    // What is in a table file, without its source column.
+    // The text of frmSource for the row of @p list that @p key leads to, or for what the pane shows.
+    static QString sourceOf(Form1 &form, RowListView *list = nullptr, Qt::Key key = {})
+    {
+        QWidget &owner = list ? *list->window() : form;
+        QApplication::setActiveWindow(&owner);
+        if (list) {
+            list->setFocus();
+            QTest::keyClick(list, key);
+        }
+        QTest::keyClick(owner.focusWidget(), Qt::Key_I, Qt::ControlModifier);
+        const QPointer<QWidget> window = owner.findChild<SideWindow *>(u"frmSource"_s);
+        if (!window)
+            return u"no window"_s;
+        const QString text = window->findChild<QTextBrowser *>(u"txtSource"_s)->toPlainText();
+        QTest::keyClick(window, Qt::Key_Escape);
+        return QTest::qWaitFor([&] { return !window; }) ? text : u"still open"_s;
+    }
+
+    // How the documents read that the data files name for rows with all of these cells.
+    static QStringList documentsOf(const QStringList &cells)
+    {
+        QStringList found;
+        const QDir folder(QStringLiteral(ALEMBRA_SOURCE "/data/tables"));
+        for (const QFileInfo &file : folder.entryInfoList({QStringLiteral("*.tsv")})) {
+            for (const QStringList &row : table(file.baseName())) {
+                const bool same = std::all_of(cells.begin(), cells.end(),
+                                              [&](const QString &cell) { return row.contains(cell); });
+                const QString key =
+                    row.constLast().section(u"; "_s, 0, 0).section(u": "_s, -1).section(u", "_s, 0, 0);
+                for (const QStringList &source : same ? table(u"../sources"_s) : QList<QStringList>()) {
+                    if (source[0] == key ||
+                        (source[0].endsWith(u'*') && key.startsWith(source[0].chopped(1))))
+                        found << (key == u"general" ? u"General knowledge, no document"_s : source[1]);
+                }
+            }
+        }
+        return found;
+    }
+
+    // The rows of a table file, their last cell the source.
     static QList<QStringList> table(const QString &name)
     {
         QFile file(QStringLiteral(ALEMBRA_SOURCE "/data/tables/%1.tsv").arg(name));
@@ -556,6 +601,113 @@ void RunTest::readingOnDemandFailsLikeTheStart()
     QCOMPARE(m_desktop.boxes.constFirst().second, 20);
     QCOMPARE(folder.read(QStringLiteral("Data/Database_uk.mdb")),
              folder.read(QStringLiteral("Backup/Database_uk_origin.rbk")));
+}
+
+void RunTest::everyListTellsWhereItsRowsAreFrom()
+{
+    const ProgramFolder folder;
+    QSet<QString> walked;
+    QStringList wrong;
+    run(folder, [&](Form1 &form) {
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        const auto check = [&](RowListView &list) {
+            const QString text = sourceOf(form, &list, Qt::Key_End);
+            QVERIFY2(list.selectedRow() >= 0, qPrintable(list.objectName()));
+            QStringList cells = list.tableRow(list.selectedRow()).texts;
+            cells.removeAll(QString());
+            const QStringList documents = documentsOf(cells);
+            if (std::none_of(documents.begin(), documents.end(),
+                             [&](const QString &each) { return text.contains(each); }))
+                wrong << list.objectName() + u": "_s + text;
+        };
+        form.executeCommand(1139);
+        form.findChild<QAbstractButton *>(u"cmdReadTables(1)"_s)->click();
+        Walk::throughPanes(
+            form,
+            [&] {
+                for (RowListView *list : form.findChildren<RowListView *>()) {
+                    const bool seen = list->isVisible() && Controls::isOnTop(*list, *list->parentWidget());
+                    if (!seen || walked.contains(list->objectName()))
+                        continue;
+                    walked << list->objectName();
+                    check(*list);
+                }
+            },
+            true);
+        for (const RowListView *list : form.findChildren<RowListView *>())
+            QVERIFY2(walked.contains(list->objectName()), qPrintable(list->objectName()));
+
+        const auto list = [&form](const char *name) {
+            return form.findChild<RowListView *>(QLatin1StringView(name));
+        };
+        struct Exact
+        {
+            const char *list;
+            int row;
+            QString text;
+        };
+        const QString general =
+            u"General knowledge, no document: well established, but nobody of us saw a document for it. "
+            "Look it up before a result depends on it."_s;
+        const QList<Exact> exact{
+            {"ListView3(0)", 1, u"Picric acid, 0.0 - 1.3\n"_s + general},
+            {"ListView3(24)", 155,
+             u"Zinc oxalate dihydrate, ZnC2O4.2H2O\n"_s + general + u"\nIn doubt\nno document found"_s},
+            {"ListView3(25)", 17,
+             u"Cu+ + 2 CN- = [Cu(CN)2]-, 8.2E+21\nPHREEQC thermodynamic database minteq.v4.dat, "
+             "usgs-coupled/phreeqc3, 8176af0\nLicence: notice of the U.S. Geological Survey, to be handed "
+             "on; terms of the makers of the data not seen.\nIn doubt\npublished log Kf 16 to 24"_s}};
+        QSet<QString> compared;
+        form.executeCommand(1113);
+        Walk::throughTabs(form, [&] {
+            for (const Exact &each : exact) {
+                RowListView *view = list(each.list);
+                if (!view->isVisible())
+                    continue;
+                view->selectRow(each.row - 1);
+                QCOMPARE(sourceOf(form, view, Qt::Key_Down), each.text);
+                compared << each.text;
+            }
+        });
+        QCOMPARE(compared.size(), exact.size());
+        RowListView &indicators = *list("ListView3(0)");
+        indicators.copyRow();
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Picric acid\t0.0 - 1.3\tcolourless - yellow"_s);
+        QCOMPARE(indicators.model()->index(1, 0).data(Qt::AccessibleTextRole),
+                 u"Picric acid, general knowledge"_s);
+
+        form.executeCommand(1142);
+        form.findChild<QAbstractButton *>(u"Command1"_s)->click();
+        check(*Walk::sideWindow(form)->findChild<RowListView *>());
+        Walk::sideWindow(form)->close();
+
+        form.executeCommand(1108);
+        form.findChild<QAbstractButton *>(u"Command7(0)"_s)->click();
+        QVERIFY(sourceOf(form).startsWith(u"Hydrogen, H\nPython package mendeleev"_s));
+    });
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(u'\n')));
+}
+
+void RunTest::aRowWithoutASourceOrChangedSaysSo()
+{
+    const auto cooling = [this](const ProgramFolder &folder) {
+        QString text;
+        run(folder, [&](Form1 &form) {
+            form.executeCommand(1117);
+            text = sourceOf(form, form.findChild<RowListView *>(u"ListView9"_s), Qt::Key_Down);
+        });
+        return text;
+    };
+    const ProgramFolder without;
+    renameInDatabase(without, u"source"_s, u"sauces"_s);
+    QVERIFY(cooling(without).contains(u"No source is recorded for this row"_s));
+    const ProgramFolder changed;
+    const QString file = u"Data/Database_uk.mdb"_s;
+    changed.write(file, changed.read(file).replace("1,4-Dioxane + dry", "1,3-Dioxane + dry"));
+    const QString text = cooling(changed);
+    QVERIFY2(
+        text.startsWith(u"1,3-Dioxane + dry ice, 12\nThis row is not among those that were delivered."_s),
+        qPrintable(text));
 }
 
 QTEST_MAIN(RunTest)
