@@ -4,197 +4,156 @@
 #include "app/frmload.h"
 #include "app/menulayout.h"
 #include "app/ownactions.h"
-#include "core/runtimeerror.h"
+#include "app/traydoubleclick.h"
 #include "store/rowlist.h"
+#include "tests/support/files.h"
+#include "tests/support/testclass.h"
 #include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QMainWindow>
-#include <QMenu>
 #include <QMenuBar>
-#include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QToolBar>
 
 class ShellTest final : public QObject
 {
     Q_OBJECT
 
+    static MenuLayout delivered() { return MenuLayout::read(ALEMBRA_FOLDER "/menuc_uk.xcb"); }
+
 private Q_SLOTS:
-    void deliveredLayoutPlacesEveryCommandOnce();
-    void deliveredShortcutsAreDistinct();
-    void malformedLayoutIsRefused_data();
-    void malformedLayoutIsRefused();
-    void missingLayoutIsFileNotFound();
-    void unknownIdsArePlacedAndDoNothing();
-    void editMenuCopiesFromTheList_data();
-    void editMenuCopiesFromTheList();
-    void menuStyleJumpsFromThreeToFive();
-    void progressIsRoundedHalfToEvenInSinglePrecision();
-};
-
-namespace {
-
-MenuLayout delivered()
-{
-    return MenuLayout::read(QStringLiteral(ALEMBRA_FOLDER "/menuc_uk.xcb"));
-}
-
-int numberOf(const QString &path)
-{
-    try {
-        MenuLayout::read(path);
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
-
-} // namespace
-
-void ShellTest::deliveredLayoutPlacesEveryCommandOnce()
-{
-    QList<int> placed;
-    const MenuLayout layout = delivered();
-    for (const MenuLayout::Menu &menu : layout.menus) {
-        for (const MenuLayout::Entry &entry : menu.entries) {
-            if (entry.id != 0) {
+    void deliveredLayoutPlacesEveryCommandOnce()
+    {
+        QList<int> placed;
+        const MenuLayout layout = delivered();
+        for (const MenuLayout::Menu &menu : layout.menus) {
+            for (const MenuLayout::Entry &entry : menu.entries) {
                 placed << entry.id;
-                QVERIFY2(!entry.caption.isEmpty(), qPrintable(QString::number(entry.id)));
+                QVERIFY2(entry.id == 0 || !entry.caption.isEmpty(), qPrintable(QString::number(entry.id)));
             }
         }
+        QMainWindow window;
+        CommandBars bars(window);
+        bars.load(layout);
+        QStringList shortcuts;
+        for (const Command &command : Commands) {
+            const QAction &action = bars.action(command.id);
+            QVERIFY2(placed.count(command.id) == 1 && !action.icon().isNull(), qPrintable(action.text()));
+            if (!action.shortcut().isEmpty())
+                shortcuts << action.shortcut().toString();
+        }
+        QCOMPARE(shortcuts.removeDuplicates(), 0);
+        QCOMPARE(bars.action(1121).shortcut(), QKeySequence("Ctrl+F"));
     }
-    for (const Command &command : Commands)
-        QVERIFY2(placed.count(command.id) == 1, qPrintable(QString::number(command.id)));
-}
 
-void ShellTest::deliveredShortcutsAreDistinct()
-{
-    QMainWindow window;
-    CommandBars bars(window);
-    bars.load(delivered());
-    QSet<QString> seen;
-    for (const Command &command : Commands) {
-        const QKeySequence shortcut = bars.action(command.id).shortcut();
-        QVERIFY2(shortcut.isEmpty() || !seen.contains(shortcut.toString()), qPrintable(shortcut.toString()));
-        seen << shortcut.toString();
-        QVERIFY2(!bars.action(command.id).icon().isNull(), qPrintable(bars.action(command.id).text()));
+    void malformedLayoutIsRefused()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("menuc_uk.xcb");
+        const auto error = [](const QString &file) { return errorOf([&] { MenuLayout::read(file); }); };
+        QCOMPARE(error(path), ErrorNumber::FileNotFound);
+        QCOMPARE(error(folder.path()), ErrorNumber::PathAccess);
+        for (const char *content :
+             {"", "\x01\x02menu", "<html/>", "<layout><menubar><menu caption='a'><command id='1005'/>",
+              "<layout><menubar><button/></menubar></layout>",
+              "<layout><toolbar><command/></toolbar></layout>"}) {
+            writeFile(path, content);
+            QVERIFY2(error(path) == ErrorNumber::InvalidFileFormat, content);
+        }
     }
-    QCOMPARE(bars.action(1121).shortcut(), QKeySequence(QStringLiteral("Ctrl+F")));
-}
 
-void ShellTest::malformedLayoutIsRefused_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no XML") << QByteArray("\x01\x02menu");
-    QTest::newRow("another document") << QByteArray("<html/>");
-    QTest::newRow("cut off") << QByteArray("<layout><menubar><menu caption='a'><command id='1005'/>");
-    QTest::newRow("strange element") << QByteArray("<layout><menubar><button/></menubar></layout>");
-    QTest::newRow("command without an id") << QByteArray("<layout><toolbar><command/></toolbar></layout>");
-}
+    void unknownIdsArePlacedAndDoNothing()
+    {
+        QMainWindow window;
+        CommandBars bars(window);
+        bars.load({{{"Menu", {{1107, "Unknown", {}, {}, {}}, {}}}}, {}});
+        QCOMPARE(window.menuBar()->actions().constFirst()->text(), "Menu");
+        QCOMPARE(bars.action(1107).objectName(), "Id1107");
+        QVERIFY(!findCommand(1107));
+        QVERIFY(!findCommand(1146));
+    }
 
-void ShellTest::malformedLayoutIsRefused()
-{
-    QFETCH(QByteArray, content);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("menuc_uk.xcb")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    QCOMPARE(numberOf(file.fileName()), ErrorNumber::InvalidFileFormat);
-}
+    void editMenuCopiesFromTheList()
+    {
+        for (const char *menu : {"&Edit", "&Fichier"}) { // beside commands, and in a menu of its own
+            QMainWindow window;
+            CommandBars bars(window);
+            OwnActions own(window);
+            CopyActions copyActions(own, window);
+            connect(&bars, &CommandBars::updateWanted, &copyActions, &CopyActions::update);
+            bars.load({{{menu, {{1121, "&Find...", {}, {}, {}}}}}, {}});
+            own.place();
+            RowList rows;
+            rows.append(u"Acetone");
+            rows.append(u"Water");
+            rows.filled();
+            window.setCentralWidget(new RowListView("ListView1", rows, {{"Name", 100}}, &window));
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            const auto copied = [&window](Qt::Key key) {
+                QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+                QTest::keyClick(QApplication::activePopupWidget(), key);
+                return QApplication::activePopupWidget() ? "still open" : QApplication::clipboard()->text();
+            };
+            QCOMPARE(copied(Qt::Key_T), "Name\nAcetone\nWater\n"); // the only list on screen
+            window.centralWidget()->setFocus();
+            QTest::keyClick(window.centralWidget(), Qt::Key_Down);
+            QCOMPARE(copied(Qt::Key_R), "Water");
+        }
+    }
 
-void ShellTest::missingLayoutIsFileNotFound()
-{
-    const QTemporaryDir folder;
-    QCOMPARE(numberOf(folder.filePath(QStringLiteral("none"))), ErrorNumber::FileNotFound);
-    QCOMPARE(numberOf(folder.path()), ErrorNumber::PathAccess);
-}
+    void menuStyleJumpsFromThreeToFive()
+    {
+        QList<int> themes;
+        for (const Value &style : {Value(), Value(3), Value(4), Value(5), Value(6), Value(QString("4"))})
+            themes << themeOfMenuStyle(style);
+        QCOMPARE(themes, (QList{0, 3, 5, 6, -1, -1}));
+    }
 
-void ShellTest::unknownIdsArePlacedAndDoNothing()
-{
-    QMainWindow window;
-    CommandBars bars(window);
-    MenuLayout layout;
-    layout.menus << MenuLayout::Menu{QStringLiteral("Menu"),
-                                     {{1107, QStringLiteral("Unknown"), {}, {}, {}}, {}}};
-    bars.load(layout);
-    QCOMPARE(window.menuBar()->actions().constFirst()->text(), QStringLiteral("Menu"));
-    QCOMPARE(bars.action(1107).objectName(), QStringLiteral("Id1107"));
-    QVERIFY(!findCommand(1107));
-    QVERIFY(!findCommand(1146));
-}
+    void progressIsRoundedHalfToEvenInSinglePrecision()
+    {
+        frmload splash;
+        QStringList captions;
+        for (int tick = 0; tick < 37; ++tick) {
+            splash.ProgressTick();
+            captions << splash.windowTitle();
+            splash.setMaximum(185);
+        }
+        QCOMPARE(captions.first(4).join(", "), "5% Alembra, 5% Alembra, 8% Alembra, 11% Alembra");
+        QCOMPARE(captions.last(), "100% Alembra");
+        QCOMPARE(progressPercent(1, 8), 12);
+        QCOMPARE(progressPercent(3, 8), 38);
+    }
 
-void ShellTest::editMenuCopiesFromTheList_data()
-{
-    QTest::addColumn<QString>("caption"); // of a menu in the layout
-    QTest::newRow("beside commands") << "&Edit";
-    QTest::newRow("in a menu of its own") << "&Fichier";
-}
+    void eachDoubleClickOnTheTrayCountsOnce()
+    {
+        const struct
+        {
+            QByteArray
+                told; ///< c is a click, d a double click, a digit the hundreds of milliseconds that pass
+            int counted;
+        } Rows[]{
+            {"c", 0},    {"c3c", 1}, {"c5c", 0},     {"c5c3c", 1},   {"c1d", 1},
+            {"c1cd", 1}, {"d", 1},   {"c1d1c1d", 2}, {"c1c1c1c", 2}, {"c1d1c", 1},
+        };
+        for (const auto &row : Rows) {
+            TrayDoubleClick clicks(400);
+            qint64 now = 0;
+            int count = 0;
+            for (const char c : row.told) {
+                if (c == 'c')
+                    count += clicks.click(now) ? 1 : 0;
+                else if (c == 'd')
+                    count += clicks.doubleClick(now) ? 1 : 0;
+                else
+                    now += qint64(100) * (c - '0');
+            }
+            QVERIFY2(count == row.counted, row.told);
+        }
+    }
+};
 
-void ShellTest::editMenuCopiesFromTheList()
-{
-    QFETCH(const QString, caption);
-    QMainWindow window;
-    CommandBars bars(window);
-    OwnActions own(window);
-    CopyActions copyActions(own, window);
-    connect(&bars, &CommandBars::updateWanted, &copyActions, &CopyActions::update);
-    bars.load({{{caption, {{1121, "&Find...", {}, {}, {}}}}}, {}});
-    own.place();
-    RowList rows;
-    for (const QStringView text : {u"Acetone", u"Water"})
-        rows.append(text);
-    rows.filled();
-    window.setCentralWidget(new RowListView("ListView1", rows, {{"Name", 100}}, &window));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const auto choose = [&window](Qt::Key key) {
-        QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
-        QVERIFY(QApplication::activePopupWidget());
-        QTest::keyClick(QApplication::activePopupWidget(), key);
-        QVERIFY(!QApplication::activePopupWidget());
-    };
-
-    choose(Qt::Key_T); // the only list on screen
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Name\nAcetone\nWater\n"));
-    window.centralWidget()->setFocus();
-    QTest::keyClick(window.centralWidget(), Qt::Key_Down);
-    choose(Qt::Key_R);
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Water"));
-}
-
-void ShellTest::menuStyleJumpsFromThreeToFive()
-{
-    QCOMPARE(themeOfMenuStyle(Value()), 0);
-    QCOMPARE(themeOfMenuStyle(3), 3);
-    QCOMPARE(themeOfMenuStyle(4), 5);
-    QCOMPARE(themeOfMenuStyle(5), 6);
-    QCOMPARE(themeOfMenuStyle(6), -1);
-    QCOMPARE(themeOfMenuStyle(QStringLiteral("4")), -1);
-}
-
-void ShellTest::progressIsRoundedHalfToEvenInSinglePrecision()
-{
-    frmload splash;
-    QStringList captions;
-    const auto tick = [&] {
-        splash.ProgressTick();
-        captions << splash.windowTitle();
-    };
-    tick();
-    splash.setMaximum(185);
-    for (int i = 1; i < 37; ++i)
-        tick();
-    QCOMPARE(captions.first(4), (QStringList{"5% Alembra", "5% Alembra", "8% Alembra", "11% Alembra"}));
-    QCOMPARE(captions.last(), QStringLiteral("100% Alembra"));
-    QCOMPARE(progressPercent(1, 8), 12);
-    QCOMPARE(progressPercent(3, 8), 38);
-}
-
-QTEST_MAIN(ShellTest)
+const TestClass<ShellTest> shellTest;
 #include "shell_test.moc"

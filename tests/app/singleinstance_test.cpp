@@ -1,12 +1,12 @@
 #include "app/program.h"
 #include "app/singleinstance.h"
 #include "tests/support/scripteddesktop.h"
+#include "tests/support/testclass.h"
 
 #include <QDir>
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <future>
 
 using Previous = SingleInstance::Previous;
@@ -16,16 +16,8 @@ class SingleInstanceTest final : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void eachLaterInstanceIsAnswered_data();
-    void eachLaterInstanceIsAnswered();
-    void anInstanceThatEndsIsNoPrevious();
-    void aSilentInstanceIsReported();
-    void withoutASocketItRunsAlone_data();
-    void withoutASocketItRunsAlone();
+    std::unique_ptr<QTemporaryDir> m_folder;
 
-private:
     QStringList sockets() const { return QDir(m_folder->path()).entryList(QDir::System); }
 
     /// A later instance calls from a thread of its own, as another process would.
@@ -35,101 +27,87 @@ private:
                           [this] { return SingleInstance(m_folder->path()).activatePrevious(); });
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-};
-
-void SingleInstanceTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder->path()));
-}
-
-void SingleInstanceTest::eachLaterInstanceIsAnswered_data()
-{
-    QTest::addColumn<bool>("session");
-    QTest::newRow("in the session's folder") << true;
-    QTest::newRow("in the folder for temporary files") << false;
-}
-
-void SingleInstanceTest::eachLaterInstanceIsAnswered()
-{
-    QFETCH(const bool, session);
-    if (!session) {
-        qunsetenv("XDG_RUNTIME_DIR");
-        qputenv("TMPDIR", QFile::encodeName(m_folder->path()));
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder->path()));
     }
+
+    void eachLaterInstanceIsAnswered()
+    {
+        for (const char *variable : {"XDG_RUNTIME_DIR", "TMPDIR"}) { // the session's folder, or any other
+            qunsetenv("XDG_RUNTIME_DIR");
+            qputenv(variable, QFile::encodeName(m_folder->path()));
+            {
+                SingleInstance first(m_folder->path());
+                const QSignalSpy calls(&first, &SingleInstance::activated);
+                QCOMPARE(first.activatePrevious(), Previous::None);
+                first.listen();
+                QCOMPARE(sockets().size(), 1);
+                QVERIFY(!(QFile::permissions(m_folder->filePath(sockets().constFirst())) &
+                          (QFile::WriteGroup | QFile::WriteOther)));
+                QCOMPARE(SingleInstance(m_folder->path() + "/..").activatePrevious(), Previous::None);
+
+                std::vector<std::future<Previous>> later;
+                for (int i = 0; i < 4; ++i)
+                    later.push_back(call());
+                QTRY_COMPARE(calls.size(), 4);
+                for (std::future<Previous> &each : later)
+                    QCOMPARE(each.get(), Previous::Answered);
+            }
+            QCOMPARE(sockets(), QStringList());
+        }
+        qunsetenv("TMPDIR");
+    }
+
+    void anInstanceThatEndsIsNoPrevious()
     {
         SingleInstance first(m_folder->path());
-        QSignalSpy calls(&first, &SingleInstance::activated);
-        QCOMPARE(first.activatePrevious(), Previous::None);
         first.listen();
-        QCOMPARE(sockets().size(), 1);
-        QVERIFY(!(QFile::permissions(m_folder->filePath(sockets().constFirst())) &
-                  (QFile::WriteGroup | QFile::WriteOther)));
-        QCOMPARE(SingleInstance(m_folder->path() + QStringLiteral("/..")).activatePrevious(), Previous::None);
+        const QString socket = m_folder->filePath(sockets().constFirst());
+        first.close();
+        QCOMPARE(call().get(), Previous::None);
 
-        std::vector<std::future<Previous>> later;
-        for (int i = 0; i < 4; ++i)
-            later.push_back(call());
-        QTRY_COMPARE(calls.size(), 4);
-        for (std::future<Previous> &each : later)
-            QCOMPARE(each.get(), Previous::Answered);
+        QLocalServer ending;
+        QVERIFY(ending.listen(socket));
+        connect(&ending, &QLocalServer::newConnection, this,
+                [&] { ending.nextPendingConnection()->abort(); });
+        std::future<Previous> caller = call();
+        QTRY_COMPARE(caller.wait_for(std::chrono::seconds(0)), std::future_status::ready);
+        QCOMPARE(caller.get(), Previous::None);
     }
-    qunsetenv("TMPDIR");
-    QCOMPARE(sockets(), QStringList());
-}
 
-void SingleInstanceTest::anInstanceThatEndsIsNoPrevious()
-{
-    SingleInstance first(m_folder->path());
-    first.listen();
-    const QString socket = m_folder->filePath(sockets().constFirst());
-    first.close();
-    QCOMPARE(call().get(), Previous::None);
-
-    QLocalServer ending;
-    QVERIFY(ending.listen(socket));
-    connect(&ending, &QLocalServer::newConnection, this, [&] { ending.nextPendingConnection()->abort(); });
-    std::future<Previous> caller = call();
-    QTRY_COMPARE(caller.wait_for(std::chrono::seconds(0)), std::future_status::ready);
-    QCOMPARE(caller.get(), Previous::None);
-}
-
-void SingleInstanceTest::aSilentInstanceIsReported()
-{
-    SingleInstance hung(m_folder->path());
-    hung.listen(); // and no event loop runs
-    ScriptedDesktop desktop;
-    const auto status = [&] {
+    void aSilentInstanceIsReported()
+    {
+        SingleInstance hung(m_folder->path());
+        hung.listen(); // and no event loop runs
+        ScriptedDesktop desktop;
+        int status = 0;
         try {
-            return Main(desktop, m_folder->path());
+            status = Main(desktop, m_folder->path());
         } catch (const ProcessEnded &end) {
-            return end.status;
+            status = end.status;
         }
-    };
-    QCOMPARE(status(), 1);
-    QCOMPARE(desktop.boxes.size(), 1);
-    QVERIFY(desktop.boxes.constFirst().first.contains(QStringLiteral("does not answer")));
-}
+        QCOMPARE(status, 1);
+        QCOMPARE(desktop.boxes.size(), 1);
+        QVERIFY(desktop.boxes.constFirst().first.contains("does not answer"));
+    }
 
-void SingleInstanceTest::withoutASocketItRunsAlone_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("nobody may write there") << QStringLiteral("/proc");
-    QTest::newRow("a path that is too long") << m_folder->filePath(QString(200, QLatin1Char('x')));
-}
+    void withoutASocketItRunsAlone()
+    {
+        // Nobody may write there; a path that is too long.
+        for (const QString &folder : {QString("/proc"), m_folder->filePath(QString(200, 'x'))}) {
+            QDir().mkpath(folder);
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder));
+            SingleInstance first(m_folder->path());
+            QCOMPARE(first.activatePrevious(), Previous::None);
+            first.listen();
+            QCOMPARE(SingleInstance(m_folder->path()).activatePrevious(), Previous::None);
+            QCOMPARE(sockets(), QStringList());
+        }
+    }
+};
 
-void SingleInstanceTest::withoutASocketItRunsAlone()
-{
-    QFETCH(const QString, folder);
-    QDir().mkpath(folder);
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder));
-    SingleInstance first(m_folder->path());
-    QCOMPARE(first.activatePrevious(), Previous::None);
-    first.listen();
-    QCOMPARE(SingleInstance(m_folder->path()).activatePrevious(), Previous::None);
-    QCOMPARE(sockets(), QStringList());
-}
-
-QTEST_MAIN(SingleInstanceTest)
+const TestClass<SingleInstanceTest> singleInstanceTest;
 #include "singleinstance_test.moc"
