@@ -1,238 +1,301 @@
-#include "calcwindow.h"
-
 #include "calc/calctabs.h"
+#include "calc/calculationspane.h"
+#include "calc/units.h"
+#include "core/module1.h"
+#include "store/rowlists.h"
+#include "tests/support/files.h"
+#include "tests/support/scripteddesktop.h"
+#include "tests/support/testclass.h"
+#include "widgets/controls.h"
+#include "widgets/tabstrip.h"
 #include "widgets/textboxm.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QTreeView>
 
-using namespace CalcFields;
-
-/// The calculators of the pane.
+/// The pane in a window, with units of the delivered names.
 class CalculationsPaneTest final : public QObject
 {
     Q_OBJECT
 
+    struct Window : QWidget
+    {
+        Window()
+        {
+            module.OptionSlots.read(ALEMBRA_SOURCE "/data/program/options_uk.ini");
+            pane.show();
+            show();
+        }
+
+        Module1 module;
+        ScriptedDesktop desktop;
+        RowLists lists;
+        CalculationsPane pane{module, desktop, lists, this};
+    };
+
+    std::unique_ptr<Window> m_window;
+
+    TextBoxM &field(const QString &name) const { return get<TextBoxM>(*m_window, name); }
+    QString text(const QString &name) const { return field(name).text(); }
+    bool isShown(const QString &name) const { return Controls::isShown(get(*m_window, name)); }
+    QString focused() const { return m_window->focusWidget()->objectName(); }
+    void press(Qt::Key key) const { QTest::keyClick(m_window->focusWidget(), key); }
+    void type(const QString &name, const QString &keys) const
+    {
+        field(name).setFocus();
+        QTest::keyClicks(&field(name), keys);
+    }
+    void clickTab(const QString &strip, int tab) const
+    {
+        auto &tabs = get<TabStrip>(*m_window, strip);
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
+    }
+    void clickUnit(int list, int row) const
+    {
+        auto &names = get<QListWidget>(*m_window, QString("List%1").arg(list));
+        names.scrollToItem(names.item(row));
+        QTest::mouseClick(names.viewport(), Qt::LeftButton, {},
+                          names.visualItemRect(names.item(row)).center());
+    }
+    void click(const QString &button) const { get<QAbstractButton>(*m_window, button).click(); }
+
+    /// The only message that the pane gave, empty if it gave none.
+    QString message() const
+    {
+        const auto boxes = std::exchange(m_window->desktop.boxes, {});
+        if (boxes.isEmpty())
+            return {};
+        const bool isWarning = boxes.size() == 1 && boxes[0].second == Desktop::Warning;
+        return isWarning ? boxes[0].first : "not one warning";
+    }
+
 private Q_SLOTS:
-    void enterCalculatesAndASecondTimeComplains();
-    void aTabShowsItsOwnControlsAloneEachInItsPlace_data();
-    void aTabShowsItsOwnControlsAloneEachInItsPlace();
-    void aTabClickEmptiesItsFieldsAndKeepsThoseOfDilutionAndPressure();
-    void clearEmptiesTheFieldsOfAllTabs();
-    void fractionsFollowTheKeys();
-    void aRatioThatTheCalculationWritesIsWatchedToo();
-    void theFirstChangeBringsTheDecimalsOfTheOptions();
-    void aLiquidEmptiesItsTabAndChangesTheResult();
-    void theDeltaStandsInTheGapOfItsFormula();
-    void everyFieldHasItsLabel();
-    void anOkOfTheOptionsEmptiesTheEntries();
+    void init() { m_window = std::make_unique<Window>(); }
+
+    void enterCalculatesAndASecondTimeComplains()
+    {
+        type("TextBoxM4", "18");
+        type("TextBoxM5", "18.015");
+        press(Qt::Key_Return);
+        QCOMPARE(text("TextBoxM3"), "0.999167360532889");
+        QCOMPARE(message(), QString());
+        click("Command8(0)");
+        QCOMPARE(message(), "Please leave 1 empty field to perform calculation");
+    }
+
+    void tabLeadsThroughTheFieldsOfATabInReadingOrder()
+    {
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        const char *const orders[]{
+            "3 4 5",
+            "3 4 5",
+            "3 4 5",
+            "7(6) 7(7) 7(8) 7(9) 7(10)",
+            "7(0) 7(1) 7(4) 7(2) 7(3) 7(5)",
+            "Option10(3) 7(11) 7(12) 7(13) 7(14)", // a choice of the liquid empties the fields
+        };
+        for (int tab = 6; tab >= 1; --tab) {
+            clickTab("TabStrip4", tab);
+            QCOMPARE(focused(), "TabStrip4");
+            for (const QString &next : QString(orders[tab - 1]).split(' ')) {
+                press(Qt::Key_Tab);
+                QCOMPARE(focused().remove("TextBoxM"), next);
+            }
+        }
+    }
+
+    void noUnitsAreShownWithoutTheirTitle()
+    {
+        for (int tab = 7; tab >= 1; --tab) {
+            clickTab("TabStrip5", tab);
+            const auto &list = get<QTreeView>(*m_window, QString("ListView7(%1)").arg(tab - 1));
+            QCOMPARE(list.isColumnHidden(3), !isShown("Label2(29)"));
+            QCOMPARE(list.isColumnHidden(4), !isShown("Label2(38)"));
+        }
+    }
+
+    void aTabClickEmptiesItsFieldsAndKeepsThoseOfDilutionAndPressure()
+    {
+        clickTab("TabStrip4", 4);
+        type("TextBoxM7(8)", "0.5");
+        clickTab("TabStrip4", 1);
+        type("TextBoxM4", "18");
+        clickTab("TabStrip4", 1);
+        QCOMPARE(text("TextBoxM4"), QString());
+        clickTab("TabStrip4", 5);
+        type("TextBoxM7(5)", "46");
+        clickTab("TabStrip4", 4);
+        QCOMPARE(text("TextBoxM7(5)"), QString());
+        QCOMPARE(text("TextBoxM7(8)"), "0.5");
+    }
+
+    void clearEmptiesAllFieldsAndAnOkOfTheOptionsTheEntries()
+    {
+        const auto fill = [this] {
+            for (const CalcLabel &label : CalcTabs::labels())
+                field(CalcTabs::name(label.field)).setText("0.5");
+        };
+        clickTab("TabStrip4", 6);
+        click("Option10(1)");
+        fill();
+        click("Command8(1)");
+        for (const CalcLabel &label : CalcTabs::labels())
+            QCOMPARE(text(CalcTabs::name(label.field)), QString());
+        QVERIFY(get<QRadioButton>(*m_window, "Option10(1)").isChecked());
+        QCOMPARE(get<TabStrip>(*m_window, "TabStrip4").selectedTab(), 6);
+
+        fill();
+        type("TextBoxM1", "1");
+        m_window->pane.emptyEntryFields();
+        using namespace CalcFields;
+        for (const CalcLabel &label : CalcTabs::labels())
+            QCOMPARE(text(CalcTabs::name(label.field)).isEmpty(), label.field < Ci || label.field > PStar);
+        QCOMPARE(text("TextBoxM1") + '|' + text("TextBoxM2"), "|0");
+    }
+
+    void fractionsFollowTheKeys()
+    {
+        clickTab("TabStrip4", 5);
+        type("TextBoxM7(0)", ".3");
+        QCOMPARE(text("TextBoxM7(0)") + ' ' + text("TextBoxM7(1)"), "0.3 0.7");
+        field("TextBoxM7(0)").setCursorPosition(2); // the cursor stays where the user works
+        type("TextBoxM7(0)", "12");
+        QCOMPARE(text("TextBoxM7(0)") + ' ' + text("TextBoxM7(1)"), "0.123 0.877");
+        type("TextBoxM7(3)", "1.5");
+        QCOMPARE(message(), "Please use a value between 0 and 1");
+        QCOMPARE(text("TextBoxM7(2)") + text("TextBoxM7(3)"), QString());
+    }
+
+    void aRatioThatTheCalculationWritesIsWatchedToo()
+    {
+        clickTab("TabStrip4", 4);
+        type("TextBoxM7(6)", "9");
+        type("TextBoxM7(8)", "10");
+        type("TextBoxM7(9)", "1");
+        click("Command8(0)");
+        QCOMPARE(text("TextBoxM7(7)") + ' ' + text("TextBoxM7(10)"), "1.11111111111111 ");
+        QCOMPARE(message(), "Please use a value between 0 and 1");
+    }
+
+    void theFirstChangeBringsTheDecimalsOfTheOptions()
+    {
+        m_window->module.OptionSlots(Slot::Decimals) = 2;
+        clickTab("TabStrip4", 4);
+        type("TextBoxM7(6)", "1.2345");
+        QCOMPARE(text("TextBoxM7(6)"), "1.23");
+        QCOMPARE(field("TextBoxM7(14)").decimales(), 2);
+        QCOMPARE(field("TextBoxM3").decimales(), 10);
+    }
+
+    void aLiquidEmptiesItsTabAndChangesTheResult()
+    {
+        clickTab("TabStrip4", 6);
+        QVERIFY(get<QRadioButton>(*m_window, "Option10(3)").isChecked());
+        QStringList pressures;
+        for (const char *liquid : {"Option10(3)", "Option10(2)", "Option10(1)"}) {
+            click(liquid);
+            type("TextBoxM7(11)", "-20");
+            type("TextBoxM7(13)", "100");
+            type("TextBoxM7(14)", "1000");
+            click("Command8(0)");
+            pressures << text("TextBoxM7(12)").left(5);
+        }
+        QCOMPARE(message(), QString());
+        // 1000 exp(-K / 8.314 (373.15 / 253.15 - 1)) for K = 85, 73 and 109
+        QCOMPARE(pressures.join(' '), "7.857 15.57 1.999");
+
+        // The delta stands in the gap of its formula.
+        const auto &delta = get<QLabel>(*m_window, "lbln(0)");
+        const auto &formula = get<QLabel>(*m_window, "lbln(3)");
+        const auto width = [&](const char *part) { return formula.fontMetrics().horizontalAdvance(part); };
+        QCOMPARE(delta.text(), "Δ");
+        const int left = formula.mapTo(m_window.get(), formula.contentsRect().topLeft()).x() +
+                         width(CalcTabs::BeforeDelta);
+        const int middle = delta.mapTo(m_window.get(), delta.rect().center()).x();
+        QVERIFY(middle > left && middle < left + width(CalcTabs::DeltaGap));
+        QVERIFY(!delta.visibleRegion().isEmpty());
+    }
+
+    void conversionsFollowTheKeysAndTheLists()
+    {
+        QCOMPARE(text("TextBoxM2"), "0");
+        clickUnit(1, 12);
+        QCOMPARE(text("TextBoxM2"), "0");
+        type("TextBoxM1", "1");
+        QCOMPARE(text("TextBoxM2"), "1609.344");
+        type("TextBoxM2", "-.5"); // takes no keys
+        QCOMPARE(text("TextBoxM2"), "1609.344");
+        clickUnit(2, 0);
+        QCOMPARE(text("TextBoxM2"), "1.609344");
+        QTest::keyClick(&get(*m_window, "List2"), Qt::Key_Down);
+        QCOMPARE(text("TextBoxM2"), "16.09344");
+        QGuiApplication::clipboard()->setText(" 2\n");
+        field("TextBoxM1").selectAll();
+        field("TextBoxM1").paste();
+        QCOMPARE(text("TextBoxM2"), "32.18688");
+
+        clickTab("TabStrip3", 5);
+        QCOMPARE(focused(), "TextBoxM1");
+        QCOMPARE(text("TextBoxM1") + '|' + text("TextBoxM2"), "|0");
+        for (int list = 1; list <= 16; ++list)
+            QCOMPARE(isShown(QString("List%1").arg(list)), list == 7 || list == 8);
+        type("TextBoxM1", "-");
+        QCOMPARE(text("TextBoxM2"), QString());
+        type("TextBoxM1", "40");
+        QCOMPARE(text("TextBoxM2"), "-40");
+        field("TextBoxM1").selectAll();
+        press(Qt::Key_Delete);
+        QCOMPARE(text("TextBoxM2"), "0");
+        for (const char *next : {"List7", "TextBoxM2", "List8"}) {
+            press(Qt::Key_Tab);
+            QCOMPARE(focused(), next);
+        }
+        clickTab("TabStrip3", 1);
+        QCOMPARE(get<QListWidget>(*m_window, "List1").currentRow(), 12);
+    }
+
+    void aNameThatSaysHowMuchOneIsSaysWhatTheConversionGives()
+    {
+        static const QRegularExpression Form(" of ([0-9.E-]+) (\\w+) \\(");
+        int found = 0;
+        for (int tab = 1; tab <= 8; ++tab) {
+            clickTab("TabStrip3", tab);
+            type("TextBoxM1", "1");
+            const auto [input, result] =
+                std::pair(Units::quantity(tab).inputList, Units::quantity(tab).resultList);
+            const QStringList names = Units::names(Units::quantity(tab), m_window->module.OptionSlots);
+            for (const QString &name : names) {
+                const QRegularExpressionMatch match = Form.match(name);
+                if (!match.hasMatch())
+                    continue;
+                const auto of = names.indexOf(names.filter(QString("(%1)").arg(match.captured(2))).value(0));
+                QVERIFY2(of >= 0, qPrintable(name));
+                clickUnit(input, int(names.indexOf(name)));
+                clickUnit(result, int(of));
+                const double one = text("TextBoxM2").toDouble();
+                QVERIFY2(std::abs(one / match.captured(1).toDouble() - 1) < 1E-7, qPrintable(name));
+                ++found;
+            }
+        }
+        QCOMPARE(found, 12);
+    }
+
+    void aUnitWithoutItsSymbolEndsInTheReport()
+    {
+        clickTab("TabStrip3", 2);
+        type("TextBoxM1", "1");
+        get<QListWidget>(*m_window, "List1").currentItem()->setText("kilometer");
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, get<TabStrip>(*m_window, "TabStrip3").selectTab(1));
+        QVERIFY(m_window->desktop.boxes.constFirst().first.startsWith("Run-time error '9'"));
+        QCOMPARE(text("TextBoxM1"), "1");
+    }
 };
 
-void CalculationsPaneTest::enterCalculatesAndASecondTimeComplains()
-{
-    CalcWindow window;
-    window.type(QStringLiteral("TextBoxM4"), QStringLiteral("18"));
-    window.type(QStringLiteral("TextBoxM5"), QStringLiteral("18.015"));
-    QTest::keyClick(&window.field(QStringLiteral("TextBoxM5")), Qt::Key_Return);
-    QCOMPARE(window.text(QStringLiteral("TextBoxM3")), QStringLiteral("0.999167360532889"));
-    QCOMPARE(window.messages(), QStringList());
-
-    window.press(QStringLiteral("Command8(0)"));
-    QCOMPARE(window.messages(), QStringList("Please leave 1 empty field to perform calculation"));
-}
-
-void CalculationsPaneTest::aTabShowsItsOwnControlsAloneEachInItsPlace_data()
-{
-    QTest::addColumn<int>("tab");
-    QTest::addColumn<QString>("places"); // see Window::places()
-    QTest::addColumn<QString>("formula");
-    QTest::newRow("amount") << 1 << "0 n (mol) TextBoxM3, 1 m (g) TextBoxM4, 2 M (g/mol) TextBoxM5"
-                            << "n = m / M";
-    QTest::newRow("concentration") << 2 << "0 C (mol/L) TextBoxM3, 1 n (mol) TextBoxM4, 2 V (L) TextBoxM5"
-                                   << "C = n / V";
-    QTest::newRow("volumic mass") << 3 << "0 m (g) TextBoxM3, 1 rau (g/cm3) TextBoxM4, 2 V (mL) TextBoxM5"
-                                  << "m = rau . V";
-    QTest::newRow("dilution") << 4
-                              << "4 Ci (mol/L) TextBoxM7(6), 5 Vi (L) TextBoxM7(7) / "
-                                 "6 Cf (mol/L) TextBoxM7(8), 7 Vf (L) TextBoxM7(9), 13 T TextBoxM7(10)"
-                              << "Ci . Vi = Cf . Vf  et  T = Cf / Ci = Vi / Vf";
-    QTest::newRow("fractions") << 5
-                               << "11 Xn1 TextBoxM7(0), 10 Xn2 TextBoxM7(1), 12 M1 (g/mol) TextBoxM7(4) / "
-                                  "9 Xm1 TextBoxM7(2), 3 Xm2 TextBoxM7(3), 8 M2 (g/mol) TextBoxM7(5)"
-                               << "Xm1 = (Xn1 . M1) / [Xn1 . M1 + (1 - Xn1) . M2]";
-    QTest::newRow("pressure") << 6
-                              << "15 T (°C) TextBoxM7(11), 14 P (mbar, mmHg...) TextBoxM7(12) / "
-                                 "16 T* (°C) TextBoxM7(13), 17 P* (mbar, mmHg...) TextBoxM7(14)"
-                              << "P = P* . exp [ - (   vap H / R) . (1 / T - 1 / T*) ]     * = atmospheric";
-}
-
-void CalculationsPaneTest::aTabShowsItsOwnControlsAloneEachInItsPlace()
-{
-    QFETCH(int, tab);
-    QFETCH(QString, places);
-    CalcWindow window;
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    window.clickTab(QStringLiteral("TabStrip4"), tab == 3 ? 1 : 3);
-    window.clickTab(QStringLiteral("TabStrip4"), tab);
-
-    QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("TabStrip4"));
-    QCOMPARE(window.places(), places);
-    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
-        QCOMPARE(window.isShown(CalcTabs::name(field)), places.contains(CalcTabs::name(field)));
-    if (tab == 6) { // a choice of the liquid empties the fields, so it comes first
-        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-        QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("Option10(3)"));
-    }
-    const QRegularExpression fields(QStringLiteral("TextBoxM[0-9()]+"));
-    for (const QRegularExpressionMatch &field : fields.globalMatch(places)) {
-        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-        QCOMPARE(window.focusWidget()->objectName(), field.captured());
-    }
-    for (const char *name : {"Option10(1)", "Option10(2)", "Option10(3)", "lbln(0)"})
-        QCOMPARE(window.isShown(QString::fromLatin1(name)), tab == 6);
-    QTEST(window.get<QLabel>(QStringLiteral("lbln(3)")).text(), "formula");
-}
-
-void CalculationsPaneTest::aTabClickEmptiesItsFieldsAndKeepsThoseOfDilutionAndPressure()
-{
-    CalcWindow window;
-    const QString strip = QStringLiteral("TabStrip4");
-    window.clickTab(strip, 4);
-    window.type(QStringLiteral("TextBoxM7(8)"), QStringLiteral("0.5"));
-    window.clickTab(strip, 1);
-    window.type(QStringLiteral("TextBoxM4"), QStringLiteral("18"));
-    window.clickTab(strip, 1);
-    QCOMPARE(window.text(QStringLiteral("TextBoxM4")), QString());
-
-    window.clickTab(strip, 5);
-    window.type(QStringLiteral("TextBoxM7(5)"), QStringLiteral("46"));
-    window.clickTab(strip, 4);
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(5)")), QString());
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(8)")), QStringLiteral("0.5"));
-}
-
-void CalculationsPaneTest::clearEmptiesTheFieldsOfAllTabs()
-{
-    CalcWindow window;
-    window.clickTab(QStringLiteral("TabStrip4"), 6);
-    window.get<QRadioButton>(QStringLiteral("Option10(1)")).click();
-    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
-        window.field(CalcTabs::name(field)).setText(QStringLiteral("0.5"));
-
-    window.press(QStringLiteral("Command8(1)"));
-
-    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
-        QCOMPARE(window.text(CalcTabs::name(field)), QString());
-    QVERIFY(window.get<QRadioButton>(QStringLiteral("Option10(1)")).isChecked());
-    QCOMPARE(window.get<TabStrip>(QStringLiteral("TabStrip4")).selectedTab(), 6);
-}
-
-void CalculationsPaneTest::fractionsFollowTheKeys()
-{
-    CalcWindow window;
-    window.clickTab(QStringLiteral("TabStrip4"), 5);
-    window.type(QStringLiteral("TextBoxM7(0)"), QStringLiteral(".3"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(0)")), QStringLiteral("0.3"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(1)")), QStringLiteral("0.7"));
-
-    // In the middle of a text the cursor stays where the user works.
-    window.field(QStringLiteral("TextBoxM7(0)")).setCursorPosition(2);
-    window.type(QStringLiteral("TextBoxM7(0)"), QStringLiteral("12"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(0)")), QStringLiteral("0.123"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(1)")), QStringLiteral("0.877"));
-
-    window.type(QStringLiteral("TextBoxM7(3)"), QStringLiteral("1.5"));
-    QCOMPARE(window.messages(), QStringList("Please use a value between 0 and 1"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(2)")), QString());
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(3)")), QString());
-}
-
-void CalculationsPaneTest::aRatioThatTheCalculationWritesIsWatchedToo()
-{
-    CalcWindow window;
-    window.clickTab(QStringLiteral("TabStrip4"), 4);
-    window.type(QStringLiteral("TextBoxM7(6)"), QStringLiteral("9"));
-    window.type(QStringLiteral("TextBoxM7(8)"), QStringLiteral("10"));
-    window.type(QStringLiteral("TextBoxM7(9)"), QStringLiteral("1"));
-    window.press(QStringLiteral("Command8(0)"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(7)")), QStringLiteral("1.11111111111111"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(10)")), QString());
-    QCOMPARE(window.messages(), QStringList("Please use a value between 0 and 1"));
-}
-
-void CalculationsPaneTest::theFirstChangeBringsTheDecimalsOfTheOptions()
-{
-    CalcWindow window;
-    window.module.OptionSlots(Slot::Decimals) = 2;
-    window.clickTab(QStringLiteral("TabStrip4"), 4);
-    window.type(QStringLiteral("TextBoxM7(6)"), QStringLiteral("1.2345"));
-    QCOMPARE(window.text(QStringLiteral("TextBoxM7(6)")), QStringLiteral("1.23"));
-    QCOMPARE(window.get<TextBoxM>(QStringLiteral("TextBoxM7(14)")).decimales(), 2);
-    QCOMPARE(window.get<TextBoxM>(QStringLiteral("TextBoxM3")).decimales(), 10);
-}
-
-void CalculationsPaneTest::aLiquidEmptiesItsTabAndChangesTheResult()
-{
-    CalcWindow window;
-    window.clickTab(QStringLiteral("TabStrip4"), 6);
-    QVERIFY(window.get<QRadioButton>(QStringLiteral("Option10(3)")).isChecked());
-    QStringList pressures;
-    for (const char *liquid : {"Option10(3)", "Option10(2)", "Option10(1)"}) {
-        window.get<QRadioButton>(QString::fromLatin1(liquid)).click();
-        window.type(QStringLiteral("TextBoxM7(11)"), QStringLiteral("-20"));
-        window.type(QStringLiteral("TextBoxM7(13)"), QStringLiteral("100"));
-        window.type(QStringLiteral("TextBoxM7(14)"), QStringLiteral("1000"));
-        window.press(QStringLiteral("Command8(0)"));
-        pressures << window.text(QStringLiteral("TextBoxM7(12)")).left(5);
-    }
-    QCOMPARE(window.messages(), QStringList());
-    // 1000 exp(-K / 8.314 (373.15 / 253.15 - 1)) for K = 85, 73 and 109
-    QCOMPARE(pressures, (QStringList{"7.857", "15.57", "1.999"}));
-}
-
-void CalculationsPaneTest::theDeltaStandsInTheGapOfItsFormula()
-{
-    CalcWindow window;
-    window.clickTab(QStringLiteral("TabStrip4"), 6);
-    const auto &delta = window.get<QLabel>(QStringLiteral("lbln(0)"));
-    const auto &formula = window.get<QLabel>(QStringLiteral("lbln(3)"));
-    QCOMPARE(delta.text(), QStringLiteral("Δ"));
-    const QString before = QString::fromLatin1(CalcTabs::BeforeDelta);
-    QVERIFY(formula.text().startsWith(before + QLatin1String(CalcTabs::DeltaGap) + QLatin1Char('v')));
-    const int left = formula.mapTo(&window, formula.contentsRect().topLeft()).x() +
-                     formula.fontMetrics().horizontalAdvance(before);
-    const int middle = delta.mapTo(&window, delta.rect().center()).x();
-    const int gap = formula.fontMetrics().horizontalAdvance(QLatin1String(CalcTabs::DeltaGap));
-    QVERIFY(middle > left && middle < left + gap);
-    QVERIFY(!delta.visibleRegion().isEmpty());
-}
-
-void CalculationsPaneTest::everyFieldHasItsLabel()
-{
-    CalcWindow window;
-    QStringList labelled;
-    for (const QLabel *label : window.findChildren<QLabel *>()) {
-        if (label->buddy())
-            labelled << label->buddy()->objectName();
-    }
-    for (const TextBoxM *field : window.findChildren<TextBoxM *>())
-        QVERIFY2(labelled.contains(field->objectName()), qPrintable(field->objectName()));
-}
-
-void CalculationsPaneTest::anOkOfTheOptionsEmptiesTheEntries()
-{
-    CalcWindow window;
-    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
-        window.field(CalcTabs::name(field)).setText(QStringLiteral("0.5"));
-    window.type(QStringLiteral("TextBoxM1"), QStringLiteral("1"));
-
-    window.pane.emptyEntryFields();
-
-    for (const auto &[field, label, caption, row, column] : CalcTabs::labels())
-        QCOMPARE(window.text(CalcTabs::name(field)).isEmpty(), field < Ci || field > PStar);
-    QCOMPARE(window.text(QStringLiteral("TextBoxM1")), QString());
-    QCOMPARE(window.text(QStringLiteral("TextBoxM2")), QStringLiteral("0"));
-}
-
-QTEST_MAIN(CalculationsPaneTest)
+const TestClass<CalculationsPaneTest> calculationsPaneTest;
 #include "calculations_pane_test.moc"
