@@ -36,6 +36,8 @@
 #include <QLineEdit>
 #include <QStatusBar>
 
+using namespace Qt::StringLiterals;
+
 Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop,
              const Scale &scale)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
@@ -46,9 +48,9 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
           m_ownActions, m_reportSave, [this] { return reportContext(); }, *this),
       m_tray(*this, module.OptionSlots)
 {
-    setObjectName(QStringLiteral("Form1"));
-    m_miseAjour1.setObjectName(QStringLiteral("MiseAjour1"));
-    setWindowTitle(QStringLiteral("Alembra"));
+    setObjectName(u"Form1"_s);
+    m_miseAjour1.setObjectName(u"MiseAjour1"_s);
+    setWindowTitle(u"Alembra"_s);
     keepReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
@@ -88,8 +90,8 @@ void Form1::buildPaneArea()
         box->setGeometry(place);
         m_panes->addElementsCompanion(*box);
     };
-    addCompanion(QStringLiteral("Text2(10)"), QStringLiteral("Lanthanides"), QRect(24, 430, 84, 20));
-    addCompanion(QStringLiteral("Text2(11)"), QStringLiteral("Actinides"), QRect(24, 462, 84, 20));
+    addCompanion(u"Text2(10)"_s, u"Lanthanides"_s, QRect(24, 430, 84, 20));
+    addCompanion(u"Text2(11)"_s, u"Actinides"_s, QRect(24, 462, 84, 20));
 
     setCentralWidget(new PaneScroll(*m_paneArea, this));
     m_panes->panel(PanelId::Elements).setVisible(true);
@@ -132,12 +134,10 @@ ModulePanel *Form1::makePanel(PanelId id)
     }
 }
 
-// The panes come in the order of their design: that of the elements is there by now.
 ModulePanel *Form1::makeSpectroscopy()
 {
     m_spectroscopy = new SpectroscopyPane(m_module, m_store, m_desktop, m_paneArea);
     connect(m_spectroscopy, &SpectroscopyPane::modeChanged, this, &Form1::updateCommands);
-    connect(m_elements, &ElementsPane::toolTipsRefreshed, m_spectroscopy, &SpectroscopyPane::refreshToolTips);
     connect(m_spectroscopy, &SpectroscopyPane::referencesRequested, this,
             [this] { openJournals(m_store.tables, *this); });
     connect(m_spectroscopy, &SpectroscopyPane::colourCodeRequested, this, [this] { openColourCode(*this); });
@@ -160,17 +160,17 @@ void Form1::ClearChartPanels()
 void Form1::buildStatusBar()
 {
     const auto addPanel = [this](int number, const QString &text) {
-        const QString name = QStringLiteral("StatusBar1.Panels(%1)").arg(number);
+        const QString name = u"StatusBar1.Panels(%1)"_s.arg(number);
         QLabel *panel = Controls::label(name, text, this);
         panel->setContentsMargins(6, 0, 6, 0);
         statusBar()->addWidget(panel);
         return panel;
     };
-    statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+    statusBar()->setObjectName(u"StatusBar1"_s);
     statusBar()->setSizeGripEnabled(false);
-    m_panel1 = addPanel(1, QStringLiteral("Elements"));
+    m_panel1 = addPanel(1, u"Elements"_s);
     m_panel1->setMinimumWidth(m_panel1->fontMetrics().averageCharWidth() * 15);
-    statusBar()->addWidget(new StatusLine(QStringLiteral("StatusBar1.Panels(2)"), *this), 1);
+    statusBar()->addWidget(new StatusLine(u"StatusBar1.Panels(2)"_s, *this), 1);
     m_panel3 = addPanel(3, {});
     m_findBar = new FindBar(m_store, m_desktop, *m_panel3, this);
     statusBar()->addWidget(m_findBar);
@@ -199,7 +199,7 @@ void Form1::load(frmload &splash, TableLoader &loader)
     splash.showAndPause(m_desktop);
     splash.ProgressTick();
     m_tray.load();
-    m_module.ReadOptions(QStringLiteral("opt"), m_module.AppFolder);
+    m_module.ReadOptions(u"opt"_s, m_module.AppFolder);
     loadTables(splash, loader);
     loadMenus();
     m_module.UnitItemCount = Units::count();
@@ -226,7 +226,7 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
 
 void Form1::loadMenus()
 {
-    m_commandBars.load(MenuLayout::read(m_module.shippedFile(QStringLiteral("menuc_uk.xcb"))));
+    m_commandBars.load(MenuLayout::read(m_module.shippedFile(u"menuc_uk.xcb"_s)));
     m_ownActions.place();
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
@@ -314,8 +314,8 @@ ReportContext Form1::reportContext() const
 void Form1::checkVersion()
 {
     // The English edition reads the file of that name too.
-    m_miseAjour1.setAdresse(QLatin1StringView(BuildSettings::WebSite) + QStringLiteral("/versions_fr.ini"));
-    m_miseAjour1.setLogiciel(QStringLiteral("ALEMBRA"));
+    m_miseAjour1.setAdresse(QLatin1StringView(BuildSettings::WebSite) + u"/versions_fr.ini"_s);
+    m_miseAjour1.setLogiciel(u"ALEMBRA"_s);
     m_miseAjour1.setVersion(Module1::version());
     m_miseAjour1.Verifier();
 }

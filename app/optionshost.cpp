@@ -8,6 +8,7 @@
 #include "elements/elementspane.h"
 #include "options/formoptions.h"
 #include "store/latertables.h"
+#include "widgets/tooltips.h"
 #include "widgets/windowunits.h"
 
 #include <QAction>
@@ -59,7 +60,7 @@ void OptionsHost::applyAtLoad()
 {
     m_parts.spectroscopy.placeIrLabels();
     enableTrayEntry();
-    m_parts.elements.refreshToolTips();
+    ToolTips::refresh(m_module.OptionSlots, m_form);
     m_parts.elements.refreshZoomPointer();
 }
 
@@ -67,7 +68,7 @@ void OptionsHost::applyChanges()
 {
     enableTrayEntry();
     m_parts.commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
-    m_parts.elements.refreshToolTips();
+    ToolTips::refresh(m_module.OptionSlots, m_form);
     m_parts.spectroscopy.applyIrGraduation();
     m_parts.elements.refreshZoomPointer();
     m_parts.elements.applyPictureOption();

@@ -146,6 +146,8 @@ void SpectroscopyPane::buildChart()
 
     Command1 = Controls::named(new QPushButton(u"?"_s, box), u"Command1"_s);
     Command1->setAccessibleName(u"Explanation of the chart"_s);
+    // A refresh knows one text for all modes; the choice of a mode sets its own.
+    ToolTips::setText(*Command1, SpectroscopyModes::References);
     Command1->setGeometry(box->width() - Margin - 28, 2, 28, StripHeight - 4);
 }
 
@@ -372,12 +374,6 @@ void SpectroscopyPane::applyIrGraduation()
     captionIrScale();
     if (Controls::isShown(ListView3[5]))
         showIrScale();
-}
-
-void SpectroscopyPane::refreshToolTips()
-{
-    if (isBuilt())
-        ToolTips::refresh(m_module1.OptionSlots, *Command1, SpectroscopyModes::References);
 }
 
 void SpectroscopyPane::ClearChartPanels()

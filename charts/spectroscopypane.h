@@ -44,10 +44,6 @@ public:
     /// Clears picture, title, scale and scroll bar, at every pane switch.
     void ClearChartPanels();
 
-    /// Sets or removes the help balloon of `Command1`, by the option. Until the next choice of a mode it is
-    /// that of the NMR charts.
-    void refreshToolTips();
-
     /// Places the quantity and the unit of the infrared scale, by the option "IR graduation".
     void placeIrLabels();
 

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Width = 334;
@@ -23,7 +25,7 @@ constexpr int IsotopeHeight = 24; ///< 360 twips, by which the panel grows
 constexpr std::array IsotopeLefts{Padding, 128, 226, Width - Padding};
 
 // The balloons of the values are French in every edition of the program.
-constexpr std::array<const char *, ElementPanel::ValueCount> ToolTips{
+constexpr std::array<const char *, ElementPanel::ValueCount> Tips{
     "Symbole",
     "Nom",
     "Numéro atomique",
@@ -40,29 +42,29 @@ constexpr std::array<const char *, ElementPanel::ValueCount> ToolTips{
     "Structure cristalline",
     "Rayon covalent / métallique / de Van der Waals (A)",
 };
-constexpr std::array IsotopeToolTips{"Numéro atomique", "Temp de demi-vie", "Mode(s) de décomposition"};
+constexpr std::array IsotopeTips{"Numéro atomique", "Temp de demi-vie", "Mode(s) de décomposition"};
 
 struct ValueRow
 {
     int index; ///< of `lblatome`
     const char *caption;
-    const char *note; ///< in a line of its own below the value, told from it by its weight
+    const char *note = nullptr; ///< in a line of its own below the value
 };
 
 constexpr std::array<ValueRow, 13> ValueRows{{
-    {2, "Atomic number", nullptr},
-    {3, "Atomic mass (u)", nullptr},
-    {4, "Electron configuration", nullptr},
-    {10, "Oxidation numbers", nullptr},
-    {8, "Electronegativity", nullptr},
-    {9, "1st ionization (eV)", nullptr},
+    {2, "Atomic number"},
+    {3, "Atomic mass (u)"},
+    {4, "Electron configuration"},
+    {10, "Oxidation numbers"},
+    {8, "Electronegativity"},
+    {9, "1st ionization (eV)"},
     {14, "Radius (Å)", "covalent / metallic / vdW"},
-    {5, "Density (g/cm³)", nullptr},
-    {6, "Melting point (°C)", nullptr},
-    {7, "Boiling point (°C)", nullptr},
-    {11, "State", nullptr},
-    {12, "Family", nullptr},
-    {13, "Crystal structure", nullptr},
+    {5, "Density (g/cm³)"},
+    {6, "Melting point (°C)"},
+    {7, "Boiling point (°C)"},
+    {11, "State"},
+    {12, "Family"},
+    {13, "Crystal structure"},
 }};
 
 constexpr int heightOf(const ValueRow &row)
@@ -86,18 +88,28 @@ QFont sized(QFont font, double factor, bool bold = false)
     return font;
 }
 
-QLabel *text(const QString &content, const QFont &font, QWidget *parent)
+QLabel *makeTitle(const QString &text, const QFont &font, const QRect &place, QWidget *parent)
 {
-    QLabel *label = Controls::label({}, content, parent);
-    label->setFont(font);
-    return label;
+    QLabel *title = Controls::label({}, text, parent);
+    title->setFont(font);
+    title->setGeometry(place);
+    return title;
+}
+
+QLabel *makeValue(const char *toolTip, const QRect &place, QWidget *parent)
+{
+    QLabel *value = Controls::label({}, {}, parent);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setToolTip(toolTip);
+    value->setGeometry(place);
+    return value;
 }
 
 } // namespace
 
 DataPanel::DataPanel(QWidget *parent) : QFrame(parent)
 {
-    setObjectName(QStringLiteral("ReyFrame1"));
+    setObjectName(u"ReyFrame1"_s);
     stylePanel(*this);
     buildHeading();
     buildRows();
@@ -105,37 +117,28 @@ DataPanel::DataPanel(QWidget *parent) : QFrame(parent)
 
 void DataPanel::buildHeading()
 {
-    auto *symbol = new QLabel(this);
-    symbol->setGeometry(Padding, 4, ValueLeft - Padding, HeadingHeight - 8);
-    addValue(0, symbol);
-    auto *name = new QLabel(this);
-    name->setGeometry(ValueLeft, 4, Width - ValueLeft - 4, HeadingHeight - 8);
-    addValue(1, name);
+    addValue(0, {Padding, 4, ValueLeft - Padding, HeadingHeight - 8});
+    addValue(1, {ValueLeft, 4, Width - ValueLeft - 4, HeadingHeight - 8});
 }
 
 void DataPanel::buildRows()
 {
     int top = HeadingHeight;
     for (const ValueRow &row : ValueRows) {
-        QLabel *caption = text(QString::fromUtf8(row.caption), font(), this);
+        QLabel *caption = Controls::label({}, row.caption, this);
         caption->setGeometry(Padding, top, ValueLeft - Padding, LineHeight);
-        auto *value = new QLabel(this);
-        value->setGeometry(ValueLeft, top, Width - ValueLeft - 4, LineHeight);
-        value->setAccessibleDescription(QString::fromUtf8(row.caption));
-        addValue(row.index, value);
+        addValue(row.index, {ValueLeft, top, Width - ValueLeft - 4, LineHeight}, row.caption);
         if (row.note) {
-            QLabel *note = text(QLatin1StringView(row.note), font(), this);
-            note->setGeometry(ValueLeft, top + LineHeight - 4, Width - ValueLeft - 4, 16);
-            note->hide();
-            m_notes << note;
+            m_note = Controls::label({}, row.note, this);
+            m_note->setGeometry(ValueLeft, top + LineHeight - 4, Width - ValueLeft - 4, 16);
+            m_note->hide();
         }
         top += heightOf(row);
     }
     resize(Width, top + Edge);
 }
 
-// Every other row is shaded. Painted here, for a widget behind each would take the start longer than its
-// texts.
+// Shades every other row.
 void DataPanel::paintEvent(QPaintEvent *event)
 {
     QFrame::paintEvent(event);
@@ -150,25 +153,22 @@ void DataPanel::paintEvent(QPaintEvent *event)
     }
 }
 
-void DataPanel::addValue(int index, QLabel *value)
+void DataPanel::addValue(int index, const QRect &place, const QString &caption)
 {
-    value->setTextFormat(Qt::PlainText);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setToolTip(QString::fromUtf8(ToolTips[size_t(index)]));
-    lblatome.add(index, value);
+    QLabel &value = lblatome.add(index, makeValue(Tips[size_t(index)], place, this));
+    value.setAccessibleDescription(caption);
 }
 
 void DataPanel::showValues(const ElementPanel &panel)
 {
-    for (QLabel *note : std::as_const(m_notes))
-        note->show();
+    m_note->show();
     for (const auto &[index, label] : lblatome) {
         label->setText(panel.lblatome[size_t(index)]);
         fit(*label, index < int(HeadingSizes.size()) ? HeadingSizes[size_t(index)] : 1);
     }
 }
 
-// A text that is longer than its place, like the oxidation numbers of nitrogen, is set smaller.
+// Sets long texts smaller, such as the oxidation numbers of nitrogen.
 void DataPanel::fit(QLabel &label, double size) const
 {
     QFont fitting = sized(font(), size, true);
@@ -179,47 +179,24 @@ void DataPanel::fit(QLabel &label, double size) const
 
 IsotopePanel::IsotopePanel(QWidget *parent) : QFrame(parent)
 {
-    setObjectName(QStringLiteral("ReyFrame2"));
+    setObjectName(u"ReyFrame2"_s);
     stylePanel(*this);
-}
-
-void IsotopePanel::build()
-{
-    setFont(QFont(QStringLiteral("Arial"), font().pointSize()));
-    buildTitles();
-    for (int row = 0; row < ElementPanel::IsotopeTextCount / 3; ++row)
-        buildRow(row);
-}
-
-void IsotopePanel::buildTitles()
-{
-    text(QStringLiteral("Radioactive isotopes"), sized(font(), 1, true), this)
-        ->setGeometry(Padding, 2, Width - 2 * Padding, 18);
-    const std::array captions{tr("Isotope (* natural)"), tr("Half-life"), tr("Decay")};
-    for (size_t column = 0; column < captions.size(); ++column) {
-        text(captions[column], sized(font(), 0.8), this)
-            ->setGeometry(IsotopeLefts[column], 20, IsotopeLefts[column + 1] - IsotopeLefts[column], 15);
-    }
-}
-
-void IsotopePanel::buildRow(int row)
-{
-    for (int column = 0; column < 3; ++column) {
-        auto *label = new QLabel(this);
-        label->setTextFormat(Qt::PlainText);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label->setToolTip(QString::fromUtf8(IsotopeToolTips[size_t(column)]));
-        const int left = IsotopeLefts[size_t(column)];
-        label->setGeometry(left, IsotopeTop + row * IsotopeHeight, IsotopeLefts[size_t(column) + 1] - left,
-                           IsotopeHeight);
-        Label11.add(3 * row + column, label);
+    setFont(QFont(u"Arial"_s, font().pointSize()));
+    makeTitle(u"Radioactive isotopes"_s, sized(font(), 1, true), {Padding, 2, Width - 2 * Padding, 18}, this);
+    constexpr std::array Captions{"Isotope (* natural)", "Half-life", "Decay"};
+    for (size_t column = 0; column < Captions.size(); ++column) {
+        const int left = IsotopeLefts[column];
+        const int width = IsotopeLefts[column + 1] - left;
+        makeTitle(Captions[column], sized(font(), 0.8), {left, 20, width, 15}, this);
+        for (int row = 0; row < ElementPanel::IsotopeTextCount / 3; ++row) {
+            const QRect place(left, IsotopeTop + row * IsotopeHeight, width, IsotopeHeight);
+            Label11.add(3 * row + int(column), makeValue(IsotopeTips[column], place, this));
+        }
     }
 }
 
 void IsotopePanel::showValues(const ElementPanel &panel)
 {
-    if (!Label11.contains(0))
-        build();
     for (const auto &[index, label] : Label11) {
         const QString &stored = panel.Label11[size_t(index)];
         label->setText(index % 3 == 2 ? SymbolText::decayModes(stored) : stored);

@@ -25,14 +25,13 @@ protected:
 private:
     void buildHeading();
     void buildRows();
-    void addValue(int index, QLabel *value);
+    void addValue(int index, const QRect &place, const QString &caption = {});
     void fit(QLabel &label, double size) const;
 
-    QList<QLabel *> m_notes; ///< come with the values
+    QLabel *m_note; ///< hidden until there are values
 };
 
-/// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number. It is empty
-/// until it has something to show.
+/// `ReyFrame2`: up to five radioactive isotopes, a row each. Its height follows their number.
 class IsotopePanel final : public QFrame
 {
     Q_OBJECT
@@ -43,9 +42,4 @@ public:
     void showValues(const ElementPanel &panel);
 
     ControlArray<QLabel> Label11{"Label11"};
-
-private:
-    void build();
-    void buildTitles();
-    void buildRow(int row);
 };

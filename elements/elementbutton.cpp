@@ -1,10 +1,7 @@
 #include "elements/elementbutton.h"
 
-#include <QApplication>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
-#include <numeric>
 
 namespace {
 
@@ -14,16 +11,6 @@ const QColor Mark(0x1f, 0x6f, 0xd6);
 bool isArrow(int key)
 {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
-}
-
-// A desktop without the typeface draws in its own. To look for a like one, or only to ask whether there is
-// one, takes it as long as the whole table.
-QFont drawnFont(QFont font)
-{
-    static const bool installed = QFontDatabase::families().contains(font.family());
-    if (!installed)
-        font.setFamilies(QApplication::font().families());
-    return font;
 }
 
 } // namespace
@@ -39,11 +26,11 @@ void ElementButton::setMarked(bool marked)
         return;
     m_marked = marked;
     if (marked)
-        raise(); // neighbours share the line between them
+        raise();
     update();
 }
 
-// Drawn by hand: no style promises white, and two palettes a hundred times cost more than this.
+// Drawn by hand: no style promises black on white, and neighbours share the line between them.
 void ElementButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -54,23 +41,11 @@ void ElementButton::paintEvent(QPaintEvent *)
     if (hasFocus()) // a bar below the symbol: a ring would run into three letters
         painter.fillRect(QRect(width() / 2 - 7, height() - 7, 15, 2), Mark);
     painter.setPen(isEnabled() ? Qt::black : Qt::darkGray);
-    drawSymbol(painter);
-}
-
-// Each begins at a whole pixel: between pixels, a letter would have to be drawn anew for nearly every cell.
-void ElementButton::drawSymbol(QPainter &painter) const
-{
-    const QFont drawn = drawnFont(font());
-    const QFontMetrics metrics(drawn);
-    const QString symbol = text();
-    const int width = std::accumulate(symbol.begin(), symbol.end(), 0, [&](int sum, QChar letter) {
-        return sum + metrics.horizontalAdvance(letter);
-    });
-    painter.setFont(drawn);
-    painter.translate(rect().center());
-    if (symbol.size() > 2) // the drawing is smaller, not the type: one more size of it would slow the start
-        painter.scale(0.8, 0.8);
-    painter.drawText(-width / 2, metrics.capHeight() / 2, symbol);
+    QFont fitting = font();
+    if (text().size() > 2)
+        fitting.setPixelSize(fitting.pixelSize() * 4 / 5);
+    painter.setFont(fitting);
+    painter.drawText(rect(), Qt::AlignCenter, text());
 }
 
 void ElementButton::keyPressEvent(QKeyEvent *event)
@@ -84,7 +59,7 @@ void ElementButton::keyPressEvent(QKeyEvent *event)
 bool ElementButton::event(QEvent *event)
 {
     if (event->type() == QEvent::Enter)
-        raise(); // with all four of its lines
+        raise();
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave)
         update();
     return QPushButton::event(event);

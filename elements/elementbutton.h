@@ -2,9 +2,8 @@
 
 #include <QPushButton>
 
-/// One cell of the periodic table: black on white on every desktop, with a mark around the element on show.
-///
-/// Arrow keys are left to the table around it.
+/// One cell of the periodic table: black on white on every desktop, with a mark around the element shown.
+/// Leaves arrow keys to its parent.
 class ElementButton final : public QPushButton
 {
     Q_OBJECT
@@ -20,7 +19,5 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    void drawSymbol(QPainter &painter) const;
-
     bool m_marked = false;
 };

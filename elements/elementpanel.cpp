@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ShownColumn
@@ -67,14 +69,12 @@ void ElementPanel::fill(int row)
     for (const auto [label, column] : ShownColumns)
         lblatome[label] = m_tables.ElementData(row, column);
     CrystalName = lblatome[13];
-    Command9Shown = CrystalName != QLatin1StringView("-");
+    Command9Shown = CrystalName != u"-"_s;
     shownElement = row;
     const bool own = row <= LastPictureRow;
-    picturePath = picturePathOf((own ? lblatome[2] : QStringLiteral("106")) + QStringLiteral(".jpg"));
+    picturePath = picturePathOf((own ? lblatome[2] : u"106"_s) + u".jpg"_s);
     fillIsotopes(row);
-    const bool picture = m_module1.OptionSlots(Slot::ElementPicture).equals(1);
-    imgatoShown = picture;
-    Picture1Shown = !picture;
+    applyPictureOption();
 }
 
 void ElementPanel::fillIsotopes(int row)
@@ -89,15 +89,14 @@ void ElementPanel::fillIsotopes(int row)
         for (int each = i; each < i + 3; ++each)
             Label11[size_t(each)] = column(each);
     }
-    // One isotope fits into 915; without any the height is told all the same, to a panel out of sight.
+    // One isotope needs 915. Without any the panel is hidden.
     ReyFrame2Height = (i / 3.0 - 1) * 360 + 915;
     ReyFrame2Shown = !Label11[0].isEmpty();
 }
 
-// Named by the atomic number as stored, not by the row.
 QString ElementPanel::picturePathOf(const QString &file) const
 {
-    return m_module1.shippedFile(QStringLiteral("Data/elements/") + file);
+    return m_module1.shippedFile(u"Data/elements/"_s + file);
 }
 
 ElementPanel::Zoom ElementPanel::zoom()
@@ -105,19 +104,19 @@ ElementPanel::Zoom ElementPanel::zoom()
     const std::optional<double> number = Numbers::parseLocal(lblatome[2]);
     if (!number)
         throw RuntimeError(ErrorNumber::TypeMismatch, lblatome[2]);
-    // Whatever is no row at all is the same error as the first row beyond the table.
+    // Clamped: any number outside the table is the error of the first row outside.
     CurrentElement =
         Numbers::roundHalfToEven(std::clamp(*number - 1, -1.0, double(m_tables.ElementData.rowCount())));
     const QString caption = m_tables.ElementData(CurrentElement, ElementColumn::Name);
     // The selection itself stays changed: the next arrow starts from here.
     CurrentElement = std::min(CurrentElement, LastPictureRow);
     const QString stored = m_tables.ElementData(CurrentElement, ElementColumn::AtomicNumber);
-    return {caption, picturePathOf(stored + QStringLiteral("b.jpg"))};
+    return {caption, picturePathOf(stored + u"b.jpg"_s)};
 }
 
 QString ElementPanel::crystalPicturePath() const
 {
-    return m_module1.shippedFile(QStringLiteral("Data/cristal/") + CrystalName + QStringLiteral(".bmp"));
+    return m_module1.shippedFile(u"Data/cristal/"_s + CrystalName + u".bmp"_s);
 }
 
 void ElementPanel::applyPictureOption()

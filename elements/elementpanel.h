@@ -9,18 +9,18 @@
 
 /// What the pane of the elements shows and remembers, without its controls.
 ///
-/// Nothing is selected at first: all texts are empty. The selection lasts for the run. Elements are rows of
-/// `ElementData`, atomic number - 1; a row that is not there is RuntimeError 9.
+/// At first nothing is selected and all texts are empty. Elements are rows of `ElementData`, atomic number -
+/// 1; RuntimeError 9 for a row that is not there.
 class ElementPanel final
 {
 public:
     static constexpr int ValueCount = 15;
     static constexpr int IsotopeTextCount = 15; ///< five isotopes of three texts
 
-    /// The last row that has pictures of its own; those behind it share them.
+    /// The last row with pictures of its own; later elements share one.
     static constexpr int LastPictureRow = 105;
 
-    /// What the zoom window is to show.
+    /// Contents of the zoom window.
     struct Zoom
     {
         QString caption;
@@ -32,29 +32,29 @@ public:
     /// A click on the button of @p element.
     void select(int element);
 
-    /// A click on an arrow. False if the walk ends here: then nothing changes but the focus, which goes to
-    /// `CurrentElement`. A walk that starts from a pick by name passes @p fromPick.
+    /// A click on an arrow; @p fromPick starts from the pick by name. False at the end of the walk: then only
+    /// the focus changes, to `CurrentElement`.
     bool move(Direction direction, bool fromPick);
 
     /// A pick from the list of names. `CurrentElement` stays until takeOverPick() or the next move.
     void pick(const QString &name);
     void takeOverPick() { CurrentElement = LastComboElement; }
 
-    /// Also moves `CurrentElement`: to the element on show, or to the last row with a picture if that is
-    /// beyond it, while the texts stay. RuntimeError 13 if no atomic number is on show.
+    /// Also moves `CurrentElement` to the element shown, at most to the last row with a picture; the texts
+    /// stay. RuntimeError 13 if no atomic number is shown.
     Zoom zoom();
 
     QString crystalPicturePath() const;
 
-    /// The option "Picture of elements" was changed: the picture of the element or the portrait. Without a
-    /// selection the option alone does not show a picture.
+    /// After a change of the option "Picture of elements": picture or portrait. Without a selection there is
+    /// no picture.
     void applyPictureOption();
 
     bool isEmpty() const { return lblatome[0].isEmpty(); }
 
     int CurrentElement = 0;
-    int LastComboElement = 0; ///< the row found by the last pick
-    int shownElement = -1;    ///< the row that the texts come from; -1 while they are empty
+    int LastComboElement = 0; ///< row of the last pick
+    int shownElement = -1;    ///< row of the texts; -1 while they are empty
     QString CrystalName;
 
     std::array<QString, ValueCount> lblatome;

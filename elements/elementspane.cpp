@@ -18,9 +18,11 @@
 #include <QToolButton>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// In the gap over groups 3 to 12: the picture, at its own size, and the buttons beside it.
+// In the gap over groups 3 to 12: the picture at its own size, the buttons beside it.
 constexpr QRect PictureArea{120, 52, 160, 160};
 constexpr QPoint ArrowCentre{354, 97};
 constexpr int ArrowSide = 30;
@@ -71,25 +73,28 @@ void ElementsPane::buildContents()
     connectControls();
     showVisibility();
     refreshZoomPointer();
-    refreshToolTips();
+    ToolTips::refresh(m_module1.OptionSlots, *this);
 }
 
 void ElementsPane::buildPictures()
 {
-    imgato = new PictureBox(QStringLiteral("imgato"), this);
+    imgato = new PictureBox(u"imgato"_s, this);
     imgato->setGeometry(PictureArea);
     imgato->setFocusPolicy(Qt::TabFocus);
-    imgato->setAccessibleName(tr("Picture of the element"));
+    imgato->setAccessibleName(u"Picture of the element"_s);
+    ToolTips::setText(*imgato, u"Picture of element "_s);
     Picture1 = new Portrait(this);
     Picture1->setGeometry(PictureArea);
+    ToolTips::setText(*Picture1, Portrait::inscription());
 }
 
 void ElementsPane::buildArrows()
 {
     for (const Arrow &arrow : Arrows) {
         auto *button = new QToolButton(this);
-        button->setIcon(Icons::named(QLatin1StringView(arrow.icon)));
-        button->setAccessibleName(QLatin1StringView(arrow.toolTip));
+        button->setIcon(Icons::named(arrow.icon));
+        button->setAccessibleName(arrow.toolTip);
+        ToolTips::setText(*button, arrow.toolTip);
         QRect area(0, 0, ArrowSide, ArrowSide);
         area.moveCenter(ArrowCentre + arrow.place * ArrowSide);
         button->setGeometry(area);
@@ -99,10 +104,12 @@ void ElementsPane::buildArrows()
 
 void ElementsPane::buildButtons()
 {
-    cmdhelp = Controls::named(new QPushButton(tr("Captions"), this), QStringLiteral("cmdhelp"));
+    cmdhelp = Controls::named(new QPushButton(u"Captions"_s, this), u"cmdhelp"_s);
     cmdhelp->setGeometry(ButtonArea);
-    Command9 = Controls::named(new QPushButton(tr("Crystal structure"), this), QStringLiteral("Command9"));
+    ToolTips::setText(*cmdhelp, u"Display captions"_s);
+    Command9 = Controls::named(new QPushButton(u"Crystal structure"_s, this), u"Command9"_s);
     Command9->setGeometry(ButtonArea.translated(0, ButtonPitch));
+    ToolTips::setText(*Command9, u"Display crystal structure"_s);
 }
 
 void ElementsPane::connectControls()
@@ -162,9 +169,7 @@ void ElementsPane::move(Direction direction)
         m_table->focusElement(m_panel.CurrentElement);
         if (!moved)
             return;
-        // Unlike the refresh below, this one knows no third value of the option.
-        const bool tips = m_module1.OptionSlots(Slot::ToolTips).equals(1);
-        imgato->setToolTip(tips ? m_panel.lblatome[1] : QString());
+        imgato->setToolTip({}); // at a third value of the option nothing sets it again
         showPanel();
         if (fromPick)
             m_findBar.ResetSearchPanel();
@@ -180,7 +185,7 @@ void ElementsPane::pick(const QString &name)
     });
 }
 
-// The bar closes for good: the walk goes on from the element picked last, or from the first if none was.
+// The user closed the bar: the walk goes on from the last pick, or from the first element without one.
 void ElementsPane::takeOverPick()
 {
     if (!Controls::isShown(*this))
@@ -208,12 +213,13 @@ void ElementsPane::showCrystal()
 void ElementsPane::showPanel()
 {
     ReyFrame1->showValues(m_panel);
-    // Loaded even where the portrait is on show: a missing file ends the program in either case.
+    // Loaded beneath the portrait too: a missing file ends the program in either case.
     imgato->setPicture(PictureFile::load(m_panel.picturePath));
     ReyFrame2->showValues(m_panel);
     m_table->mark(m_panel.shownElement);
     showVisibility();
-    refreshToolTips();
+    ToolTips::setText(*imgato, u"Picture of element "_s + m_panel.lblatome[1]);
+    ToolTips::refresh(m_module1.OptionSlots, *window());
 }
 
 void ElementsPane::showVisibility()
@@ -236,21 +242,4 @@ void ElementsPane::refreshZoomPointer()
     if (isBuilt())
         imgato->setCursor(m_module1.OptionSlots(Slot::ElementZoom).equals(1) ? Qt::PointingHandCursor
                                                                              : Qt::ArrowCursor);
-}
-
-void ElementsPane::refreshToolTips()
-{
-    const auto refresh = [this](QWidget &control, const QString &text) {
-        ToolTips::refresh(m_module1.OptionSlots, control, text);
-    };
-    m_findBar.refreshToolTip(m_module1.OptionSlots);
-    if (isBuilt()) {
-        refresh(*cmdhelp, QStringLiteral("Display captions"));
-        for (const Arrow &arrow : Arrows)
-            refresh(cmdpre[int(arrow.direction)], QLatin1StringView(arrow.toolTip));
-        refresh(*Command9, QStringLiteral("Display crystal structure"));
-        refresh(*Picture1, Portrait::inscription());
-        refresh(*imgato, QStringLiteral("Picture of element ") + m_panel.lblatome[1]);
-    }
-    Q_EMIT toolTipsRefreshed();
 }

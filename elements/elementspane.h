@@ -17,8 +17,7 @@ struct DataStore;
 
 /// `Frametable`: the periodic table with the data, the isotopes and the picture of the selected element.
 ///
-/// Elements are chosen by a click, by the arrow buttons, by the arrow keys on the table, which do the same,
-/// and by name from the Find bar's list.
+/// Elements are chosen by a click, by the arrow buttons or arrow keys, and by name in the Find bar.
 class ElementsPane final : public ModulePanel
 {
     Q_OBJECT
@@ -33,23 +32,17 @@ public:
 
     TableRow currentRow() const override;
 
-    /// What a click on the element's button does.
+    /// As a click on the element's button.
     void select(int element);
-
-    /// Gives or takes the help balloons, by the option. Covers the Find bar's close button too; whoever has
-    /// other such controls follows toolTipsRefreshed().
-    void refreshToolTips();
 
     /// The pointer over the element's picture, by the option "Zoom-in on the element picture".
     void refreshZoomPointer();
 
-    /// Picture or portrait, after the option "Picture of elements" was changed.
+    /// Picture or portrait, after a change of the option "Picture of elements".
     void applyPictureOption();
 
 Q_SIGNALS:
-    void toolTipsRefreshed();
-
-    /// `cmdhelp` was pressed: the legend of the panel is wanted.
+    /// `cmdhelp` was pressed.
     void helpRequested();
 
 protected:

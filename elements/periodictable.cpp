@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double Pitch = 480; ///< twips from button to button
@@ -51,7 +53,7 @@ constexpr std::array<Run, 14> Runs{{
     {103, 117, 4, topOf(7)},
 }};
 
-// The last nine bear their systematic symbols, whatever the table of data calls them.
+// The last nine have their systematic symbols, whatever the data call them.
 constexpr std::array<const char *, 118> Symbols{
     "H",  "He", "Li", "Be", "B",   "C",   "N",   "O",   "F",   "Ne",  "Na",  "Mg",  "Al",  "Si", "P",
     "S",  "Cl", "Ar", "K",  "Ca",  "Sc",  "Ti",  "V",   "Cr",  "Mn",  "Fe",  "Co",  "Ni",  "Cu", "Zn",
@@ -63,7 +65,7 @@ constexpr std::array<const char *, 118> Symbols{
     "Sg", "Bh", "Hs", "Mt", "Uun", "Uuu", "Uub", "Uut", "Uuq", "Uup", "Uuh", "Uus", "Uuo",
 };
 
-/// The highest period that a group reaches up to; its number stands right above.
+/// The topmost period of a group; the group's number is right above.
 constexpr int firstPeriodOf(int group)
 {
     if (group == 1 || group == 18)
@@ -75,7 +77,7 @@ struct PeriodNumber
 {
     const char *name;
     const char *text;
-    double left; ///< of the row that it stands beside
+    double left; ///< of its row
     double top;
 };
 
@@ -106,14 +108,14 @@ void PeriodicTable::buildButtons(const MemoryTables &tables)
 {
     auto *buttons = new QWidget(this);
     buttons->resize(size());
-    buttons->setFont(Controls::largeType(QFont(QStringLiteral("Tahoma")))); // once around them all
+    buttons->setFont(Controls::largeType(QFont(u"Tahoma"_s)));
     for (const Run &run : Runs) {
         for (int index = run.first; index <= run.last; ++index) {
-            auto *button = new ElementButton(QLatin1StringView(Symbols[size_t(index)]), buttons);
+            auto *button = new ElementButton(Symbols[size_t(index)], buttons);
             button->setGeometry(
                 WindowUnits::rect(leftOf(run.group) + Pitch * (index - run.first), run.top, Side, Side));
             button->setAccessibleName(
-                QStringLiteral("%1, %2").arg(tables.ElementData(index, ElementColumn::Name)).arg(index + 1));
+                u"%1, %2"_s.arg(tables.ElementData(index, ElementColumn::Name)).arg(index + 1));
             Command7.add(index, button);
         }
     }
@@ -122,8 +124,7 @@ void PeriodicTable::buildButtons(const MemoryTables &tables)
 void PeriodicTable::buildGroupNumbers()
 {
     for (int group = 1; group <= 18; ++group) {
-        QLabel *number =
-            Controls::label(QStringLiteral("Label%1").arg(27 + group), QString::number(group), this);
+        QLabel *number = Controls::label(u"Label%1"_s.arg(27 + group), QString::number(group), this);
         number->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
         number->setGeometry(WindowUnits::rect(leftOf(group), topOf(firstPeriodOf(group)) - 300, Side, 285));
     }
@@ -132,8 +133,7 @@ void PeriodicTable::buildGroupNumbers()
 void PeriodicTable::buildPeriodNumbers()
 {
     for (const PeriodNumber &period : PeriodNumbers) {
-        QLabel *number =
-            Controls::label(QLatin1StringView(period.name), QLatin1StringView(period.text), this);
+        QLabel *number = Controls::label(period.name, period.text, this);
         number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         number->setMargin(1); // a V is wider than its place
         number->setGeometry(WindowUnits::rect(period.left - 540, period.top, 450, Side));

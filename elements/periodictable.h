@@ -9,8 +9,8 @@ struct MemoryTables;
 
 /// The printed periodic table: the 118 buttons `Command7` with the numbers of groups and periods around them.
 ///
-/// It is as large as the pane, so that positions in it are those of the pane. The keyboard enters it at one
-/// button only, the one marked.
+/// It is as large as the pane, so its positions are those of the pane. Tab stops at one button only, the
+/// marked one.
 class PeriodicTable final : public QWidget
 {
     Q_OBJECT
@@ -21,10 +21,9 @@ public:
 
     ControlArray<ElementButton> Command7{"Command7"};
 
-    /// Marks the element on show; -1 marks none.
+    /// Marks the element shown; -1 marks none.
     void mark(int element);
 
-    /// Gives the keyboard to the button of @p element.
     void focusElement(int element);
 
 private:

@@ -3,6 +3,8 @@
 #include "widgets/picturefile.h"
 #include "widgets/picturewindow.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize ZoomSize{480, 480};
@@ -16,7 +18,7 @@ void openZoomWindow(QWidget &form1, const QString &caption, const QString &pictu
     auto *window = new SideWindow("Form5", form1);
     window->setWindowTitle(caption);
     window->setFixedSize(ZoomSize);
-    auto *Image1 = new PictureBox(QStringLiteral("Image1"), window);
+    auto *Image1 = new PictureBox(u"Image1"_s, window);
     Image1->resize(ZoomSize);
     Image1->setPicture(picture);
     Image1->setAccessibleName(caption);

@@ -3,13 +3,15 @@
 #include <QPainter>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QColor Paper(0xf7, 0xf2, 0xe6);
 const QColor Ink(0x4a, 0x3d, 0x2c);
 const QColor Cell(0xc9, 0xb8, 0x95);
 
-/// The first group and the last of a stretch of cells in a period of the motif.
+/// Neighbouring cells of a period, from the first group to the last.
 struct Stretch
 {
     int period;
@@ -46,13 +48,13 @@ void drawMotif(QPainter &painter, const QRectF &area)
 
 Portrait::Portrait(QWidget *parent) : QWidget(parent)
 {
-    setObjectName(QStringLiteral("Picture1"));
+    setObjectName(u"Picture1"_s);
     setAccessibleName(inscription());
 }
 
 QString Portrait::inscription()
 {
-    return QStringLiteral("Dmitri Mendeleev (1834-1907)");
+    return u"Dmitri Mendeleev (1834-1907)"_s;
 }
 
 void Portrait::paintEvent(QPaintEvent *)
@@ -65,8 +67,7 @@ void Portrait::paintEvent(QPaintEvent *)
     painter.drawRect(plate.adjusted(5, 5, -5, -5));
     drawMotif(painter, QRectF(16, 20, width() - 31, 0));
 
-    // In the desktop's font: another typeface would cost the start more than all that is written here.
     const QRectF words(6, height() - 62, width() - 12, 26);
-    painter.drawText(words, Qt::AlignCenter, QStringLiteral("Dmitri Mendeleev"));
-    painter.drawText(words.translated(0, 24), Qt::AlignCenter, QStringLiteral("1834\u20131907"));
+    painter.drawText(words, Qt::AlignCenter, u"Dmitri Mendeleev"_s);
+    painter.drawText(words.translated(0, 24), Qt::AlignCenter, u"1834\u20131907"_s);
 }

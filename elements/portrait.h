@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// `Picture1`: a plate to the memory of the inventor of the periodic table, in place of a portrait.
+/// `Picture1`: a plate in memory of the inventor of the periodic table, in place of a portrait.
 class Portrait final : public QWidget
 {
     Q_OBJECT

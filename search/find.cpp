@@ -10,7 +10,7 @@ void Find::gather(const RowList &searched, int limit, const QString &text,
                   Qt::CaseSensitivity caseSensitivity, RowList &hits)
 {
     hits.clear();
-    const auto tellViews = qScopeGuard([&hits] { hits.filled(); });
+    const auto updateViews = qScopeGuard([&hits] { hits.filled(); });
     for (int SearchCursor = 1; SearchCursor <= limit; ++SearchCursor) {
         const QStringView row = searched.cell(SearchCursor - 1, 0);
         if (row.contains(text, caseSensitivity))

@@ -19,6 +19,8 @@
 #include <QShortcut>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 FindBar::FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *parent)
     : QWidget(parent), m_store(store), m_desktop(desktop), m_panel3(panel3)
 {
@@ -30,26 +32,28 @@ FindBar::FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *pa
 void FindBar::buildControls()
 {
     // In the order of Tab.
-    Combo2_3 = Controls::named(new QComboBox(this), QStringLiteral("Combo2(3)"));
+    Combo2_3 = Controls::named(new QComboBox(this), u"Combo2(3)"_s);
     Combo2_3->setMinimumContentsLength(15); // of the longest names, "Rutherfordium" and its kind
-    Combo2_3->setAccessibleName(QStringLiteral("Name of the element"));
-    Combo2_3->setModel(new RowListModel(m_store.lists.Combo2[3], {{QStringLiteral("Name"), 160}}, Combo2_3));
-    TextBoxM6 = Controls::named(new QLineEdit(this), QStringLiteral("TextBoxM6"));
+    Combo2_3->setAccessibleName(u"Name of the element"_s);
+    Combo2_3->setModel(new RowListModel(m_store.lists.Combo2[3], {{u"Name"_s, 160}}, Combo2_3));
+    TextBoxM6 = Controls::named(new QLineEdit(this), u"TextBoxM6"_s);
     TextBoxM6->setMinimumWidth(60);
-    TextBoxM6->setAccessibleName(QStringLiteral("Search text"));
-    Command11.add(0, new QPushButton(QStringLiteral("Previous"), this));
-    Command11.add(1, new QPushButton(QStringLiteral("Next"), this));
-    for (const auto &[index, button] : Command11) // styles ask for more around short texts
+    TextBoxM6->setAccessibleName(u"Search text"_s);
+    Command11.add(0, new QPushButton(u"Previous"_s, this));
+    Command11.add(1, new QPushButton(u"Next"_s, this));
+    for (const auto &[index, button] : Command11) // styles add more around short texts
         button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) + 16);
-    case1 = Controls::named(new QCheckBox(QStringLiteral("Match case"), this), QStringLiteral("case1"));
-    Picture2 = Controls::named(new QToolButton(this), QStringLiteral("Picture2"));
-    Picture2->setIcon(Icons::named(QStringLiteral("close")));
+    case1 = Controls::named(new QCheckBox(u"Match case"_s, this), u"case1"_s);
+    Picture2 = Controls::named(new QToolButton(this), u"Picture2"_s);
+    Picture2->setIcon(Icons::named(u"close"_s));
     Picture2->setAutoRaise(true);
-    Picture2->setAccessibleName(QStringLiteral("Close search engine"));
-    Text1 = Controls::named(new QLineEdit(QStringLiteral("0"), this), QStringLiteral("Text1"));
-    Text2 = Controls::named(new QLineEdit(QStringLiteral("0"), this), QStringLiteral("Text2"));
+    Picture2->setAccessibleName(u"Close search engine"_s);
+    ToolTips::setText(*Picture2, u"Close search engine"_s);
+    Text1 = Controls::named(new QLineEdit(this), u"Text1"_s);
+    Text2 = Controls::named(new QLineEdit(this), u"Text2"_s);
     Text1->hide();
     Text2->hide();
+    resetPosition();
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -74,7 +78,7 @@ void FindBar::connectControls()
     addShortcuts();
 }
 
-// Each is on while its parent can be seen and used.
+// A shortcut works while its parent is visible and enabled.
 void FindBar::addShortcuts()
 {
     const auto add = [](const QKeySequence &key, QWidget *parent, Qt::ShortcutContext context, auto act) {
@@ -106,7 +110,7 @@ void FindBar::setSearchedLists(RowListView *ListView1, RowListView *ListView3_26
 void FindBar::open(bool elementsOnShow)
 {
     Picture2->show();
-    m_panel3.setText(QStringLiteral("           Find :"));
+    m_panel3.setText(u"           Find :"_s);
     if (elementsOnShow) {
         Combo2_3->show();
         Combo2_3->setFocus();
@@ -149,10 +153,7 @@ void FindBar::ResetSearchPanel()
 void FindBar::ClearFindText()
 {
     TextBoxM6->clear();
-    SearchHit = 1;
-    SearchRow = 1;
-    Text1->setText(QStringLiteral("0"));
-    Text2->setText(QStringLiteral("0"));
+    resetPosition();
     case1->setChecked(false);
 }
 
@@ -164,11 +165,6 @@ bool FindBar::isSearching() const
 bool FindBar::isPickInUse() const
 {
     return Controls::isShown(*Combo2_3) && Combo2_3->currentIndex() != -1;
-}
-
-void FindBar::refreshToolTip(const OptionSlots &slots)
-{
-    ToolTips::refresh(slots, *Picture2, QStringLiteral("Close search engine"));
 }
 
 std::optional<FindBar::Searched> FindBar::searchedList() const
@@ -197,26 +193,29 @@ void FindBar::caseClicked()
 void FindBar::gather(const Searched &searched, bool enableNext)
 {
     const QString text = TextBoxM6->text();
-    SearchHit = 1;
-    SearchRow = 1;
-    Text1->setText(QStringLiteral("0"));
-    Text2->setText(QStringLiteral("0"));
+    resetPosition();
     if (enableNext)
         Command11[1].setEnabled(!text.isEmpty());
     RowList &hits = m_store.lists.ListView2[6];
     if (text.isEmpty())
         hits.clear();
-    else // both lists are searched as far as there are solvents
+    else // the number of solvents limits both lists
         Find::gather(*searched.rows, m_store.SolventCount, text,
                      case1->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive, hits);
     sayWhetherFound();
+}
+
+void FindBar::resetPosition()
+{
+    Text1->setText(u"0"_s);
+    Text2->setText(u"0"_s);
 }
 
 void FindBar::sayWhetherFound()
 {
     const QString text = TextBoxM6->text();
     const bool missed = !text.isEmpty() && m_store.lists.ListView2[6].rowCount() == 0;
-    StatusLine::show(*this, missed ? QStringLiteral("Nothing found for \"%1\"").arg(text) : QString());
+    StatusLine::show(*this, missed ? u"Nothing found for \"%1\""_s.arg(text) : QString());
 }
 
 void FindBar::walk(Find::Direction direction)
@@ -230,16 +229,14 @@ void FindBar::walk(Find::Direction direction)
     Command11[0].setEnabled(true);
     const Find::Position current{Text1->text().toInt(), Text2->text().toInt()};
     if (const auto found = Find::walk(*searched->rows, hits, current, direction)) {
-        SearchHit = found->hit;
-        SearchRow = found->row;
-        searched->view->selectRow(SearchRow - 1);
-        Text2->setText(QString::number(SearchRow));
-        Text1->setText(QString::number(SearchHit));
+        searched->view->selectRow(found->row - 1);
+        Text2->setText(QString::number(found->row));
+        Text1->setText(QString::number(found->hit));
     }
     searched->view->setFocus();
 }
 
-// From the search text one walks on with the same key, so it keeps the focus.
+// The search text keeps the focus, so that the same key walks on.
 void FindBar::walkByKey(Find::Direction direction)
 {
     const bool fromText = TextBoxM6->hasFocus();
@@ -259,7 +256,7 @@ bool FindBar::eventFilter(QObject *watched, QEvent *event)
         closeByUser();
         return true;
     }
-    // By itself a closed drop-down picks the first name with the letter.
+    // A closed drop-down would pick the first name with the letter.
     if (!opened && !key->text().isEmpty() && key->text().front().isLetter()) {
         Combo2_3->showPopup();
         QCoreApplication::sendEvent(Combo2_3->view(), event);

@@ -6,7 +6,6 @@
 #include <QPushButton>
 
 class Desktop;
-class OptionSlots;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -18,62 +17,56 @@ struct DataStore;
 /// The bar on the status line that searches the list on screen. On the Elements pane it is a pick list of
 /// names.
 ///
-/// It starts closed. Every pane switch closes it. F3 is Next, Shift+F3 Previous and Escape closes, wherever
-/// in the window the focus is; Enter and Shift+Enter in the search text walk like F3 and Shift+F3.
+/// It starts closed, and every pane switch closes it. From anywhere in the window F3 is Next, Shift+F3
+/// Previous and Escape closes; in the search text so are Enter and Shift+Enter.
 class FindBar final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p panel3 is the panel of the status bar for the prompt while the bar is open.
+    /// @p panel3 of the status bar shows the prompt while the bar is open.
     FindBar(DataStore &store, Desktop &desktop, QLabel &panel3, QWidget *parent);
 
-    /// The lists that can be searched, from their pane once it has them. The first that is on is searched,
-    /// by its own setting.
+    /// The lists that can be searched. The first that is not hidden is searched. Their pane calls this when
+    /// it has built them.
     void setSearchedLists(RowListView *ListView1, RowListView *ListView3_26);
 
-    /// Opens the bar, as opened pick list if the Elements pane is on screen. What was typed into an open bar
-    /// is selected.
+    /// Opens the bar; on the Elements pane as a pick list, dropped down. The text of an open bar is selected.
     void open(bool elementsOnShow);
 
-    /// Closes the bar and forgets text and hits. The hidden boxes `Text1` and `Text2` keep what they hold,
-    /// unless the text changes by it.
+    /// Closes the bar and forgets text and hits. The hidden boxes `Text1` and `Text2` only change with the
+    /// text.
     void ResetSearchPanel();
 
     /// Empties the bar and leaves it open.
     void ClearFindText();
 
-    /// Whether the bar is open for a text.
+    /// Open for a text.
     bool isSearching() const;
 
-    /// Whether the bar is open as pick list and a name is picked.
+    /// Open as a pick list, with a name picked.
     bool isPickInUse() const;
 
-    /// With room for a whole name. In a narrow window the search text gives way.
+    /// Room for a whole name; in a narrow window the search text shrinks.
     QSize sizeHint() const override;
 
-    /// Gives or takes the help balloon of the close button, by the option.
-    void refreshToolTip(const OptionSlots &slots);
-
 Q_SIGNALS:
-    /// The user closed the bar; it is closed already.
+    /// After the user closed the bar.
     void closedByUser();
 
-    /// An element was picked by hand, perhaps the same again.
+    /// The user picked an element, perhaps the same again.
     void namePicked(const QString &name);
 
 protected:
-    /// Of the pick list and its rows: what is typed searches the opened list, and Escape there closes the
-    /// bar.
+    /// Keys of the pick list: letters search the dropped-down list, and Escape there closes the bar.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// A list that can be searched and its rows.
     struct Searched
     {
         RowListView *view;
         const RowList *rows;
-        bool enablesNext; ///< also on a click on `case1`
+        bool enablesNext; ///< also when `case1` is clicked
     };
 
     void buildControls();
@@ -83,6 +76,7 @@ private:
     void searchTextChanged();
     void caseClicked();
     void gather(const Searched &searched, bool enableNext);
+    void resetPosition();
     void walk(Find::Direction direction);
     void walkByKey(Find::Direction direction);
     void sayWhetherFound();
@@ -100,6 +94,4 @@ private:
     QComboBox *Combo2_3;                              ///< "Combo2(3)", the names of the elements
     QLineEdit *Text1;                                 ///< hidden: ordinal of the current hit
     QLineEdit *Text2;                                 ///< hidden: row of the current hit, from 1
-    int SearchHit = 1;                                ///< ordinal of the hit being worked on
-    int SearchRow = 1;                                ///< row of the visible list being tested
 };

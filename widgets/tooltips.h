@@ -1,20 +1,18 @@
 #pragma once
 
-#include "core/optionslots.h"
+#include <QString>
 
-#include <QWidget>
+class OptionSlots;
+class QWidget;
 
+/// The help balloons that an option switches.
 namespace ToolTips {
 
-/// The help balloon of a control that the option switches: none at 0, its text at 1. Any other value leaves
-/// the control as it is.
-inline void refresh(const OptionSlots &slots, QWidget &control, const QString &text)
-{
-    const Value &option = slots(Slot::ToolTips);
-    if (option.equals(0))
-        control.setToolTip({});
-    else if (option.equals(1))
-        control.setToolTip(text);
-}
+/// Sets the balloon of @p control; it shows from the next refresh() on.
+void setText(QWidget &control, const QString &text);
+
+/// Refreshes the balloons of all controls in @p window, by the option: none at 0, their texts at 1. Any other
+/// value leaves them as they are.
+void refresh(const OptionSlots &options, QWidget &window);
 
 } // namespace ToolTips

@@ -6,6 +6,7 @@
 #include "tests/support/scripteddesktop.h"
 #include "tests/support/testclass.h"
 #include "widgets/dropdown.h"
+#include "widgets/tooltips.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -313,7 +314,7 @@ private Q_SLOTS:
         Command1.click();
         QCOMPARE(references.size(), 1);
         QCOMPARE(colours.size(), 1);
-        m_window->pane.refreshToolTips(); // knows one text for all modes
+        ToolTips::refresh(m_window->module.OptionSlots, m_window->pane); // knows one text for all modes
         QCOMPARE(Command1.toolTip(), "Display explanation of references");
     }
 

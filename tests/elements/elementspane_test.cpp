@@ -5,11 +5,11 @@
 #include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
 #include "widgets/picturewindow.h"
+#include "widgets/tooltips.h"
 #include "widgets/windowunits.h"
 
 #include <QComboBox>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         m_form1->module1.AppFolder = m_folder.path();
         for (const Slot slot : {Slot::ToolTips, Slot::ElementZoom, Slot::ElementPicture})
             m_form1->module1.OptionSlots(slot) = 1;
-        m_form1->pane.refreshToolTips(); // before the pane is built
+        ToolTips::refresh(m_form1->module1.OptionSlots, *m_form1); // before the pane is built
         m_form1->pane.refreshZoomPointer();
         m_form1->pane.applyPictureOption();
         QVERIFY(!m_form1->pane.isBuilt());
@@ -197,7 +197,6 @@ private Q_SLOTS:
 
     void balloonsFollowTheOption()
     {
-        const QSignalSpy refreshed(&m_form1->pane, &ElementsPane::toolTipsRefreshed);
         const auto tips = [this] {
             QStringList all;
             for (const char *name : {"Picture2", "cmdhelp", "cmdpre(0)", "cmdpre(1)", "cmdpre(2)",
@@ -212,16 +211,15 @@ private Q_SLOTS:
         Command7(Fe).click();
         QCOMPARE(tips(), on);
         option = 2; // unknown: nothing changes
-        m_form1->pane.refreshToolTips();
+        ToolTips::refresh(m_form1->module1.OptionSlots, *m_form1);
         QCOMPARE(tips(), on);
         Command7(C).click();
         QCOMPARE(toolTip("imgato"), "Picture of element Iron");
         click("cmdpre(1)"); // but a move takes the balloon
         QCOMPARE(toolTip("imgato"), QString());
         option = 0;
-        m_form1->pane.refreshToolTips();
+        ToolTips::refresh(m_form1->module1.OptionSlots, *m_form1);
         QCOMPARE(tips(), "||||||||");
-        QCOMPARE(refreshed.size(), 5);
     }
 
     void aMissingPictureEndsTheProgramEvenBehindThePortrait()
