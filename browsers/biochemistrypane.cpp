@@ -1,7 +1,6 @@
 #include "browsers/biochemistrypane.h"
 
 #include "browsers/geneticcodesection.h"
-#include "browsers/paneeffects.h"
 #include "core/desktop.h"
 #include "core/module1.h"
 #include "store/datastore.h"
@@ -9,7 +8,9 @@
 
 #include <numeric>
 
-/// Where a section of the pane stands: heading, tabs, titles and lists one below the other.
+using namespace Qt::StringLiterals;
+
+/// The place of a section: heading, tabs, titles and lists one below the other.
 struct BiochemistryPane::Section
 {
     static constexpr int HeadingHeight = 24;
@@ -45,14 +46,10 @@ void BiochemistryPane::buildContents()
     m_code = new GeneticCodeSection(m_store, m_desktop, this);
     m_code->setGeometry(GeneticCodePlace);
 
-    Option4.connectEach(&QRadioButton::clicked, this,
-                        [this](int index) { apply(PaneEffects::Option4(), index); });
-    Option5.connectEach(&QRadioButton::clicked, this,
-                        [this](int index) { apply(PaneEffects::Option5(), index); });
     connect(&ListView3[9], &RowListView::rowDoubleClicked, this, &BiochemistryPane::openStructure);
-    apply(PaneEffects::Option5(), 0);
-    apply(PaneEffects::TabStrip9(), 1);
-    apply(PaneEffects::TabStrip8(), 1);
+    for (const QTabBar *tabs : {TabStrip8, TabStrip9})
+        connect(tabs, &QTabBar::currentChanged, this, &BiochemistryPane::showChoice);
+    showChoice();
 }
 
 TableRow BiochemistryPane::currentRow() const
@@ -60,127 +57,109 @@ TableRow BiochemistryPane::currentRow() const
     return m_code->currentRow();
 }
 
-// What is made later lies above: the other tabs cover the amino acids, and the buttons of the bases theirs.
-// NOLINTNEXTLINE(readability-function-size): a table of columns
+// Later controls are above earlier ones: the other tabs cover the amino acids, and the options of the bases
+// those of the amino acids.
 void BiochemistryPane::buildBiomolecules()
 {
     const Section section{BiomoleculesPlace, TitleFrame::Height};
-    Controls::heading(QStringLiteral("Label19(0)"), QStringLiteral("Biomolecules"), this)
-        ->setGeometry(section.heading());
-    const QPoint first = section.options().topLeft() + QPoint(6, 0);
-    placeOptions({&Option5.add(0, new QRadioButton(QStringLiteral("Natural"), this)),
-                  &Option5.add(1, new QRadioButton(QStringLiteral("Synthetic"), this))},
-                 first);
-    auto *grdFrame15 = Controls::named(new QFrame(this), QStringLiteral("grdFrame15"));
-    grdFrame15->setAutoFillBackground(true);
-    grdFrame15->setGeometry(section.options());
-    placeOptions({&Option5.add(2, new QRadioButton(QStringLiteral("Pyrimidines"), grdFrame15)),
-                  &Option5.add(3, new QRadioButton(QStringLiteral("Purines"), grdFrame15))},
-                 {6, 0});
+    Controls::heading(u"Label19(0)"_s, u"Biomolecules"_s, this)->setGeometry(section.heading());
+    addOptions(Option5, {{0, "Natural"}, {1, "Synthetic"}}, section.options().topLeft() + QPoint(6, 0), this);
+    grdFrame15 = makeOptionFrame(u"grdFrame15"_s, section);
+    addOptions(Option5, {{2, "Pyrimidines"}, {3, "Purines"}}, {6, 0}, grdFrame15);
+    TabStrip9 = makeTabs(u"TabStrip9"_s, {"Amino acids", "Nitrogen bases", "Carbohydrates", "Fatty acids"},
+                         section.tabs(), this);
 
-    makeTabs(
-        QStringLiteral("TabStrip9"), {"Amino acids", "Nitrogen bases", "Carbohydrates", "Fatty acids"},
-        section.tabs(), [this](int number) { apply(PaneEffects::TabStrip9(), number); }, this);
-
-    const ListColumn mass{"Molar mass (g/mol)", 98, Kind::Number};
-    const ListColumn melting{"Melting point (°C)", 106, Kind::Number};
-    const ListColumn isoelectric{"Isoelectric point", 86, Kind::Number};
-    addList(section, 9,
-            {{"Name", 134},
-             {"Code", 78},
-             {"Formula", 110},
-             mass,
-             melting,
-             {"pKa", 66, Kind::Number},
-             {"pKb", 66, Kind::Number},
-             {"pKc", 66, Kind::Number},
-             isoelectric,
-             {"Solubility (g/kg)", 118, Kind::Number}});
-    addTitles(section, "grdFrame10", 9, 66);
-    addList(section, 10,
-            {{"Name", 214, Kind::Wrapped},
-             {"Formula", 104},
-             {"Molar mass (g/mol)", 86, Kind::Number},
-             {"Melting point (°C)", 106, Kind::Number},
-             {"pKa", 56, Kind::Number},
-             {"pKb", 56, Kind::Number},
-             {"pKc", 56, Kind::Number},
-             {"pKd", 56, Kind::Number},
-             isoelectric,
-             {"Solubility (g/kg)", 108, Kind::Number}});
-    addTitles(section, "grdFrame11", 10, 76);
+    const QList<ListColumn> natural{{"Name", 134},
+                                    {"Code", 78},
+                                    {"Formula", 110},
+                                    {"Molar mass (g/mol)", 98, Kind::Number},
+                                    {"Melting point (°C)", 106, Kind::Number},
+                                    {"pKa", 66, Kind::Number},
+                                    {"pKb", 66, Kind::Number},
+                                    {"pKc", 66, Kind::Number},
+                                    {"Isoelectric point", 86, Kind::Number},
+                                    {"Solubility (g/kg)", 118, Kind::Number}};
+    addList(section, 9, natural);
+    addTitles(section, u"grdFrame10"_s, 9, 66);
+    const QList<ListColumn> synthetic{{"Name", 214, Kind::Wrapped},
+                                      {"Formula", 104},
+                                      {"Molar mass (g/mol)", 86, Kind::Number},
+                                      {"Melting point (°C)", 106, Kind::Number},
+                                      {"pKa", 56, Kind::Number},
+                                      {"pKb", 56, Kind::Number},
+                                      {"pKc", 56, Kind::Number},
+                                      {"pKd", 56, Kind::Number},
+                                      {"Isoelectric point", 86, Kind::Number},
+                                      {"Solubility (g/kg)", 108, Kind::Number}};
+    addList(section, 10, synthetic);
+    addTitles(section, u"grdFrame11"_s, 10, 76);
 
     const QList<ListColumn> bases{{"Name", 220},
                                   {"Formula", 130},
-                                  mass,
+                                  {"Molar mass (g/mol)", 98, Kind::Number},
                                   {"pKa1", 100, Kind::Number},
                                   {"pKa2", 100, Kind::Number},
                                   {"pKa3", 100, Kind::Number},
                                   {"Solubility (wt%)", 170, Kind::Number, "%"}};
     addList(section, 11, bases);
     addList(section, 13, bases);
-    addTitles(section, "grdFrame12", 11, 86);
+    addTitles(section, u"grdFrame12"_s, 11, 86);
     addList(section, 14, {{"Name", 226}, {"Symbol", 170}, {"Systematic name", 532}});
-    addTitles(section, "grdFrame13", 14, 93);
-    addList(section, 12,
-            {{"Name", 160},
-             {"Systematic name", 318},
-             {"Formula", 110},
-             mass,
-             melting,
-             {"Solubility (%)", 110, Kind::Number}});
-    addTitles(section, "grdFrame3", 12, 96);
+    addTitles(section, u"grdFrame13"_s, 14, 93);
+    const QList<ListColumn> acids{{"Name", 160},
+                                  {"Systematic name", 318},
+                                  {"Formula", 110},
+                                  {"Molar mass (g/mol)", 98, Kind::Number},
+                                  {"Melting point (°C)", 106, Kind::Number},
+                                  {"Solubility (%)", 110, Kind::Number}};
+    addList(section, 12, acids);
+    addTitles(section, u"grdFrame3"_s, 12, 96);
 }
 
 void BiochemistryPane::buildSdsPage()
 {
     const Section section{SdsPagePlace, TitleFrame::OneLine};
-    Controls::heading(QStringLiteral("Label17(0)"), QStringLiteral("SDS-PAGE"), this)
-        ->setGeometry(section.heading());
-    placeOptions({&Option4.add(7, new QRadioButton(QStringLiteral("Coomassie blue"), this)),
-                  &Option4.add(6, new QRadioButton(QStringLiteral("Silver"), this))},
-                 section.options().topLeft() + QPoint(6, 0));
-    auto *grdFrame26 = Controls::named(new QFrame(this), QStringLiteral("grdFrame26"));
-    grdFrame26->setAutoFillBackground(true);
-    grdFrame26->setGeometry(section.options());
-    placeOptions({&Option4.add(8, new QRadioButton(QStringLiteral("Resolving gel"), grdFrame26)),
-                  &Option4.add(9, new QRadioButton(QStringLiteral("Stacking gel"), grdFrame26))},
-                 {6, 0});
-
-    makeTabs(
-        QStringLiteral("TabStrip8"),
-        {"Separation", "Protein standards", "Stock solutions", "Gels", "Staining"}, section.tabs(),
-        [this](int number) { apply(PaneEffects::TabStrip8(), number); }, this);
+    Controls::heading(u"Label17(0)"_s, u"SDS-PAGE"_s, this)->setGeometry(section.heading());
+    addOptions(Option4, {{7, "Coomassie blue"}, {6, "Silver"}}, section.options().topLeft() + QPoint(6, 0),
+               this);
+    grdFrame26 = makeOptionFrame(u"grdFrame26"_s, section);
+    addOptions(Option4, {{8, "Resolving gel"}, {9, "Stacking gel"}}, {6, 0}, grdFrame26);
+    TabStrip8 =
+        makeTabs(u"TabStrip8"_s, {"Separation", "Protein standards", "Stock solutions", "Gels", "Staining"},
+                 section.tabs(), this);
 
     addList(section, 17,
             {{"Separation domain (Da)", 240, Kind::Text, "Da"},
              {"% Acrylamide (resolving gel)", 270, Kind::Number, "%"}});
-    addTitles(section, "grdFrame21", 17, 102);
+    addTitles(section, u"grdFrame21"_s, 17, 102);
     addList(section, 18,
             {{"Kit", 238}, {"Proteins", 192, Kind::Wrapped}, {"MW (Da)", 86, Kind::Number, "Da"}});
-    addTitles(section, "grdFrame22", 18, 104);
+    addTitles(section, u"grdFrame22"_s, 18, 104);
     addList(section, 21,
             {{"Name", 262, Kind::Wrapped}, {"Final concentration", 172, Kind::Wrapped}, {"Quantity", 82}})
         .showAsRecipes();
-    addTitles(section, "grdFrame24", 21, 107);
-    const auto gel = [](const QString &title) { return ListColumn{title, 70, Kind::Number}; };
-    addList(section, 22,
-            {{"Composition", 166, Kind::Wrapped},
-             gel("5 %"),
-             gel("7.5 %"),
-             gel("10 %"),
-             gel("12.5 %"),
-             gel("15 %")})
-        .showAsRecipes();
-    addTitles(section, "grdFrame25", 22, 110);
+    addTitles(section, u"grdFrame24"_s, 21, 107);
+    QList<ListColumn> gels{{"Composition", 166, Kind::Wrapped}};
+    for (const char *acrylamide : {"5 %", "7.5 %", "10 %", "12.5 %", "15 %"})
+        gels << ListColumn{acrylamide, 70, Kind::Number};
+    addList(section, 22, gels).showAsRecipes();
+    addTitles(section, u"grdFrame25"_s, 22, 110);
     addList(section, 23, {{"Composition", 260}, {"4 %", 120, Kind::Number}}).showAsRecipes();
-    addTitles(section, "grdFrame27", 23, 116);
+    addTitles(section, u"grdFrame27"_s, 23, 116);
     const QList<ListColumn> staining{{"Composition", 306, Kind::Wrapped},
                                      {"Final conc.", 118, Kind::Wrapped},
                                      {"Quantity", 92, Kind::Wrapped}};
     addList(section, 19, staining).showAsRecipes();
     addList(section, 20, staining).showAsRecipes();
-    addTitles(section, "grdFrame23", 19, 118);
+    addTitles(section, u"grdFrame23"_s, 19, 118);
+}
+
+QFrame *BiochemistryPane::makeOptionFrame(const QString &name, const Section &section)
+{
+    auto *frame = Controls::named(new QFrame(this), name);
+    frame->setAutoFillBackground(true);
+    frame->setGeometry(section.options());
+    return frame;
 }
 
 RowListView &BiochemistryPane::addList(const Section &section, int index, const QList<ListColumn> &columns)
@@ -189,17 +168,69 @@ RowListView &BiochemistryPane::addList(const Section &section, int index, const 
 }
 
 // Titles over ListView3(index), in labels that are numbered from @p firstLabel on.
-void BiochemistryPane::addTitles(const Section &section, const char *frame, int index, int firstLabel)
+void BiochemistryPane::addTitles(const Section &section, const QString &frame, int index, int firstLabel)
 {
     const RowListView &list = ListView3[index];
     QList<int> labels(list.columns().size());
     std::iota(labels.begin(), labels.end(), firstLabel);
-    auto *titles = new TitleFrame(QLatin1StringView(frame), this, section.titleHeight);
-    titles->addTitles(list, Label2, labels);
+    m_titles[index] = new TitleFrame(frame, this, section.titleHeight);
+    m_titles[index]->addTitles(list, Label2, labels);
 }
 
-// Of the lists of the pane, only the natural amino acids have pictures. Their numbers begin at 1 like those
-// of the solvents, whose pictures lie in the same folder.
+void BiochemistryPane::applyChoice()
+{
+    showBiomolecules(TabStrip9->currentIndex() + 1);
+    showSdsPage(TabStrip8->currentIndex() + 1);
+}
+
+void BiochemistryPane::showBiomolecules(int tab)
+{
+    const bool synthetic = Option5[1].isChecked();
+    const bool purines = Option5[3].isChecked();
+    ListView3[9].setVisible(!synthetic); // the amino acids stay on beneath the other tabs
+    ListView3[10].setVisible(synthetic);
+    m_titles[10]->setVisible(tab == 1 && synthetic); // above the titles of the natural ones
+    ListView3[11].setVisible(tab == 2 && !purines);
+    ListView3[13].setVisible(tab == 2 && purines);
+    m_titles[11]->setVisible(tab == 2);
+    grdFrame15->setVisible(tab == 2);
+    ListView3[14].setVisible(tab == 3);
+    m_titles[14]->setVisible(tab == 3);
+    ListView3[12].setVisible(tab == 4);
+    m_titles[12]->setVisible(tab == 4);
+    if (tab != 2) { // there grdFrame15 covers them
+        Option5[0].setVisible(tab == 1);
+        Option5[1].setVisible(tab == 1);
+    }
+}
+
+void BiochemistryPane::showSdsPage(int tab)
+{
+    constexpr std::array OneListTabs{17, 18, 21};
+    for (int index = 0; index < int(OneListTabs.size()); ++index) {
+        const int list = OneListTabs[size_t(index)];
+        ListView3[list].setVisible(tab == index + 1);
+        m_titles[list]->setVisible(tab == index + 1);
+    }
+    const bool gels = tab == 4;
+    const bool stacking = Option4[9].isChecked();
+    ListView3[22].setVisible(gels && !stacking);
+    m_titles[22]->setVisible(gels);
+    ListView3[23].setVisible(gels && stacking);
+    m_titles[23]->setVisible(gels && stacking); // above the titles of the resolving gels
+    grdFrame26->setVisible(gels);
+
+    const bool stains = tab == 5;
+    const bool silver = Option4[6].isChecked();
+    ListView3[19].setVisible(stains && !silver);
+    ListView3[20].setVisible(stains && silver);
+    m_titles[19]->setVisible(stains);
+
+    for (const auto &[index, option] : Option4)
+        option->setVisible(index <= 7 ? stains : gels);
+}
+
+// Natural amino acids and solvents share the folder of pictures and its numbers from 1.
 void BiochemistryPane::openStructure(int row)
 {
     if (m_module.OptionSlots(Slot::Structures).equals(1))

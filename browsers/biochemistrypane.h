@@ -19,6 +19,7 @@ public:
 
 protected:
     void buildContents() override;
+    void applyChoice() override;
 
 private:
     struct Section;
@@ -26,14 +27,22 @@ private:
     void buildBiomolecules();
     void buildSdsPage();
     RowListView &addList(const Section &section, int index, const QList<ListColumn> &columns);
-    void addTitles(const Section &section, const char *frame, int index, int firstLabel);
+    void addTitles(const Section &section, const QString &frame, int index, int firstLabel);
+    QFrame *makeOptionFrame(const QString &name, const Section &section);
+    void showBiomolecules(int tab);
+    void showSdsPage(int tab);
     void openStructure(int row);
 
     Module1 &m_module;
     DataStore &m_store;
     Desktop &m_desktop;
     GeneticCodeSection *m_code = nullptr;
+    QTabBar *TabStrip8 = nullptr;
+    QTabBar *TabStrip9 = nullptr;
+    QFrame *grdFrame15 = nullptr;
+    QFrame *grdFrame26 = nullptr;
     ControlArray<RowListView> ListView3{"ListView3"};
+    std::map<int, TitleFrame *> m_titles; ///< by the index of their list
     ControlArray<QRadioButton> Option4{"Option4"};
     ControlArray<QRadioButton> Option5{"Option5"};
     ControlArray<QLabel> Label2{"Label2"};

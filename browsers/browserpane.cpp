@@ -1,14 +1,12 @@
 #include "browsers/browserpane.h"
 
 #include "widgets/typeahead.h"
-#include "widgets/windowunits.h"
 
 #include <QButtonGroup>
-#include <QLabel>
 
 namespace {
 
-// Of the options of one choice Tab leads to the one that is on; from there the arrow keys go on.
+// Tab reaches the option that is on; the arrow keys go on from there.
 constexpr Qt::FocusPolicy NotByTab = Qt::ClickFocus;
 
 } // namespace
@@ -22,7 +20,7 @@ RowListView *BrowserPane::makeList(const QString &name, RowList &list, const QLi
 }
 
 QTabBar *BrowserPane::makeTabs(const QString &name, const QStringList &captions, const QRect &place,
-                               const std::function<void(int)> &handler, QWidget *parent)
+                               QWidget *parent)
 {
     auto *tabs = Controls::named(new QTabBar(parent), name);
     tabs->setExpanding(false);
@@ -31,7 +29,6 @@ QTabBar *BrowserPane::makeTabs(const QString &name, const QStringList &captions,
     tabs->setGeometry(place);
     tabs->setFocusPolicy(Qt::StrongFocus); // also by a click
     TypeAhead::install(*tabs);
-    connect(tabs, &QTabBar::currentChanged, this, [handler](int index) { handler(index + 1); });
     return tabs;
 }
 
@@ -48,49 +45,25 @@ void BrowserPane::placeOptions(const QList<QRadioButton *> &options, const QPoin
     }
     options.constFirst()->setChecked(true);
     options.constFirst()->setFocusPolicy(Qt::StrongFocus);
+    connect(group, &QButtonGroup::buttonClicked, this, &BrowserPane::showChoice);
 }
 
-void BrowserPane::apply(const Effects &effects)
+void BrowserPane::addOptions(ControlArray<QRadioButton> &array, const QList<QPair<int, QString>> &captions,
+                             const QPoint &place, QWidget *parent)
 {
-    for (const Effect &effect : effects) {
-        if (!holds(effect))
-            continue;
-        for (const QString &name : effect.hidden)
-            control(name).hide();
-        for (const QString &name : effect.shown)
-            control(name).show();
-        for (const auto &[name, top] : effect.tops)
-            control(name).move(control(name).x(), WindowUnits::pixels(top));
-        for (const auto &[name, caption] : effect.captions)
-            qobject_cast<QLabel *>(&control(name))->setText(caption);
-    }
+    QList<QRadioButton *> options;
+    for (const auto &[index, caption] : captions)
+        options << &array.add(index, new QRadioButton(caption, parent));
+    placeOptions(options, place);
+}
+
+void BrowserPane::showChoice()
+{
+    applyChoice();
     keepFocusOffCoveredControls();
 }
 
-void BrowserPane::apply(const EffectTable &table, int number)
-{
-    const auto found = table.find(number);
-    if (found != table.end())
-        apply(found->second);
-}
-
-bool BrowserPane::holds(const Effect &effect)
-{
-    const auto isOn = [this](const QString &option) {
-        return qobject_cast<QRadioButton *>(&control(option))->isChecked();
-    };
-    return (effect.ifOn.isEmpty() || isOn(effect.ifOn)) && (effect.ifOff.isEmpty() || !isOn(effect.ifOff));
-}
-
-QWidget &BrowserPane::control(const QString &name)
-{
-    QWidget *&found = m_controls[name];
-    if (!found)
-        found = findChild<QWidget *>(name);
-    Q_ASSERT_X(found, "BrowserPane", qPrintable(name));
-    return *found;
-}
-
+// Covered controls are still on, so Tab would reach them.
 void BrowserPane::keepFocusOffCoveredControls()
 {
     const auto set = [this](QWidget *each, Qt::FocusPolicy policy) {

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "browsers/effects.h"
 #include "widgets/controlarray.h"
 #include "widgets/modulepanel.h"
 #include "widgets/rowlistview.h"
 #include "widgets/titleframe.h"
 
-#include <QHash>
 #include <QRadioButton>
 #include <QTabBar>
 
 class RowList;
 
-/// What the panes with lists share: lists and titles made by name, and the handlers that switch among them.
+/// What the panes with lists share: how they make lists, tabs and option buttons, and how these choose among
+/// the lists.
 class BrowserPane : public ModulePanel
 {
     Q_OBJECT
@@ -24,25 +23,22 @@ protected:
     RowListView *makeList(const QString &name, RowList &list, const QList<ListColumn> &columns,
                           const QRect &place, QWidget *parent);
 
-    /// The tab strip @p name with the given captions; each change runs @p handler with the tab's number
-    /// from 1.
-    QTabBar *makeTabs(const QString &name, const QStringList &captions, const QRect &place,
-                      const std::function<void(int)> &handler, QWidget *parent);
+    QTabBar *makeTabs(const QString &name, const QStringList &captions, const QRect &place, QWidget *parent);
 
-    /// Makes @p options one choice, of which the first is on, in a row from @p place on.
+    /// Makes @p options one choice, side by side from @p place on. The first is on.
     void placeOptions(const QList<QRadioButton *> &options, const QPoint &place);
 
-    /// Carries out @p effects. What other controls cover then takes no part in the Tab order, for it is still
-    /// on.
-    void apply(const Effects &effects);
+    /// The same with new options of @p array, by index and caption.
+    void addOptions(ControlArray<QRadioButton> &array, const QList<QPair<int, QString>> &captions,
+                    const QPoint &place, QWidget *parent);
 
-    /// The same with the entry of @p table for @p number, if there is one.
-    void apply(const EffectTable &table, int number);
+    /// Shows the lists and titles that the tabs and options choose. Runs by itself when an option is clicked;
+    /// a pane connects its tabs to it, and calls it once when the controls are there.
+    void showChoice();
+
+    /// What showChoice() shows and hides, by each control's own setting. A list may stay on beneath another.
+    virtual void applyChoice() = 0;
 
 private:
-    bool holds(const Effect &effect);
-    QWidget &control(const QString &name);
     void keepFocusOffCoveredControls();
-
-    QHash<QString, QWidget *> m_controls;
 };

@@ -2,8 +2,7 @@
 
 std::optional<QString> GeneticCode::aminoAcid(const Table &table, const QString &codon)
 {
-    // Column 5 is the last one searched, with the name in column 0 among them, which never equals a codon.
-    constexpr int LastColumnSearched = 5;
+    constexpr int LastColumnSearched = 5; // the name in column 0 never equals a codon
     std::optional<QString> found;
     for (int row = 0; row < Table::rowCount(); ++row) {
         for (int column = 0; column <= LastColumnSearched; ++column) {

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <optional>
 
-/// The look-up of the genetic code in both directions, in a table of names and up to six codons each.
+/// Look-up of the genetic code in both directions. The table has a name and up to six codons in each row.
 namespace GeneticCode {
 
 using Table = decltype(MemoryTables::GeneticCodeData);
@@ -13,9 +13,9 @@ using Table = decltype(MemoryTables::GeneticCodeData);
 inline constexpr int LetterCount = 3;
 inline constexpr int CodonCount = 6;
 
-/// Name of the amino acid that has @p codon, compared exactly. If several rows have it, the last one counts.
+/// Name of the amino acid with @p codon, compared exactly; the last row of several.
 ///
-/// The sixth codon of a row is not looked at: a codon that stands there alone has no name.
+/// The sixth codon of a row is not searched: a codon that is only there has no name.
 std::optional<QString> aminoAcid(const Table &table, const QString &codon);
 
 /// The six codon cells of @p row, from 0; cells without a codon are empty. RuntimeError 9 outside the table.

@@ -4,9 +4,11 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 GeneticCodeChart::GeneticCodeChart(QWidget *parent) : QWidget(parent)
 {
-    setAccessibleName(QStringLiteral("Table of the standard genetic code"));
+    setAccessibleName(u"Table of the standard genetic code"_s);
 }
 
 void GeneticCodeChart::paintEvent(QPaintEvent *)
@@ -16,7 +18,7 @@ void GeneticCodeChart::paintEvent(QPaintEvent *)
     QColor boxLine = colours.color(QPalette::WindowText);
     boxLine.setAlphaF(0.6F);
     const auto background = [&](const QString &name) {
-        return colours.color(name == QLatin1StringView("Stop") ? QPalette::AlternateBase : QPalette::Base);
+        return colours.color(name == u"Stop"_s ? QPalette::AlternateBase : QPalette::Base);
     };
     QPainter painter(this);
     painter.translate(0.5, 0.5);

@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Letters = 4;
@@ -43,7 +45,7 @@ void GeneticCodePainter::paint(QPainter &painter) const
     }
 }
 
-// A place that begins at @p line of sixteen, in @p column of four, @p height lines high.
+// At @p line of sixteen and @p column of four, @p height lines high.
 QRectF GeneticCodePainter::cell(double line, int column, double height) const
 {
     const double columnWidth = (m_area.width() - 2 * m_look.margin) / Letters;
@@ -96,7 +98,7 @@ void GeneticCodePainter::paintField(QPainter &painter, const QRectF &field, cons
     const QString name = nameOf(codon);
     painter.fillRect(field, m_look.background(name));
     QFont font = m_look.font;
-    font.setBold(m_look.showsCodons && codon == QLatin1StringView("AUG"));
+    font.setBold(m_look.showsCodons && codon == u"AUG"_s);
     painter.setFont(font);
     painter.setPen(m_look.names);
     if (m_look.showsCodons) {

@@ -10,10 +10,13 @@
 #include <QApplication>
 #include <QGridLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Columns = 3; // of the fields beside the chart
 constexpr int ColumnWidth = 62;
+constexpr std::array LabelOfLetter{0, 2, 1}; // index of `Label18`
 
 } // namespace
 
@@ -22,48 +25,40 @@ GeneticCodeSection::GeneticCodeSection(DataStore &store, Desktop &desktop, QWidg
 {
     buildControls();
     placeControls();
-    connect(&Option3[0], &QRadioButton::clicked, this, &GeneticCodeSection::searchByLetters);
-    connect(&Option3[1], &QRadioButton::clicked, this, &GeneticCodeSection::searchByAminoAcid);
-    // A choice by hand counts even if it is the same entry again.
-    Combo2.connectEach(&QComboBox::activated, this, [this](int) { showAminoAcid(); });
-    Combo2.connectEach(&QComboBox::currentIndexChanged, this, [this](int) { showAminoAcid(); });
-    connect(Comb2, &QComboBox::activated, this, &GeneticCodeSection::showCodons);
-    connect(Comb2, &QComboBox::currentIndexChanged, this, &GeneticCodeSection::showCodons);
-    // Tab stops at both, for the fields of the one come between them. Focus on either takes the other out of
-    // the Tab order.
+    Option3.connectEach(&QRadioButton::clicked, this, [this](int) { chooseDirection(); });
+    Combo2.connectEach(&DropDown::chosen, this, [this](int) { showAminoAcid(); });
+    connect(Comb2, &DropDown::chosen, this, &GeneticCodeSection::showCodons);
+    // Tab stops at both options: the fields of the first are between them. Qt takes the other option out of
+    // the Tab order whenever one gets the focus.
     connect(qApp, &QApplication::focusChanged, this, [this] {
         for (const auto &[index, option] : Option3)
             option->setFocusPolicy(Qt::StrongFocus);
     });
     Option3[0].setChecked(true);
-    searchByLetters();
+    chooseDirection();
 }
 
 void GeneticCodeSection::buildControls()
 {
-    Option3.add(0, new QRadioButton(QStringLiteral("Research by codon letters :"), this));
-    Label18.add(0, new QLabel(QStringLiteral("Letter 1 :"), this));
-    Label18.add(2, new QLabel(QStringLiteral("Letter 2 :"), this));
-    Label18.add(1, new QLabel(QStringLiteral("Letter 3 :"), this));
-    for (const int letter : {0, 1, 2}) {
-        Combo2.add(letter, new QComboBox(this)).addItems({"A", "C", "G", "U"});
-        Combo2[letter].setCurrentIndex(-1);
+    Option3.add(0, new QRadioButton(u"Research by codon letters :"_s, this));
+    for (int letter = 0; letter < GeneticCode::LetterCount; ++letter) {
+        auto &combo = Combo2.add(letter, new DropDown({}, this));
+        combo.addItems({"A", "C", "G", "U"});
+        combo.setCurrentIndex(-1);
+        Label18.add(LabelOfLetter[size_t(letter)], new QLabel(u"Letter %1 :"_s.arg(letter + 1), this))
+            .setBuddy(&combo);
     }
-    Label18[0].setBuddy(&Combo2[0]);
-    Label18[2].setBuddy(&Combo2[1]);
-    Label18[1].setBuddy(&Combo2[2]);
-    tbm.add(0, new QLineEdit(this)).setAccessibleName(tr("Amino acid of the codon"));
+    tbm.add(0, new QLineEdit(this)).setAccessibleName(u"Amino acid of the codon"_s);
 
     m_note = new QLabel(this);
     m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
-    Option3.add(1, new QRadioButton(QStringLiteral("Research by amino acid :"), this));
-    Comb2 = Controls::named(new QComboBox(this), QStringLiteral("Comb2"));
-    Comb2->setAccessibleName(tr("Amino acid"));
-    Comb2->setModel(new RowListModel(m_store.lists.Comb2, {{tr("Amino acid"), 120}}, Comb2));
-    Comb2->setCurrentIndex(-1);
+    Option3.add(1, new QRadioButton(u"Research by amino acid :"_s, this));
+    Comb2 = new DropDown(u"Comb2"_s, this);
+    Comb2->setAccessibleName(u"Amino acid"_s);
+    Comb2->showRows(new RowListModel(m_store.lists.Comb2, {{u"Amino acid"_s, 120}}, Comb2));
     for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
-        tbm.add(codon, new QLineEdit(this)).setAccessibleName(tr("Codon %1").arg(codon));
+        tbm.add(codon, new QLineEdit(this)).setAccessibleName(u"Codon %1"_s.arg(codon));
     for (const auto &[index, box] : tbm)
         box->setReadOnly(true);
 }
@@ -73,15 +68,14 @@ void GeneticCodeSection::placeControls()
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(4);
-    QLabel *heading = Controls::heading(QStringLiteral("Label17(1)"), QStringLiteral("Genetic code"), this);
+    QLabel *heading = Controls::heading(u"Label17(1)"_s, u"Genetic code"_s, this);
     grid->addWidget(heading, 0, 0, 1, Columns);
     grid->setRowMinimumHeight(0, 22);
     grid->addWidget(&Option3[0], 1, 0, 1, Columns);
-    int column = 0;
-    for (const int label : {0, 2, 1})
-        grid->addWidget(&Label18[label], 2, column++);
-    for (const auto &[letter, combo] : Combo2)
-        grid->addWidget(combo, 3, letter);
+    for (int letter = 0; letter < GeneticCode::LetterCount; ++letter) {
+        grid->addWidget(&Label18[LabelOfLetter[size_t(letter)]], 2, letter);
+        grid->addWidget(&Combo2[letter], 3, letter);
+    }
     grid->addWidget(&tbm[0], 4, 0, 1, Columns);
     grid->addWidget(m_note, 5, 0, 1, Columns);
     grid->setRowMinimumHeight(5, fontMetrics().height());
@@ -90,7 +84,7 @@ void GeneticCodeSection::placeControls()
     for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
         grid->addWidget(&tbm[codon], 8 + (codon - 1) / Columns, (codon - 1) % Columns);
     grid->setRowStretch(10, 1);
-    for (column = 0; column < Columns; ++column)
+    for (int column = 0; column < Columns; ++column)
         grid->setColumnMinimumWidth(column, ColumnWidth);
     for (const auto &[index, box] : tbm) {
         QSizePolicy policy = box->sizePolicy();
@@ -98,48 +92,35 @@ void GeneticCodeSection::placeControls()
         policy.setHorizontalPolicy(QSizePolicy::Ignored);
         box->setSizePolicy(policy);
     }
-    auto *Image8 = Controls::named(new GeneticCodeChart(this), QStringLiteral("Image8"));
+    auto *Image8 = Controls::named(new GeneticCodeChart(this), u"Image8"_s);
     grid->addWidget(Image8, 0, Columns, 11, 1);
     grid->setColumnStretch(Columns, 1);
 }
 
-void GeneticCodeSection::searchByLetters()
+// The fields of the other direction are disabled or hidden, and empty.
+void GeneticCodeSection::chooseDirection()
 {
-    for (const auto &[letter, combo] : Combo2)
-        combo->setEnabled(true);
-    Comb2->setCurrentIndex(-1);
-    Comb2->setEnabled(false);
-    tbm[0].show();
-    for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon) {
-        tbm[codon].hide();
-        tbm[codon].clear();
-    }
-    showLetterLabels(true);
-}
-
-void GeneticCodeSection::searchByAminoAcid()
-{
+    const bool byLetters = Option3[0].isChecked();
     for (const auto &[letter, combo] : Combo2) {
-        combo->setCurrentIndex(-1);
-        combo->setEnabled(false);
+        combo->setEnabled(byLetters);
+        if (!byLetters)
+            combo->setCurrentIndex(-1);
     }
-    tbm[0].hide();
-    tbm[0].clear();
-    showNote({});
-    for (int codon = 1; codon <= GeneticCode::CodonCount; ++codon)
-        tbm[codon].show();
-    Comb2->setEnabled(true);
-    showLetterLabels(false);
-}
-
-// In the colour of a caption, or in the grey of a disabled one.
-void GeneticCodeSection::showLetterLabels(bool active)
-{
     for (const auto &[index, label] : Label18)
-        label->setEnabled(active);
+        label->setEnabled(byLetters);
+    Comb2->setEnabled(!byLetters);
+    if (byLetters)
+        Comb2->setCurrentIndex(-1);
+    else
+        showNote({});
+    for (const auto &[index, box] : tbm) {
+        box->setVisible(byLetters == (index == 0));
+        if (box->isHidden())
+            box->clear();
+    }
 }
 
-// A codon that is not found leaves the last name where it is, but greyed and with a note: it is not its name.
+// An unknown codon leaves the last name in place, greyed and with a note: it is not its name.
 void GeneticCodeSection::showAminoAcid()
 {
     const QString codon = Combo2[0].currentText() + Combo2[1].currentText() + Combo2[2].currentText();
@@ -148,7 +129,7 @@ void GeneticCodeSection::showAminoAcid()
     const auto name = GeneticCode::aminoAcid(m_store.tables.GeneticCodeData, codon);
     if (name)
         tbm[0].setText(*name);
-    showNote(name ? QString() : QStringLiteral("%1: not found by its letters").arg(codon));
+    showNote(name ? QString() : u"%1: not found by its letters"_s.arg(codon));
 }
 
 void GeneticCodeSection::showNote(const QString &note)

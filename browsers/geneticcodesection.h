@@ -1,8 +1,8 @@
 #pragma once
 
 #include "widgets/controlarray.h"
+#include "widgets/dropdown.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -13,7 +13,7 @@ struct TableRow;
 
 /// The section "Genetic code": from three letters to the amino acid, and from the amino acid to its codons.
 ///
-/// One direction at a time: the fields of the other one are hidden or disabled, and empty.
+/// One direction at a time, by the option.
 class GeneticCodeSection final : public QWidget
 {
     Q_OBJECT
@@ -27,9 +27,7 @@ public:
 private:
     void buildControls();
     void placeControls();
-    void searchByLetters();
-    void searchByAminoAcid();
-    void showLetterLabels(bool active);
+    void chooseDirection();
     void showAminoAcid();
     void showNote(const QString &note);
     void showCodons();
@@ -37,9 +35,9 @@ private:
     DataStore &m_store;
     Desktop &m_desktop;
     ControlArray<QRadioButton> Option3{"Option3"};
-    ControlArray<QComboBox> Combo2{"Combo2"}; ///< letters 1 to 3 of the codon
+    ControlArray<DropDown> Combo2{"Combo2"}; ///< letters 1 to 3 of the codon
     ControlArray<QLabel> Label18{"Label18"};
-    QComboBox *Comb2;
+    DropDown *Comb2;
     QLabel *m_note;
     ControlArray<QLineEdit> tbm{"tbm"}; ///< 0 the amino acid, 1 to 6 its codons
 };

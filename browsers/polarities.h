@@ -9,8 +9,7 @@ struct Polarity
     const char *examples;
 };
 
-/// From non polar to polar; only water is more polar than the last. The pane and the report's picture show
-/// them.
+/// From non polar to polar; only water is more polar than the last. For the pane and the report's picture.
 inline constexpr std::array Polarities{
     Polarity{"Alkanes", "Petroleum ether, Hexane"},
     Polarity{"Aromatics", "Toluene, benzene"},

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int FirstGroup = 3; // Label10(3) to Label10(12), the examples follow
@@ -16,7 +18,7 @@ constexpr int ArrowWidth = 12;
 
 PolarityLadder::PolarityLadder(QWidget *parent) : QFrame(parent)
 {
-    setObjectName(QStringLiteral("framepola"));
+    setObjectName(u"framepola"_s);
     setFrameShape(StyledPanel);
     setAutoFillBackground(true);
 
@@ -31,18 +33,18 @@ PolarityLadder::PolarityLadder(QWidget *parent) : QFrame(parent)
         grid->addWidget(label, row, column, 1, column == 0 ? 3 : 1);
     };
     int row = 0;
-    place(2, QStringLiteral("Relative polarities"), row++, 0, true);
-    place(27, QStringLiteral("Group"), row, 1, true);
-    place(26, QStringLiteral("Example"), row++, 2, true);
-    place(0, QStringLiteral("Non polar"), row++, 0);
+    place(2, u"Relative polarities"_s, row++, 0, true);
+    place(27, u"Group"_s, row, 1, true);
+    place(26, u"Example"_s, row++, 2, true);
+    place(0, u"Non polar"_s, row++, 0);
     for (int rung = 0; rung < int(Polarities.size()); ++rung, ++row) {
         place(FirstGroup + rung, Polarities[size_t(rung)].group, row, 1);
         place(FirstExample + rung, Polarities[size_t(rung)].examples, row, 2);
     }
-    Label13 = Controls::label(QStringLiteral("Label13"), QStringLiteral("Water"), this);
+    Label13 = Controls::label(u"Label13"_s, u"Water"_s, this);
     grid->addWidget(Label13, row, 1);
-    place(24, QStringLiteral("Water"), row++, 2);
-    place(1, QStringLiteral("Polar"), row++, 0);
+    place(24, u"Water"_s, row++, 2);
+    place(1, u"Polar"_s, row++, 0);
 }
 
 void PolarityLadder::paintEvent(QPaintEvent *event)

@@ -5,8 +5,7 @@
 #include <QFrame>
 #include <QLabel>
 
-/// `framepola`: the classes of solvents in the order of their polarity, each beside examples, from non polar
-/// at the top to water at the bottom.
+/// `framepola`: the classes of solvents by polarity, with examples, from non polar at the top to water.
 class PolarityLadder final : public QFrame
 {
     Q_OBJECT

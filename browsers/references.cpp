@@ -2,11 +2,13 @@
 
 #include "core/buildsettings.h"
 
+using namespace Qt::StringLiterals;
+
 using Kind = References::Entry::Kind;
 
 namespace {
 
-// Drawn by this program, and so is their page.
+// A page of our own.
 constexpr const char *InfraredCharts = "/vcorr.htm";
 
 } // namespace
@@ -85,5 +87,5 @@ const QList<References::Entry> &References::page()
 
 QString References::donationPage()
 {
-    return QLatin1StringView(BuildSettings::WebSite) + QStringLiteral("/uk/don.php");
+    return QLatin1StringView(BuildSettings::WebSite) + u"/uk/don.php"_s;
 }

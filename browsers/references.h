@@ -3,7 +3,7 @@
 #include <QList>
 #include <QString>
 
-/// The page of the sources that the tables rest on.
+/// The page of the sources of the tables.
 namespace References {
 
 struct Entry
@@ -13,9 +13,8 @@ struct Entry
     int index; ///< of the label, `Label1(index)`
     Kind kind;
     QString text;
-    QString target =
-        {}; ///< of a link: the address that it opens; one that begins with "/" is in the program folder
-    int bullet = 0; ///< of a link: index of the label with the hyphen before it
+    QString target = {}; ///< of a link: its address; one with "/" in front is a file of the program folder
+    int bullet = 0;      ///< of a link: index of the label with the hyphen before it
 };
 
 /// In the order of the page, each heading before its sources.

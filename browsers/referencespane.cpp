@@ -6,6 +6,8 @@
 
 #include <QList>
 
+using namespace Qt::StringLiterals;
+
 using Kind = References::Entry::Kind;
 
 ReferencesPane::ReferencesPane(const Module1 &module1, Desktop &desktop, QWidget *parent)
@@ -39,7 +41,7 @@ void ReferencesPane::buildContents()
         label->setGeometry(left + indent, top, entry.kind == Kind::Link ? width : ColumnWidth,
                            label->heightForWidth(width));
         if (entry.kind == Kind::Link) {
-            QLabel *bullet = Controls::label({}, QStringLiteral("-"), this);
+            QLabel *bullet = Controls::label({}, u"-"_s, this);
             Label1.add(entry.bullet, bullet).move(left, top);
         }
         top += label->height() + LineGap;
@@ -58,7 +60,7 @@ QLabel *ReferencesPane::makeLabel(const References::Entry &entry)
 
 LinkLabel *ReferencesPane::makeLink(const References::Entry &entry)
 {
-    const bool inFolder = entry.target.startsWith(QLatin1Char('/'));
+    const bool inFolder = entry.target.startsWith(u'/');
     auto *link = new LinkLabel(entry.text,
                                inFolder ? m_module1.shippedFile(entry.target.sliced(1)) : entry.target, this);
     connect(link, &LinkLabel::clicked, this, [this](const QString &target) { m_desktop.openTarget(target); });

@@ -10,8 +10,7 @@ class Desktop;
 class LinkLabel;
 struct Module1;
 
-/// `frmbiblio`: the sources of the data by subject, some of them links. Their texts can be selected and
-/// copied.
+/// `frmbiblio`: the sources of the data by subject, some of them links. Texts can be selected and copied.
 class ReferencesPane final : public ModulePanel
 {
     Q_OBJECT

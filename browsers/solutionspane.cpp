@@ -1,8 +1,9 @@
 #include "browsers/solutionspane.h"
 
-#include "browsers/paneeffects.h"
 #include "core/symboltext.h"
 #include "store/datastore.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ constexpr QPoint BottomRight{484, 274};
 // Inside a block, logical pixels.
 constexpr int TabsHeight = 28;
 constexpr int HeadingWidth = 142;
-constexpr int OptionsTop = 33;
+constexpr QPoint OptionsPlace{6, 33};
 constexpr int TitlesBelowOptions = 56;
 constexpr int TitlesInPlaceOfOptions = 42;
 
@@ -34,13 +35,7 @@ void SolutionsPane::buildContents()
     buildConstants();
     buildIndicators();
     buildFluorochromes();
-    Option4.connectEach(&QRadioButton::clicked, this,
-                        [this](int index) { apply(PaneEffects::Option4(), index); });
-    for (const int first : {0, 2, 4})
-        apply(PaneEffects::Option4(), first);
-    apply(PaneEffects::TabStrip2(), 1);
-    apply(PaneEffects::TabStrip10(), 1);
-    apply(PaneEffects::TabStrip7(), 1);
+    showChoice();
 }
 
 QWidget *SolutionsPane::makeBlock(const QPoint &place, const QString &headingName, const QString &heading)
@@ -52,6 +47,14 @@ QWidget *SolutionsPane::makeBlock(const QPoint &place, const QString &headingNam
     return block;
 }
 
+QTabBar *SolutionsPane::addTabs(const QString &name, const QStringList &captions, QWidget *block)
+{
+    QTabBar *tabs =
+        makeTabs(name, captions, {HeadingWidth, 0, BlockSize.width() - HeadingWidth, TabsHeight}, block);
+    connect(tabs, &QTabBar::currentChanged, this, &SolutionsPane::showChoice);
+    return tabs;
+}
+
 RowListView &SolutionsPane::addList(int index, const QList<ListColumn> &columns, int titleTop, QWidget *block)
 {
     const int top = titleTop + TitleFrame::OneLine;
@@ -59,92 +62,98 @@ RowListView &SolutionsPane::addList(int index, const QList<ListColumn> &columns,
     return ListView3.add(index, makeList({}, m_store.lists.ListView3[index], columns, place, block));
 }
 
-void SolutionsPane::addOptions(const QList<QPair<int, QString>> &captions, QWidget *block)
+TitleFrame *SolutionsPane::addTitles(const QString &name, const RowListView &list, const QList<int> &labels)
 {
-    QList<QRadioButton *> options;
-    for (const auto &[index, caption] : captions)
-        options << &Option4.add(index, new QRadioButton(caption, block));
-    placeOptions(options, {6, OptionsTop});
+    auto *titles = new TitleFrame(name, list.parentWidget(), TitleFrame::OneLine);
+    titles->addTitles(list, Label2, labels);
+    return titles;
 }
 
 void SolutionsPane::buildCouples()
 {
-    QWidget *block = makeBlock(TopLeft, QStringLiteral("Label3"), QStringLiteral("Couples"));
-    makeTabs(
-        QStringLiteral("TabStrip2"), {"Acid/Base", "RedOx"},
-        {HeadingWidth, 0, BlockSize.width() - HeadingWidth, TabsHeight},
-        [this](int number) { apply(PaneEffects::TabStrip2(), number); }, block);
-    addOptions({{0, "Inorganic"}, {1, "Organic"}}, block);
+    QWidget *block = makeBlock(TopLeft, u"Label3"_s, u"Couples"_s);
+    TabStrip2 = addTabs(u"TabStrip2"_s, {"Acid/Base", "RedOx"}, block);
+    addOptions(Option4, {{0, "Inorganic"}, {1, "Organic"}}, OptionsPlace, block);
 
     const QList<ListColumn> acids{{"Acid/Base", 136, Kind::Wrapped}, {"Formula", 118, Kind::Wrapped},
                                   {"pKa1", 50, Kind::Number},        {"pKa2", 50, Kind::Number},
                                   {"pKa3", 50, Kind::Number},        {"pKa4", 50, Kind::Number}};
-    auto *grdFrame8 = new TitleFrame(QStringLiteral("grdFrame8"), block, TitleFrame::OneLine);
-    grdFrame8->addTitles(addList(2, acids, TitlesBelowOptions, block), Label2, {46, 47, 48, 49, 50, 51});
+    addTitles(u"grdFrame8"_s, addList(2, acids, TitlesBelowOptions, block), {46, 47, 48, 49, 50, 51});
     addList(3, acids, TitlesBelowOptions, block);
-
-    auto &redox =
-        addList(4, {{"Reaction", 348}, {"E° (V)", 100, Kind::Number}}, TitlesInPlaceOfOptions, block);
-    auto *grdFrame4 = new TitleFrame(QStringLiteral("grdFrame4"), block, TitleFrame::OneLine);
-    grdFrame4->addTitles(redox, Label2, {52, 53});
+    addList(4, {{"Reaction", 348}, {"E° (V)", 100, Kind::Number}}, TitlesInPlaceOfOptions, block);
+    grdFrame4 = addTitles(u"grdFrame4"_s, ListView3[4], {52, 53});
 }
 
 void SolutionsPane::buildConstants()
 {
-    QWidget *block = makeBlock(TopRight, QStringLiteral("Label4"), QStringLiteral("Constants"));
-    makeTabs(
-        QStringLiteral("TabStrip10"), {"Solubility of salts", "Formation of complexes"},
-        {HeadingWidth, 0, BlockSize.width() - HeadingWidth, TabsHeight},
-        [this](int number) { apply(PaneEffects::TabStrip10(), number); }, block);
-
-    auto &salts = addList(24, {{"Name", 248}, {"Formula", 126}, {"Ks", 74}}, TitlesInPlaceOfOptions, block);
-    auto *grdFrame29 = new TitleFrame(QStringLiteral("grdFrame29"), block, TitleFrame::OneLine);
-    grdFrame29->addTitles(salts, Label2, {54, 55, 56});
-
-    auto &complexes = addList(25, {{"Equilibrium", 348}, {"Kf", 100}}, TitlesInPlaceOfOptions, block);
-    auto *grdFrame28 = new TitleFrame(QStringLiteral("grdFrame28"), block, TitleFrame::OneLine);
-    grdFrame28->addTitles(complexes, Label2, {57, 58});
+    QWidget *block = makeBlock(TopRight, u"Label4"_s, u"Constants"_s);
+    TabStrip10 = addTabs(u"TabStrip10"_s, {"Solubility of salts", "Formation of complexes"}, block);
+    addList(24, {{"Name", 248}, {"Formula", 126}, {"Ks", 74}}, TitlesInPlaceOfOptions, block);
+    grdFrame29 = addTitles(u"grdFrame29"_s, ListView3[24], {54, 55, 56});
+    addList(25, {{"Equilibrium", 348}, {"Kf", 100}}, TitlesInPlaceOfOptions, block);
+    grdFrame28 = addTitles(u"grdFrame28"_s, ListView3[25], {57, 58});
 }
 
 void SolutionsPane::buildIndicators()
 {
-    QWidget *block = makeBlock(BottomLeft, QStringLiteral("Label14"), QStringLiteral("Colored indicators"));
-    makeTabs(
-        QStringLiteral("TabStrip7"), {"Acid/Base", "Fluorescence"},
-        {HeadingWidth, 0, BlockSize.width() - HeadingWidth, TabsHeight},
-        [this](int number) { apply(PaneEffects::TabStrip7(), number); }, block);
-    addOptions({{2, "Merck"}, {3, "Riedel-deHaën"}}, block);
+    QWidget *block = makeBlock(BottomLeft, u"Label14"_s, u"Colored indicators"_s);
+    TabStrip7 = addTabs(u"TabStrip7"_s, {"Acid/Base", "Fluorescence"}, block);
+    addOptions(Option4, {{2, "Merck"}, {3, "Riedel-deHaën"}}, OptionsPlace, block);
 
     const QList<ListColumn> columns{{"Name", 196, Kind::Wrapped}, {"pH", 84}, {"Colors", 168}};
-    auto &first = addList(0, columns, TitlesBelowOptions, block);
+    addList(0, columns, TitlesBelowOptions, block);
     addList(1, columns, TitlesBelowOptions, block);
     addList(6, columns, TitlesInPlaceOfOptions, block);
-    auto *grdFrame1 = new TitleFrame(QStringLiteral("grdFrame1"), block, TitleFrame::OneLine);
-    grdFrame1->addTitles(first, Label2, {59, 60, 40});
+    grdFrame1 = addTitles(u"grdFrame1"_s, ListView3[0], {59, 60, 40});
 }
 
 void SolutionsPane::buildFluorochromes()
 {
-    QWidget *block = makeBlock(BottomRight, QStringLiteral("Label12"), QStringLiteral("Fluorochroms"));
-    addOptions({{4, "Carl-Zeiss"}, {5, "Olympus"}}, block);
+    QWidget *block = makeBlock(BottomRight, u"Label12"_s, u"Fluorochroms"_s);
+    addOptions(Option4, {{4, "Carl-Zeiss"}, {5, "Olympus"}}, OptionsPlace, block);
 
     const QList<ListColumn> columns{
         {"Name", 258}, {"ex (nm)", 95, Kind::Number}, {"em (nm)", 95, Kind::Number}};
-    auto &first = addList(7, columns, TitlesBelowOptions, block);
+    addTitles(u"grdFrame9"_s, addList(7, columns, TitlesBelowOptions, block), {61, 62, 64});
     addList(8, columns, TitlesBelowOptions, block);
-    auto *grdFrame9 = new TitleFrame(QStringLiteral("grdFrame9"), block, TitleFrame::OneLine);
-    grdFrame9->addTitles(first, Label2, {61, 62, 64});
     addWavelength(63, 62);
     addWavelength(65, 64);
 }
 
-// The letter of the wavelength before the title Label2(title), which makes room for it.
+void SolutionsPane::applyChoice()
+{
+    // The list that each option shows. Red-ox couples and fluorescence cover the lists of their block.
+    constexpr std::array ListOfOption{2, 3, 0, 1, 7, 8};
+    for (const auto &[index, option] : Option4)
+        ListView3[ListOfOption[size_t(index)]].setVisible(option->isChecked());
+
+    const bool redox = TabStrip2->currentIndex() == 1;
+    ListView3[4].setVisible(redox);
+    grdFrame4->setVisible(redox);
+
+    const bool complexes = TabStrip10->currentIndex() == 1;
+    ListView3[24].setVisible(!complexes);
+    grdFrame29->setVisible(!complexes);
+    ListView3[25].setVisible(complexes);
+    grdFrame28->setVisible(complexes);
+
+    const bool fluorescence = TabStrip7->currentIndex() == 1;
+    ListView3[6].setVisible(fluorescence);
+    grdFrame1->move(0, fluorescence ? TitlesInPlaceOfOptions : TitlesBelowOptions);
+    Label2[40].setText(fluorescence ? u"Fluorescence"_s : u"Colors"_s);
+
+    for (const int option : {0, 1})
+        Option4[option].setVisible(!redox);
+    for (const int option : {2, 3})
+        Option4[option].setVisible(!fluorescence);
+}
+
+// Puts the letter of the wavelength before the title Label2(title).
 void SolutionsPane::addWavelength(int index, int title)
 {
     constexpr int Width = 14;
     QLabel &named = Label2[title];
-    auto &letter =
-        Label2.add(index, new QLabel(SymbolText::toUnicode(QStringLiteral("l")), named.parentWidget()));
+    auto &letter = Label2.add(index, new QLabel(SymbolText::toUnicode(u"l"_s), named.parentWidget()));
     const QRect place = named.geometry();
     letter.setGeometry(place.x() + 8, place.y(), Width, place.height());
     letter.setAlignment(named.alignment());

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "browsers/browserpane.h"
-#include "browsers/solventtabs.h"
+
+#include <array>
 
 class Desktop;
 class FindBar;
@@ -18,16 +19,16 @@ class SolventsPane final : public BrowserPane
 public:
     SolventsPane(Module1 &module, DataStore &store, Desktop &desktop, FindBar &findBar, QWidget *parent);
 
-    /// Selects a tab of `TabStrip1`, from 1. Its handler runs if it was not selected already.
+    /// Selects a tab of `TabStrip1`, from 1.
     void selectTab(int number);
 
-    /// Number, from 1, and caption of the tab of `TabStrip1` that is selected.
+    /// Number, from 1, and caption of the selected tab of `TabStrip1`.
     int currentTab() const;
     QString currentTabCaption() const;
 
-    /// Whether the lists that can be searched are on, each by its own setting.
-    bool isListView1Shown() const { return currentTab() == 1; }
-    bool isListView3_26Shown() const { return currentTab() == 4; }
+    /// The two lists that can be searched: whether their tab is selected, on screen or not.
+    bool isListView1Shown() const;
+    bool isListView3_26Shown() const;
 
     /// Null until the pane is built.
     RowListView *ListView1 = nullptr;
@@ -38,6 +39,7 @@ Q_SIGNALS:
 
 protected:
     void buildContents() override;
+    void applyChoice() override;
 
 private:
     void buildProperties();
@@ -45,8 +47,7 @@ private:
     void buildNmr();
     void buildMasses();
     void buildDrying();
-    void changeTab(int number);
-    void chooseNucleus(SolventTabs::Nucleus nucleus);
+    void changeTab();
     void openStructure(int row);
 
     Module1 &m_module;
@@ -55,8 +56,10 @@ private:
     FindBar &m_findBar;
 
     QTabBar *TabStrip1 = nullptr;
+    std::array<QList<QWidget *>, 6> m_contents; ///< by tab, from 0, without the lists of the NMR tab
     QRadioButton *Option1 = nullptr;
     QRadioButton *Option2 = nullptr;
+    RowListView *ListView4 = nullptr;
+    RowListView *ListView5 = nullptr;
     ControlArray<QLabel> Label2{"Label2"};
-    SolventTabs::Nucleus NmrNucleus = SolventTabs::Proton;
 };

@@ -9,12 +9,14 @@
 #include <QLabel>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Margin = 32;
-constexpr int TextWidth = 620; // a line that the eye can follow
+constexpr int TextWidth = 620; // longer lines are hard to follow
 
-/// Heading and paragraphs from the top left of @p pane; what follows stands below them.
+/// Heading and paragraphs at the top left of @p pane. The layout takes more below them.
 QVBoxLayout *layOutText(QWidget *pane, const QString &heading, const QStringList &paragraphs)
 {
     auto *column = new QVBoxLayout(pane);
@@ -42,16 +44,15 @@ DonatePane::DonatePane(Desktop &desktop, QWidget *parent) : ModulePanel("frmdon"
 void DonatePane::buildContents()
 {
     QVBoxLayout *column = layOutText(
-        this, tr("Donate"),
-        {tr("Alembra is free software. If it saves you a walk to the library now and then, a donation helps "
-            "to "
-            "keep its tables growing and its web site open."),
-         tr("A click on either picture opens the donation page in your browser. The program itself neither "
-            "asks for nor sends anything.")});
+        this, u"Donate"_s,
+        {u"Alembra is free software. If it saves you a walk to the library now and then, a donation helps "
+         "to keep its tables growing and its web site open."_s,
+         u"A click on either picture opens the donation page in your browser. The program itself neither "
+         "asks for nor sends anything."_s});
     auto *pictures = new QHBoxLayout;
     pictures->setSpacing(24);
-    pictures->addWidget(makePicture(QStringLiteral("Image1"), Icons::named(QStringLiteral("donate"))));
-    pictures->addWidget(makePicture(QStringLiteral("Image2"), Icons::program()));
+    pictures->addWidget(makePicture(u"Image1"_s, Icons::named(u"donate"_s)));
+    pictures->addWidget(makePicture(u"Image2"_s, Icons::program()));
     pictures->addStretch();
     column->addLayout(pictures);
     column->addStretch();
@@ -67,7 +68,7 @@ QWidget *DonatePane::makePicture(const QString &name, const QIcon &icon)
     picture->setAutoRaise(true);
     picture->setCursor(Qt::PointingHandCursor);
     picture->setFocusPolicy(Qt::StrongFocus);
-    picture->setAccessibleName(tr("Open the donation page"));
+    picture->setAccessibleName(u"Open the donation page"_s);
     picture->setToolTip(References::donationPage());
     connect(picture, &QToolButton::clicked, this,
             [this] { m_desktop.openTarget(References::donationPage()); });
@@ -79,9 +80,9 @@ PolymersPane::PolymersPane(QWidget *parent) : ModulePanel("frmpolym", parent)
 
 void PolymersPane::buildContents()
 {
-    layOutText(this, tr("Polymers"),
-               {tr("This version has no tables on polymers. The solvents that dissolve and precipitate them "
-                   "stand on the pane Solvents, the functional groups of their spectra on the pane "
-                   "Spectroscopy.")})
+    layOutText(this, u"Polymers"_s,
+               {u"This version has no tables on polymers. The solvents that dissolve and precipitate them "
+                "are on the pane Solvents, the functional groups of their spectra on the pane "
+                "Spectroscopy."_s})
         ->addStretch();
 }

@@ -21,7 +21,7 @@ private:
     Desktop &m_desktop;
 };
 
-/// `frmpolym`: says that there is nothing on polymers yet.
+/// `frmpolym`: a note that there is nothing on polymers yet.
 class PolymersPane final : public ModulePanel
 {
     Q_OBJECT
