@@ -2,23 +2,40 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyleOptionTab>
+#include <QProxyStyle>
+#include <QStyleOptionViewItem>
 #include <QStylePainter>
 
 namespace {
 
-// Left and right of a caption, logical pixels. Less than the styles' own, for the long captions of the
-// calculators; the least where they would not all be seen.
+// Beside a caption, logical pixels: less than in the styles, for the long captions of the calculators, and
+// the least where not all of them would fit.
 constexpr int CaptionMargin = 7;
 constexpr int LeastCaptionMargin = 3;
 constexpr int DownHeight = 5; // more than the height of the letters
 
 } // namespace
 
+class TabStrip::Style final : public QProxyStyle
+{
+public:
+    explicit Style(TabStrip &strip) : m_strip(strip) { setParent(&strip); }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        return metric == PM_TabBarTabHSpace ? 2 * m_strip.captionMargin()
+                                            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+private:
+    const TabStrip &m_strip;
+};
+
 TabStrip::TabStrip(const QString &name, const QStringList &captions, Direction direction, QWidget *parent)
     : QTabBar(parent)
 {
     setObjectName(name);
+    setStyle(new Style(*this));
     setExpanding(false);
     setFocusPolicy(Qt::StrongFocus);
     if (direction == Down)
@@ -32,21 +49,15 @@ int TabStrip::captionMargin() const
 {
     int room = width();
     for (int index = 0; index < count(); ++index)
-        room -= captionWidth(index);
-    return isDown() ? CaptionMargin : qBound(LeastCaptionMargin, room / (2 * count()), CaptionMargin);
-}
-
-// Without the sign of a mnemonic.
-int TabStrip::captionWidth(int index) const
-{
-    return fontMetrics().horizontalAdvance(tabText(index).remove(QLatin1Char('&')));
+        room -= fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width();
+    return qBound(LeastCaptionMargin, room / (2 * count()), CaptionMargin);
 }
 
 QSize TabStrip::tabSizeHint(int index) const
 {
-    const int caption = captionWidth(index) + 2 * captionMargin();
     if (!isDown())
-        return {caption, QTabBar::tabSizeHint(index).height()};
+        return QTabBar::tabSizeHint(index);
+    const int caption = fontMetrics().horizontalAdvance(tabText(index)) + 2 * CaptionMargin;
     return {qMax(caption, width()), fontMetrics().height() + DownHeight};
 }
 
@@ -68,49 +79,28 @@ void TabStrip::keyPressEvent(QKeyEvent *event)
         setCurrentIndex(qBound(0, currentIndex() + step, count() - 1));
 }
 
-void TabStrip::paintEvent(QPaintEvent *)
+// Lines of a list: the style would turn the captions of such tabs by 90 degrees.
+void TabStrip::paintEvent(QPaintEvent *event)
 {
-    QStylePainter painter(this);
-    if (isDown()) {
-        painter.fillRect(rect(), palette().base());
-        QStyleOptionFrame frame;
-        frame.initFrom(this);
-        frame.lineWidth = 1;
-        frame.state |= QStyle::State_Sunken;
-        painter.drawPrimitive(QStyle::PE_Frame, frame);
-    } else {
-        QStyleOptionTabBarBase base;
-        base.initFrom(this);
-        base.shape = shape();
-        base.tabBarRect = QRect(tabRect(0).topLeft(), tabRect(count() - 1).bottomRight());
-        base.selectedTabRect = tabRect(currentIndex());
-        const int overlap = style()->pixelMetric(QStyle::PM_TabBarBaseOverlap, &base, this);
-        base.rect = QRect(0, height() - overlap, width(), overlap);
-        painter.drawPrimitive(QStyle::PE_FrameTabBarBase, base);
-    }
-    for (int index = 0; index < count(); ++index) {
-        if (index != currentIndex())
-            paintTab(painter, index);
-    }
-    paintTab(painter, currentIndex()); // above its neighbours
-}
-
-void TabStrip::paintTab(QStylePainter &painter, int index)
-{
-    QStyleOptionTab tab;
-    initStyleOption(&tab, index);
-    const bool selected = index == currentIndex();
     if (!isDown())
-        painter.drawControl(QStyle::CE_TabBarTabShape, tab);
-    else if (selected)
-        painter.fillRect(tab.rect.adjusted(1, 1, -1, -1), tab.palette.highlight());
-
-    const Qt::Alignment alignment = isDown() ? Qt::AlignLeft : Qt::AlignHCenter;
-    const QPalette::ColorRole colour = !isDown()  ? QPalette::WindowText
-                                       : selected ? QPalette::HighlightedText
-                                                  : QPalette::Text;
-    const int margin = captionMargin();
-    painter.drawItemText(tab.rect.adjusted(margin, 0, -margin, 0),
-                         alignment | Qt::AlignVCenter | Qt::TextShowMnemonic, tab.palette, isEnabled(),
-                         tab.text, colour);
+        return QTabBar::paintEvent(event);
+    QStylePainter painter(this);
+    painter.fillRect(rect(), palette().base());
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.lineWidth = 1;
+    frame.state |= QStyle::State_Sunken;
+    painter.drawPrimitive(QStyle::PE_Frame, frame);
+    for (int index = 0; index < count(); ++index) {
+        QStyleOptionViewItem line;
+        line.initFrom(this);
+        line.state = QStyle::State_Enabled | QStyle::State_Active;
+        line.state.setFlag(QStyle::State_Selected, index == currentIndex());
+        line.rect = tabRect(index).adjusted(1, 0, -1, 0);
+        line.features = QStyleOptionViewItem::HasDisplay;
+        line.showDecorationSelected = true; // in its whole width
+        line.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+        line.text = tabText(index);
+        painter.drawControl(QStyle::CE_ItemViewItem, line);
+    }
 }

@@ -2,20 +2,16 @@
 
 #include <QTabBar>
 
-class QStylePainter;
-
-/// A tab strip that tells of every click, also of one on the tab that is already selected.
-///
-/// Tabs count from 1 to the outside, as everywhere in the system.
+/// A tab strip that reports every click, even on the selected tab. Tabs count from 1.
 class TabStrip final : public QTabBar
 {
     Q_OBJECT
 
 public:
-    /// Across the top, or one below the other like the lines of a list, for a narrow column.
+    /// Across the top, or in a narrow column like the lines of a list.
     enum Direction { Across, Down };
 
-    /// The first tab is selected from the start, without a click.
+    /// The first tab is selected, without a click.
     TabStrip(const QString &name, const QStringList &captions, Direction direction, QWidget *parent);
 
     /// One-based.
@@ -35,8 +31,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    class Style;
+
     int captionMargin() const;
-    int captionWidth(int index) const;
     bool isDown() const { return shape() == RoundedWest; }
-    void paintTab(QStylePainter &painter, int index);
 };
