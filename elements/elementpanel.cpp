@@ -122,8 +122,6 @@ QString ElementPanel::crystalPicturePath() const
 void ElementPanel::applyPictureOption()
 {
     const bool picture = m_module1.OptionSlots(Slot::ElementPicture).equals(1);
-    if (picture && isEmpty())
-        return;
-    imgatoShown = picture;
-    Picture1Shown = !picture;
+    if (!picture || !isEmpty())
+        imgatoShown = picture;
 }

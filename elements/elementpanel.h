@@ -60,8 +60,7 @@ public:
     std::array<QString, ValueCount> lblatome;
     std::array<QString, IsotopeTextCount> Label11; ///< the third of each isotope in letters of a Symbol face
     QString picturePath;
-    bool imgatoShown = false;
-    bool Picture1Shown = true;
+    bool imgatoShown = false; ///< else `Picture1` is
     bool Command9Shown = false;
     bool ReyFrame2Shown = false;
     double ReyFrame2Height = 915; ///< twips

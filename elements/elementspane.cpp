@@ -225,7 +225,7 @@ void ElementsPane::showPanel()
 void ElementsPane::showVisibility()
 {
     imgato->setVisible(m_panel.imgatoShown);
-    Picture1->setVisible(m_panel.Picture1Shown);
+    Picture1->setVisible(!m_panel.imgatoShown);
     Command9->setVisible(m_panel.Command9Shown);
     ReyFrame2->setVisible(m_panel.ReyFrame2Shown);
 }

@@ -138,19 +138,18 @@ private Q_SLOTS:
     void theOptionChoosesPictureOrPortrait()
     {
         Value &option = m_module1.OptionSlots(Slot::ElementPicture);
-        const auto isPicture = [this] { return m_panel->imgatoShown && !m_panel->Picture1Shown; };
-        const auto isPortrait = [this] { return !m_panel->imgatoShown && m_panel->Picture1Shown; };
+        const auto isPicture = [this] { return m_panel->imgatoShown; };
         option = 1;
         m_panel->applyPictureOption();
-        QVERIFY(isPortrait()); // nothing to show yet
+        QVERIFY(!isPicture()); // nothing to show yet
         m_panel->select(Fe);
         QVERIFY(isPicture());
         option = 0;
         m_panel->applyPictureOption();
-        QVERIFY(isPortrait());
+        QVERIFY(!isPicture());
         option = 2;
         m_panel->select(H);
-        QVERIFY(isPortrait());
+        QVERIFY(!isPicture());
     }
 };
 
