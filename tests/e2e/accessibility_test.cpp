@@ -112,11 +112,18 @@ private:
         return *form.findChild<W *>(QLatin1StringView(name));
     }
 
-    // Controls that take the focus and tell a screen reader nothing.
+    // Controls that take the focus and tell a screen reader nothing, and object names that two controls have.
     static QStringList unnamed(const QWidget &window)
     {
         QStringList found;
+        QStringList names;
         for (QWidget *control : window.findChildren<QWidget *>()) {
+            const QString name = control->objectName();
+            if (control->window() == &window && !name.startsWith("qt_") && !name.isEmpty()) {
+                if (names.contains(name))
+                    found << name + " twice";
+                names << name;
+            }
             if (!control->isVisible() || control->focusPolicy() == Qt::NoFocus || control->focusProxy())
                 continue;
             if (control->objectName().startsWith(QStringLiteral("qt_")))
