@@ -1,10 +1,10 @@
 #pragma once
 
-/// What a screen reader makes of controls of our own: pictures that act are buttons, labels that open a page
-/// are links, and both can be pressed by it.
+/// Roles of our own controls for screen readers, which can press them: pictures that act are buttons, labels
+/// that open a page are links.
 namespace AccessibleRoles {
 
-/// For all windows; once, before the first.
+/// Call it once, before the first window.
 void install();
 
 } // namespace AccessibleRoles

@@ -8,10 +8,10 @@
 
 /// The controls that are written as one array: "Command8(0)", "Command8(1)".
 ///
-/// A control's index is part of its identity, so an array may have gaps and may be shared out: each pane
-/// holds its own part of `ListView3`. The widget's parent owns the widget; the array only knows it.
+/// An index is part of a control's identity: arrays have gaps, and each pane has its own part of `ListView3`.
+/// The controls belong to their parents.
 ///
-/// Invariant: every control in the array bears the object name "<array>(<index>)", and no index occurs twice.
+/// Invariant: each control has the object name "<array>(<index>)", and no index occurs twice.
 template<class W>
 class ControlArray final
 {
@@ -27,7 +27,7 @@ public:
         return *control;
     }
 
-    /// RuntimeError 9 for an index that is not here.
+    /// RuntimeError 9 for an index without a control.
     W &operator[](int index) const
     {
         const auto found = m_controls.find(index);
@@ -38,7 +38,7 @@ public:
 
     bool contains(int index) const { return m_controls.contains(index); }
 
-    /// In rising order of index.
+    /// By rising index.
     auto begin() const { return m_controls.begin(); }
     auto end() const { return m_controls.end(); }
 

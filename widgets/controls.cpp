@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 QSize Controls::roomFor(const QWidget &window)
 {
     return window.screen()->availableSize() - WindowFrame;
@@ -25,7 +27,7 @@ QFont Controls::largeType(QFont font)
 
 QString Controls::indexedName(const char *array, int index)
 {
-    return QStringLiteral("%1(%2)").arg(QLatin1StringView(array)).arg(index);
+    return u"%1(%2)"_s.arg(array).arg(index);
 }
 
 QLabel *Controls::label(const QString &name, const QString &text, QWidget *parent)

@@ -1,26 +1,29 @@
 #pragma once
 
-#include <QSize>
-#include <QString>
 #include <QWidget>
 
 class QLabel;
 
-/// Small helpers that every pane uses on its controls.
+/// Helpers for the controls of all panes.
 namespace Controls {
 
-/// A control's own setting, whether or not the pane around it is on show. "Visible" never means anything else
-/// here.
+/// The control's own setting, whatever its ancestors are. "Shown" and "visible" mean this throughout.
 inline bool isShown(const QWidget &control)
 {
     return !control.isHidden();
 }
 
-/// Whether the user can see @p control, a descendant of @p pane, once the pane is shown: it is not hidden,
-/// and no other control covers its middle.
+/// Whether the user sees @p control, a descendant of @p pane, when the pane is shown: it is not hidden, and
+/// no other control covers its middle.
 bool isOnTop(const QWidget &control, const QWidget &pane);
 
-/// Gives @p control its name in the system and returns it.
+/// Space and Enter press what can be pressed.
+inline bool isPressKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Sets the object name of @p control and returns it.
 template<class W>
 W *named(W *control, const QString &name)
 {
@@ -28,24 +31,23 @@ W *named(W *control, const QString &name)
     return control;
 }
 
-/// About what window managers put around a window, in logical pixels.
+/// Approximate size of what window managers add to a window, logical pixels.
 inline constexpr QSize WindowFrame{8, 36};
 
-/// The largest size that @p window can have on its screen, in logical pixels.
+/// The largest size of @p window on its screen, logical pixels.
 QSize roomFor(const QWidget &window);
 
-/// @p font as the one large type: bold, 15 pixels high. The title of the splash and the cells of the periodic
-/// table share it. It is as large as two letters go in a cell: the table is read from the other end of the
-/// bench.
+/// @p font bold and 15 pixels high, for the splash and the cells of the periodic table. Two letters just fit
+/// in a cell: the table is read from the other end of the bench.
 QFont largeType(QFont font);
 
-/// "ListView3" and 29 make "ListView3(29)".
+/// "ListView3(29)" for "ListView3" and 29.
 QString indexedName(const char *array, int index);
 
-/// A plain-text label of that name.
+/// A plain-text label.
 QLabel *label(const QString &name, const QString &text, QWidget *parent);
 
-/// The same in bold, as heading of a block.
+/// The same in bold.
 QLabel *heading(const QString &name, const QString &text, QWidget *parent);
 
 } // namespace Controls

@@ -4,12 +4,12 @@ DropDown::DropDown(const QString &name, QWidget *parent) : QComboBox(parent)
 {
     setObjectName(name);
     connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
-        m_told = true;
+        m_emitted = true;
         Q_EMIT chosen(index);
     });
-    // Comes after each choice by hand, in addition to the signal of a change.
+    // From the dropped-down list the selected entry can be chosen again, which changes nothing.
     connect(this, &QComboBox::activated, this, [this](int index) {
-        if (!m_told)
+        if (!m_emitted)
             Q_EMIT chosen(index);
     });
 }
@@ -26,7 +26,7 @@ void DropDown::showRows(QAbstractItemModel *rows)
 {
     setModel(rows);
     setCurrentIndex(-1);
-    // On a reset the base class, which hears of it first, selects the first row.
+    // On a reset the base class selects the first row.
     connect(rows, &QAbstractItemModel::modelAboutToBeReset, this, [this] { blockSignals(true); });
     connect(rows, &QAbstractItemModel::modelReset, this, [this] {
         setCurrentIndex(-1);
@@ -36,18 +36,6 @@ void DropDown::showRows(QAbstractItemModel *rows)
 
 void DropDown::showPopup()
 {
-    m_told = false;
+    m_emitted = false;
     QComboBox::showPopup();
-}
-
-void DropDown::keyPressEvent(QKeyEvent *event)
-{
-    m_told = false;
-    QComboBox::keyPressEvent(event);
-}
-
-void DropDown::wheelEvent(QWheelEvent *event)
-{
-    m_told = false;
-    QComboBox::wheelEvent(event);
 }

@@ -2,8 +2,7 @@
 
 #include <QComboBox>
 
-/// A drop-down that tells of every choice of an entry: by hand, also if the entry was selected already, and
-/// by the program.
+/// A drop-down with one signal for each choice: by hand, even of the selected entry, and by the program.
 class DropDown final : public QComboBox
 {
     Q_OBJECT
@@ -11,10 +10,10 @@ class DropDown final : public QComboBox
 public:
     DropDown(const QString &name, QWidget *parent);
 
-    /// Selects the entry and tells of it even if it was selected already; -1 selects none.
+    /// Selects the entry, -1 for none, and emits chosen() even if it was selected.
     void choose(int index);
 
-    /// Shows the rows of @p rows, none selected. A fill of the model selects none either, and tells nobody.
+    /// Shows @p rows with none selected. A reset of the model selects none either, without a signal.
     void showRows(QAbstractItemModel *rows);
 
     void showPopup() override;
@@ -22,10 +21,6 @@ public:
 Q_SIGNALS:
     void chosen(int index);
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-
 private:
-    bool m_told = false; ///< of the change that the user's action under way has brought
+    bool m_emitted = false; ///< since the list dropped down
 };

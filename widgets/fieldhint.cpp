@@ -5,9 +5,11 @@
 #include <QToolTip>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 FieldHint::FieldHint(QWidget &field) : QLabel(&field, Qt::ToolTip), m_field(field)
 {
-    setObjectName(field.objectName() + QStringLiteral("Hint"));
+    setObjectName(field.objectName() + u"Hint"_s);
     setTextFormat(Qt::PlainText);
     setPalette(QToolTip::palette());
     setAutoFillBackground(true);

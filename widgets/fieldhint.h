@@ -3,8 +3,8 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short hint below a field. It looks like a tool tip and takes no focus, but it stays some seconds
-/// wherever the mouse goes, for the eyes that were on the keyboard.
+/// A short hint below a field. It looks like a tool tip, but stays some seconds wherever the mouse goes: the
+/// user's eyes may be on the keyboard.
 class FieldHint final : public QLabel
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class FieldHint final : public QLabel
 public:
     explicit FieldHint(QWidget &field);
 
-    /// Shows @p text at the field, to screen readers too.
+    /// For screen readers too.
     void showText(const QString &text);
 
 private:

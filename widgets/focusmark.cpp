@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QTabBar>
 
-/// A child of the control that it surrounds.
 class FocusMark::Ring final : public QWidget
 {
 public:
@@ -38,8 +37,8 @@ protected:
     }
 
 private:
-    // Around the selected one of tabs side by side. Of tabs one below the other it is filled in the ring's
-    // colour.
+    // Of tabs side by side, around the selected one. Of tabs in a column that one has the ring's colour
+    // anyway.
     void fit()
     {
         constexpr int Width = 2;

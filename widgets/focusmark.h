@@ -5,8 +5,8 @@
 
 class QWidget;
 
-/// A ring around the control with the focus: styles mark some faintly, others not at all. Push buttons have a
-/// mark of the style's own, or of ours.
+/// A ring around the control with the focus, which styles mark faintly or not at all. Push buttons have a
+/// mark of their own.
 ///
 /// One object serves all windows.
 class FocusMark final : public QObject
@@ -22,5 +22,5 @@ private:
 
     void moveTo(QWidget *control);
 
-    QPointer<Ring> m_ring; ///< goes with the control that it is around
+    QPointer<Ring> m_ring; ///< child of the control, and deleted with it
 };

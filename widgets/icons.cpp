@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <array>
 
-// Resources of a static library are registered by hand, outside any namespace.
+using namespace Qt::StringLiterals;
+
+// Resources of a static library need this call, outside any namespace.
 static void registerIcons()
 {
     Q_INIT_RESOURCE(icons);
@@ -16,15 +18,15 @@ static void registerIcons()
 
 namespace {
 
-constexpr std::array LineSizes{16, 18, 22, 24, 32, 48, 64, 80}; // as the build draws them, in pixels
+constexpr std::array LineSizes{16, 18, 22, 24, 32, 48, 64, 80}; // pixels, as drawn by the build
 
 QString pictureOf(const QString &name, int size)
 {
     registerIcons();
-    return QStringLiteral(":/icons/%1-%2.png").arg(name).arg(size);
+    return u":/icons/%1-%2.png"_s.arg(name).arg(size);
 }
 
-/// Shows an icon's lines in the colour that texts on buttons have at the moment.
+/// Draws an icon's lines in the current text colour of buttons.
 class TintedIconEngine final : public QIconEngine
 {
 public:
@@ -65,6 +67,6 @@ QIcon Icons::program()
 {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 220}) // the last for the splash and About
-        icon.addFile(pictureOf(QStringLiteral("alembra"), size));
+        icon.addFile(pictureOf(u"alembra"_s, size));
     return icon;
 }

@@ -5,11 +5,11 @@
 /// The drawn icons of the program.
 namespace Icons {
 
-/// The line icon "find" and its kind, in the colour that texts have on buttons, so that it reads on a light
-/// and on a dark desktop alike. An unknown name gives an empty icon.
+/// The line icon @p name, "find", in the text colour of buttons, readable on light and dark desktops. Empty
+/// for an unknown name.
 QIcon named(const QString &name);
 
-/// The program's own icon, in its colours.
+/// The program's icon.
 QIcon program();
 
 } // namespace Icons

@@ -1,5 +1,7 @@
 #include "widgets/linklabel.h"
 
+#include "widgets/controls.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -23,25 +25,17 @@ LinkLabel::LinkLabel(const QString &text, const QString &target, QWidget *parent
 void LinkLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     QLabel::mouseReleaseEvent(event);
-    if (hasSelectedText())
-        return; // the text was selected, not the link pressed
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    const bool selecting = hasSelectedText();
+    if (!selecting && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         press();
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent *event)
 {
-    if (event->matches(QKeySequence::Copy) && !hasSelectedText()) {
+    if (event->matches(QKeySequence::Copy) && !hasSelectedText())
         QGuiApplication::clipboard()->setText(text());
-        return;
-    }
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
+    else if (Controls::isPressKey(event->key()))
         press();
-        return;
-    default:
+    else
         QLabel::keyPressEvent(event);
-    }
 }

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A plain text that opens something: underlined in the colour of links, reached with Tab, pressed with Enter
-/// or the space bar like a button. Its text can be selected; Ctrl+C copies the selection, or else all of it.
+/// A plain-text link, pressed by a click, Enter or Space. Its text can be selected; Ctrl+C copies the
+/// selection, or else all of it.
 class LinkLabel final : public QLabel
 {
     Q_OBJECT

@@ -53,8 +53,8 @@ constexpr Entry Entries[] = {
 QString ListNames::of(const QString &list)
 {
     for (const Entry &entry : Entries) {
-        if (list == QLatin1StringView(entry.list))
-            return QString::fromUtf8(entry.content);
+        if (list == entry.list)
+            return entry.content;
     }
     return {};
 }

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// What the lists hold, in words: for screen readers, which say it when a list takes the focus.
+/// What the lists show, in words for screen readers.
 namespace ListNames {
 
-/// Empty for a list without an entry.
+/// Empty for an unknown list.
 QString of(const QString &list);
 
 } // namespace ListNames

@@ -18,7 +18,7 @@ bool ModalDialogs::rejectBeforeClosing(QWidget &window)
 {
     bool found = false;
     for (QWidget *dialog : QApplication::topLevelWidgets()) {
-        if (!dialog->isModal()) // modal until its exec() returns, even if it is hidden by then
+        if (!dialog->isModal()) // modal until exec() returns, even when hidden
             continue;
         found = true;
         QObject::connect(dialog, &QObject::destroyed, &window, &QWidget::close, Qt::QueuedConnection);

@@ -2,22 +2,24 @@
 
 #include <QFontMetricsF>
 
+using namespace Qt::StringLiterals;
+
 ModulePanel::ModulePanel(const char *name, QWidget *parent) : QWidget(parent)
 {
-    setObjectName(QLatin1StringView(name));
+    setObjectName(name);
     setFixedSize(Size);
     hide();
 }
 
 QFont ModulePanel::fittingFont(QFont desktop)
 {
-    // Wide and high enough for DejaVu Sans and Noto Sans of 10 points.
+    // Enough for DejaVu Sans and Noto Sans of 10 points.
     constexpr double Widest = 151;
     constexpr double Highest = 18;
     const auto fits = [](const QFont &font) {
         const QFontMetricsF metrics(font);
         return metrics.height() <= Highest &&
-               metrics.horizontalAdvance(QStringLiteral("Temperature / Pressure")) <= Widest;
+               metrics.horizontalAdvance(u"Temperature / Pressure"_s) <= Widest;
     };
     while (desktop.pointSizeF() > 1 && !fits(desktop))
         desktop.setPointSizeF(desktop.pointSizeF() - 0.5);

@@ -6,8 +6,7 @@
 
 /// One of the twelve panes of `Form1`, shown one at a time.
 ///
-/// A pane's controls are built when it is first shown or first asked for, which keeps the start short. What a
-/// pane knows without its controls (lists, selected rows, texts) lives in plain types beside it.
+/// Its controls are built when it is first shown or used: all twelve at once would delay the start.
 class ModulePanel : public QWidget
 {
     Q_OBJECT
@@ -16,19 +15,18 @@ public:
     /// The pane area, the same for all panes: 14400 x 8100 twips.
     static constexpr QSize Size{960, 540};
 
-    /// The largest font, up to @p desktop's, that the places on the panes have room for: they are as fixed as
-    /// the size.
+    /// The largest font, up to @p desktop's, that fits the fixed places on the panes.
     static QFont fittingFont(QFont desktop);
 
-    /// @p name is the frame's name in the system, "frmsolv". The pane starts hidden.
+    /// @p name is the frame's name, "frmsolv". The pane starts hidden.
     ModulePanel(const char *name, QWidget *parent);
 
     void setVisible(bool visible) override;
 
-    /// Makes sure that the controls exist. Whoever touches them from outside calls it first.
+    /// Builds the controls if they are not built. Call it before you use them from outside.
     void build();
 
-    /// The control for the keyboard when the pane is opened. Null for no one in particular.
+    /// The control that takes the focus when the pane is opened. Null for the first of the Tab order.
     virtual QWidget *firstFocus() const { return nullptr; }
 
     /// The row whose values the pane shows outside of a list. No table if there is none.
@@ -37,7 +35,7 @@ public:
     bool isBuilt() const { return m_built; }
 
 protected:
-    /// Makes all controls; called once.
+    /// Called once.
     virtual void buildContents() {}
 
 private:

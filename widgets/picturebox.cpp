@@ -1,5 +1,7 @@
 #include "widgets/picturebox.h"
 
+#include "widgets/controls.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -11,7 +13,6 @@ PictureBox::PictureBox(const QString &name, QWidget *parent) : QWidget(parent)
 void PictureBox::setPicture(const QImage &picture)
 {
     m_picture = picture;
-    m_scaled = {};
     updateGeometry();
     update();
 }
@@ -21,27 +22,18 @@ void PictureBox::paintEvent(QPaintEvent *)
     if (m_picture.isNull())
         return;
     const double ratio = devicePixelRatioF();
-    const QSize fitted = m_picture.size().scaled(size() * ratio, Qt::KeepAspectRatio);
-    if (m_scaled.size() != fitted)
-        m_scaled = m_picture.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    m_scaled.setDevicePixelRatio(ratio);
-
-    QPainter painter(this);
-    const QSizeF drawn = m_scaled.deviceIndependentSize();
-    painter.drawImage(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), m_scaled);
+    QImage scaled = m_picture.scaled(size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    const QSizeF drawn = scaled.deviceIndependentSize();
+    QPainter(this).drawImage(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), scaled);
 }
 
 void PictureBox::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (Controls::isPressKey(event->key()))
         press();
-        break;
-    default:
+    else
         QWidget::keyPressEvent(event);
-    }
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent *event)

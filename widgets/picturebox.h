@@ -3,10 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// A picture, as large as the box allows without changing its proportions, drawn at the device's resolution.
-///
-/// The box paints nothing of its own beside the picture. With a focus policy that lets the keyboard in, Space
-/// and Enter do what a click does.
+/// A picture, as large as the box allows in its proportions, at the device's resolution. Space and Enter act
+/// as a click.
 class PictureBox final : public QWidget
 {
     Q_OBJECT
@@ -31,5 +29,4 @@ protected:
 
 private:
     QImage m_picture;
-    QImage m_scaled; ///< the picture at the size last drawn, in device pixels
 };

@@ -2,13 +2,11 @@
 
 #include <QImage>
 
-/// Pictures are loaded by path at the moment they are shown.
 namespace PictureFile {
 
-/// The picture in the file at @p path, told by its content, not by its suffix.
+/// The picture in the file at @p path. Its format is recognised by the content, not by the suffix.
 ///
-/// RuntimeError 53 if there is no such file, 76 no such folder, 75 if it cannot be read, 481 if it holds no
-/// picture.
+/// RuntimeError 53 without the file, 76 without its folder, 75 if it cannot be read, 481 if it is no picture.
 QImage load(const QString &path);
 
 } // namespace PictureFile

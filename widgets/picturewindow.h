@@ -16,17 +16,17 @@ public:
         const char *name;    ///< "Form2"
         const char *caption; ///< "Chimical structure"
         QSize size;          ///< of the window, logical pixels
-        double besideSheet;  ///< twips at the right that the picture is not centred over; OK stands there
+        double besideSheet;  ///< twips at the right for OK; the picture is centred in the rest
     };
 
     PictureWindow(const Design &design, QWidget &owner);
 
-    /// Shows @p picture at its own size, or smaller where the sheet is, and centres it.
+    /// Shows @p picture centred, at its own size or as large as the sheet allows.
     void setPicture(const QImage &picture);
 
     PictureBox *Picture1;
     QLabel *Label1; ///< what the picture shows
-    QLabel *Label2; ///< hidden at first; takes the place of a picture that is not there
+    QLabel *Label2; ///< hidden at first; for a missing picture
 
 private:
     const double m_besideSheet;

@@ -34,8 +34,8 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
-// Whom a box belongs to, so that it stands above it. Just after another box has closed no window is active
-// yet: then it is the one that the user can work with.
+// The window that a box opens above. Just after another box has closed no window is active yet: then the one
+// that takes input.
 QWidget *owner()
 {
     if (QWidget *active = QApplication::activeWindow())
@@ -48,15 +48,14 @@ QWidget *owner()
     return nullptr;
 }
 
-// Only what a browser, a file transfer or a viewer of local files takes; anything else opens nothing.
+// Web pages, file transfers and local files. Anything else gives an empty URL, which opens nothing.
 QUrl urlOf(const QString &target)
 {
     if (QDir::isAbsolutePath(target))
         return QUrl::fromLocalFile(target);
     const QUrl url(target, QUrl::StrictMode);
     const QString scheme = url.scheme();
-    const bool known = scheme == QLatin1StringView("http") || scheme == QLatin1StringView("https") ||
-                       scheme == QLatin1StringView("ftp");
+    const bool known = scheme == u"http"_s || scheme == u"https"_s || scheme == u"ftp"_s;
     return known && !url.host().isEmpty() ? url : QUrl();
 }
 
@@ -65,7 +64,7 @@ QUrl urlOf(const QString &target)
 Desktop::Answer QtDesktop::messageBox(const QString &text, int style)
 {
     QMessageBox box(owner());
-    box.setWindowTitle(QStringLiteral("Alembra"));
+    box.setWindowTitle(u"Alembra"_s);
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     box.setIcon(iconOf(style));
@@ -85,8 +84,7 @@ QString QtDesktop::saveFile(const SaveRequest &request)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setDirectory(request.folder);
-    dialog.setNameFilter(
-        QStringLiteral("%1 (%2)").arg(request.filterName, request.filterGlobs.join(QLatin1Char(' '))));
+    dialog.setNameFilter(u"%1 (%2)"_s.arg(request.filterName, request.filterGlobs.join(u' ')));
     dialog.selectFile(request.fileName);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         throw RuntimeError(ErrorNumber::DialogCancelled);
@@ -100,7 +98,7 @@ void QtDesktop::openTarget(const QString &target)
         QDesktopServices::openUrl(url);
 }
 
-// Asks the companion of what opens files. A stranger in its place may know more than the companion does.
+// xdg-mime answers for xdg-open of the same folder. Another opener may know more viewers.
 Desktop::Viewer QtDesktop::viewerOf(const QString &path)
 {
     const QFileInfo opener(QStandardPaths::findExecutable(u"xdg-open"_s));

@@ -5,6 +5,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QRgb LinkOnDark = 0xFF7AB8FF;
@@ -21,14 +23,14 @@ double luminance(const QColor &colour)
            0.0722 * linear(colour.blueF());
 }
 
-/// What Fusion makes of a window's colour for the edges of the fields on it.
+/// The colour in which Fusion draws edges on a window.
 QColor edgeOn(const QColor &window)
 {
     constexpr int Darker = 140;
     return window.darker(Darker);
 }
 
-/// The colour of a window whose edges are seen on that of @p desktop.
+/// The window colour from which Fusion draws edges that are visible on @p desktop.
 QColor windowWithEdges(const QPalette &desktop)
 {
     const QColor window = desktop.color(QPalette::Window);
@@ -63,15 +65,14 @@ QPalette Readable::ownLinks(const QPalette &desktop)
     return own;
 }
 
-// Fusion takes the edges from the palette's window colour, which the fields need for nothing else. Other
-// styles draw their own.
+// Fusion derives edges from the palette's window colour, which fields use for nothing else.
 void Readable::showEdges()
 {
     const QPalette desktop = QApplication::palette();
+    if (QApplication::style()->name() != u"fusion"_s)
+        return;
     const bool dark =
         luminance(desktop.color(QPalette::Window)) < luminance(desktop.color(QPalette::WindowText));
-    if (QApplication::style()->name() != QLatin1StringView("fusion"))
-        return;
     QPalette edges = desktop;
     if (dark)
         edges.setColor(QPalette::Window, windowWithEdges(desktop));

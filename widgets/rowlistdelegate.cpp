@@ -7,15 +7,15 @@
 
 namespace {
 
-// How many characters are before the decimal point of the number that @p text begins with, "<1", "~2.3" and
-// "36,000" among them; 0 if it is no number.
+// Characters before the decimal point of the number that @p text begins with, such as "<1", "~2.3" or
+// "36,000". 0 if it is no number.
 qsizetype integerLength(const QString &text)
 {
     qsizetype length = 0;
     bool digits = false;
     for (const QChar c : text) {
         const bool sign = !digits && QStringView(u"+-<>~").contains(c);
-        const bool group = digits && c == QLatin1Char(',');
+        const bool group = digits && c == u',';
         if (!sign && !group && !c.isDigit())
             break;
         digits = digits || c.isDigit();
@@ -24,25 +24,25 @@ qsizetype integerLength(const QString &text)
     return digits ? length : 0;
 }
 
-// Lines break between words only: a name like "2,2,4-Trimethylpentane" stays in one. A word that is wider
-// than the whole line breaks behind its hyphens and brackets, and a formula before the symbol of an element.
+// Lines break between words only, which keeps "2,2,4-Trimethylpentane" whole. A word wider than the line also
+// breaks after hyphens and brackets, a formula before the symbol of an element.
 QString wrappable(const QString &text, const QFontMetrics &metrics, int width)
 {
     constexpr QChar WordJoiner(u'\u2060');
     constexpr QChar BreakHere(u'\u200B');
-    QStringList words = text.split(QLatin1Char(' '));
+    QStringList words = text.split(u' ');
     for (QString &word : words) {
         const bool fits = metrics.horizontalAdvance(word) <= width;
-        word.replace(QLatin1Char('-'), QLatin1Char('-') + QString(fits ? WordJoiner : BreakHere));
+        word.replace(u'-', u'-' + QString(fits ? WordJoiner : BreakHere));
         if (fits)
             continue;
-        word.replace(QLatin1Char(')'), QLatin1Char(')') + QString(BreakHere));
+        word.replace(u')', u')' + QString(BreakHere));
         for (qsizetype place = word.size() - 1; place > 0; --place) {
             if (word[place].isUpper() && word[place - 1].isDigit())
                 word.insert(place, BreakHere);
         }
     }
-    return words.join(QLatin1Char(' '));
+    return words.join(u' ');
 }
 
 } // namespace
@@ -106,7 +106,7 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->restore();
 }
 
-// The last column may be drawn wider than it was made, and a heading runs over all columns.
+// The last column may be wider than its ListColumn, and a heading spans all columns.
 QRect RowListDelegate::room(const QRect &cell, const QModelIndex &index) const
 {
     const ListColumn &column = m_columns[index.column()];
@@ -115,8 +115,7 @@ QRect RowListDelegate::room(const QRect &cell, const QModelIndex &index) const
     if (column.kind == ListColumn::Kind::Text || isHeading(index.row()))
         return room;
     room.setWidth(column.width - left - Padding);
-    // Numbers are near the middle. One that comes close to the lines can still be read, one cut short or out
-    // of line with the others cannot.
+    // A number close to the grid lines is still readable; one cut short or out of line is not.
     return column.kind == ListColumn::Kind::Number ? room.adjusted(-Padding, 0, Padding, 0) : room;
 }
 
@@ -126,7 +125,7 @@ bool RowListDelegate::isCut(QFont font, const QRect &cell, const QModelIndex &in
     if (m_columns[index.column()].kind == ListColumn::Kind::Wrapped && !heading)
         return false;
     font.setBold(heading);
-    // A pixel of the space between two cells is better than three dots.
+    // One pixel of the padding is better than three dots.
     return QFontMetricsF(font).horizontalAdvance(shownText(index) + signOf(index)) >
            room(cell, index).width() + 1;
 }
@@ -151,7 +150,7 @@ void RowListDelegate::drawText(QPainter &painter, const QRect &rect, const QMode
                          : text);
 }
 
-// Where the text begins so that the decimal points of a column are in one line. What is no number is centred.
+// The left edge of the text, so that the decimal points of a column line up. Texts are centred.
 int RowListDelegate::numberLeft(const QFontMetrics &metrics, const QString &text, const QRect &cell,
                                 const QModelIndex &index) const
 {
@@ -163,11 +162,11 @@ int RowListDelegate::numberLeft(const QFontMetrics &metrics, const QString &text
     return qMax(cell.left(), qMin(left, cell.right() - width));
 }
 
-// From the left of the cells, logical pixels: the longest number before the point and the longest text after
-// it are in the middle of the column together.
+// From the left of the cells, logical pixels. The longest part before the point and the longest after it are
+// centred together.
 int RowListDelegate::decimalPoint(const QFontMetrics &metrics, int room, const QModelIndex &index) const
 {
-    const QPair<int, int> key(index.column(), metrics.horizontalAdvance(QLatin1Char('0')));
+    const QPair<int, int> key(index.column(), metrics.horizontalAdvance(u'0'));
     const auto known = m_points.constFind(key);
     if (known != m_points.constEnd())
         return *known;

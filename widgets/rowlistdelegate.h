@@ -5,14 +5,14 @@
 #include <QHash>
 #include <QStyledItemDelegate>
 
-/// Draws the cells of a list: generous rows, grid lines where the list has them, numbers by their decimal
-/// point, a small lozenge behind the name of a row that is general knowledge alone.
+/// Draws the cells of a list: grid lines if the list has them, numbers aligned at the decimal point, a small
+/// lozenge after the name of a row that is general knowledge alone.
 class RowListDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    /// Space left and right of a cell's text, logical pixels.
+    /// Left and right of a cell's text, logical pixels.
     static constexpr int Padding = 6;
 
     RowListDelegate(const RowList &list, const QList<ListColumn> &columns, QObject *parent);
@@ -21,15 +21,15 @@ public:
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
-    /// Rows that are a text alone are drawn as headings, the texts of the others set in below them.
+    /// Draws rows with a text in the first column only as headings, and indents the others.
     void setRecipes(bool on) { m_recipes = on; }
 
     bool isHeading(int row) const;
 
-    /// The text of the cell, before it is shortened and without the sign of general knowledge.
+    /// The cell's text before it is shortened, without the sign of general knowledge.
     QString shownText(const QModelIndex &index) const;
 
-    /// Whether the text has no room in @p cell and is drawn shortened.
+    /// Whether the text is too long for @p cell and is drawn shortened.
     bool isCut(QFont font, const QRect &cell, const QModelIndex &index) const;
 
 private:
@@ -45,5 +45,5 @@ private:
     const RowList &m_list;
     const QList<ListColumn> m_columns;
     mutable QHash<QPair<int, int>, int>
-        m_points; ///< decimal points measured so far, by column and size of type
+        m_points; ///< decimal points by column and font size; scrolling lags without
 };

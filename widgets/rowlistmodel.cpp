@@ -7,7 +7,7 @@
 QString ListColumn::shown(QString stored) const
 {
     if (!unit.isEmpty())
-        stored.remove(QLatin1Char(' ') + unit);
+        stored.remove(u' ' + unit);
     return stored.isEmpty() ? whenEmpty : stored;
 }
 

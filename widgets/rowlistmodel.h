@@ -10,22 +10,22 @@ class RowList;
 /// A column of a list on the screen.
 struct ListColumn
 {
-    /// Numbers stand with their decimal points in one line; what is no number is centred. A wrapped text
-    /// takes as many lines as it needs, and the row grows with it.
+    /// Numbers line up at the decimal point; other texts among them are centred. A wrapped text makes its row
+    /// as high as it needs.
     enum class Kind { Text, Number, Wrapped };
 
     QString title;
     int width; ///< logical pixels
     Kind kind = Kind::Text;
-    QString unit = {};      ///< left out of the cells, for it is in the title
+    QString unit = {};      ///< left out of the cells: the title has it
     QString whenEmpty = {}; ///< shown in an empty cell
 
-    /// What a cell with the text @p stored shows.
+    /// What a cell shows for the text @p stored.
     QString shown(QString stored) const;
 };
 
-/// Shows one RowList to the views. Column 0 is the row's text, column n its sub-item n, as they are stored;
-/// what the user sees and hears of them is that of ListColumn::shown().
+/// One RowList as a model. Column 0 is the row's text, column n its sub-item n, as stored; views and screen
+/// readers show ListColumn::shown() of it.
 class RowListModel final : public QAbstractTableModel
 {
     Q_OBJECT

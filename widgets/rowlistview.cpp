@@ -15,30 +15,27 @@
 #include <QToolTip>
 #include <algorithm>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-bool isWrapped(const ListColumn &column)
-{
-    return column.kind == ListColumn::Kind::Wrapped;
-}
+namespace {
 
 bool anyWrapped(const QList<ListColumn> &columns)
 {
-    return std::any_of(columns.begin(), columns.end(), isWrapped);
+    return std::any_of(columns.begin(), columns.end(),
+                       [](const ListColumn &each) { return each.kind == ListColumn::Kind::Wrapped; });
 }
 
-// As text and as a table: a spreadsheet that gets the text asks how to read it, and takes the CAS number
-// 75-05-8 for a day in May.
+// As text and as a table: from the text alone a spreadsheet reads the CAS number 75-05-8 as a day in May.
 void copy(const QString &lines)
 {
     QString rows;
-    for (const QString &line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        const QString cells = line.toHtmlEscaped().replace(QLatin1Char('\t'), QStringLiteral("</td><td>"));
-        rows += QStringLiteral("<tr><td>%1</td></tr>").arg(cells);
+    for (const QString &line : lines.split(u'\n', Qt::SkipEmptyParts)) {
+        const QString cells = line.toHtmlEscaped().replace(u'\t', u"</td><td>"_s);
+        rows += u"<tr><td>%1</td></tr>"_s.arg(cells);
     }
     auto *data = new QMimeData;
     data->setText(lines);
-    data->setHtml(QStringLiteral("<meta charset=\"utf-8\"><table>%1</table>").arg(rows));
+    data->setHtml(u"<meta charset=\"utf-8\"><table>%1</table>"_s.arg(rows));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
@@ -47,7 +44,7 @@ void copy(const QString &lines)
 RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent)
     : QTreeView(parent), m_list(list), m_model(new RowListModel(list, std::move(columns), this))
 {
-    // A list that is one of an array gets its name with its index later.
+    // A list of an array gets its name later.
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString &newName) { setAccessibleName(ListNames::of(newName)); });
     setObjectName(name);
@@ -63,7 +60,7 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the titles above would not move along
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the titles above would not scroll along
     setHeaderHidden(true);
     header()->setMinimumSectionSize(8);
     header()->setStretchLastSection(true);
@@ -79,7 +76,7 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
             [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(index.row()); });
 }
 
-// Both have their shortcuts while the list has the focus, and make up its context menu.
+// The actions of the context menu; the shortcuts work while the list has the focus.
 void RowListView::buildActions()
 {
     const auto add = [this](const QString &caption, const QKeySequence &shortcut,
@@ -91,9 +88,8 @@ void RowListView::buildActions()
         connect(action, &QAction::triggered, this, copy);
         addAction(action);
     };
-    add(QStringLiteral("Copy &row"), QKeySequence(Qt::CTRL | Qt::Key_C), &RowListView::copyRow);
-    add(QStringLiteral("Copy &table"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
-        &RowListView::copyTable);
+    add(u"Copy &row"_s, QKeySequence(Qt::CTRL | Qt::Key_C), &RowListView::copyRow);
+    add(u"Copy &table"_s, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &RowListView::copyTable);
     setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -102,7 +98,7 @@ void RowListView::showAsRecipes()
     m_delegate->setRecipes(true);
     connect(m_model, &RowListModel::modelReset, this, &RowListView::spanHeadings);
     spanHeadings();
-    scheduleDelayedItemsLayout(); // headings are lower than the rows measured so far
+    scheduleDelayedItemsLayout(); // headings are lower than other rows
 }
 
 void RowListView::spanHeadings()
@@ -128,7 +124,7 @@ QString RowListView::rowText(int row) const
     QStringList cells;
     for (int column = 0; column < m_model->columnCount(); ++column)
         cells << m_model->index(row, column).data().toString();
-    return cells.join(QLatin1Char('\t'));
+    return cells.join(u'\t');
 }
 
 void RowListView::copyRow()
@@ -142,10 +138,10 @@ void RowListView::copyTable()
     QStringList titles;
     for (const ListColumn &column : columns())
         titles << column.title;
-    QStringList lines(titles.join(QLatin1Char('\t')));
+    QStringList lines(titles.join(u'\t'));
     for (int row = 0; row < m_model->rowCount(); ++row)
         lines << rowText(row);
-    copy(lines.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    copy(lines.join(u'\n') + u'\n');
 }
 
 void RowListView::keyPressEvent(QKeyEvent *event)
@@ -161,7 +157,7 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowClicked(selectedRow());
 }
 
-// A row that the context menu is opened on is chosen like any other.
+// Opening the context menu chooses the row too.
 void RowListView::mousePressEvent(QMouseEvent *event)
 {
     const int before = selectedRow();

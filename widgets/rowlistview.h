@@ -6,22 +6,21 @@
 
 class RowListDelegate;
 
-/// A report-view list on the screen: the rows of one RowList in columns of fixed width, one selected row.
+/// The rows of one RowList in columns of fixed width, one selected row.
 ///
-/// The column titles on the screen are labels of their own above it (TitleFrame); the titles given here name
-/// the columns to copied text and to screen readers. The context menu copies the selected row (Ctrl+C) or
-/// the list with its titles (Ctrl+Shift+C), as tab-separated text and as an HTML table. A text that does not
-/// fit shows whole on hover, and what the sign of general knowledge means. An empty list shows why, if it
-/// knows.
+/// The titles on the screen are labels above it (TitleFrame); its own titles are for copied text and screen
+/// readers. The context menu copies the selected row (Ctrl+C) or the list with its titles (Ctrl+Shift+C), as
+/// tab-separated text and as an HTML table. A text that does not fit shows whole on
+/// hover, and so does the meaning of the sign of general knowledge. An empty list shows why, if it knows.
 class RowListView final : public QTreeView
 {
     Q_OBJECT
 
 public:
-    /// @p list outlives the view; @p name is the list's name in the system.
+    /// @p list outlives the view.
     RowListView(const QString &name, RowList &list, QList<ListColumn> columns, QWidget *parent);
 
-    /// Shows rows that have a text and nothing else as headings of those below them: title and ingredients.
+    /// Shows rows with a text in the first column only as headings of those below: title and ingredients.
     void showAsRecipes();
 
     /// Zero-based; -1 without a selection.
@@ -32,15 +31,15 @@ public:
 
     const QList<ListColumn> &columns() const { return m_model->columns(); }
 
-    /// The row of the database that @p row came from.
+    /// The row of the database of @p row.
     TableRow tableRow(int row) const { return m_model->tableRow(row); }
 
-    /// Nothing without a selected row.
+    /// Does nothing without a selected row.
     void copyRow();
     void copyTable();
 
 Q_SIGNALS:
-    /// A click on a row, or its choice by the keyboard. Zero-based.
+    /// A row was chosen by mouse or keyboard. Zero-based.
     void rowClicked(int row);
     void rowDoubleClicked(int row);
 

@@ -9,9 +9,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 SideWindow::SideWindow(const char *name, QWidget &owner) : QDialog(&owner), m_owner(owner)
 {
-    setObjectName(QLatin1StringView(name));
+    setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_WindowPropagation); // palette and font of the main window
 }
@@ -20,7 +22,7 @@ void SideWindow::showAboveOwner()
 {
     QWidget *focused = focusWidget();
     m_owner.setEnabled(false);
-    setEnabled(true); // a window of a disabled owner is disabled with it, and loses its focus
+    setEnabled(true); // disabled with its owner, which also takes the focus
     if (focused)
         focused->setFocus();
     show();
@@ -35,7 +37,7 @@ void SideWindow::setVisible(bool visible)
     QDialog::setVisible(visible);
 }
 
-// The contents keep their size; in a window that is too small for them they scroll.
+// The contents keep their size and scroll if the window is too small.
 void SideWindow::fitToScreen()
 {
     const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
@@ -68,7 +70,7 @@ void SideWindow::fitToScreen()
 
 void SideWindow::closeEvent(QCloseEvent *event)
 {
-    if (isVisible() && ModalDialogs::rejectBeforeClosing(*this)) { // hidden, none of its handlers is waiting
+    if (isVisible() && ModalDialogs::rejectBeforeClosing(*this)) { // of a hidden one no handler waits
         event->ignore();
         return;
     }
@@ -80,7 +82,7 @@ void SideWindow::closeEvent(QCloseEvent *event)
 
 QPushButton *SideWindow::makeOkButton(const QString &name)
 {
-    auto *button = Controls::named(new QPushButton(QStringLiteral("&OK"), this), name);
+    auto *button = Controls::named(new QPushButton(u"&OK"_s, this), name);
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     return button;

@@ -4,21 +4,20 @@
 
 class QPushButton;
 
-/// A secondary window of `Form1`, which is disabled while it is open.
+/// A secondary window. `Form1` is disabled while it is open.
 ///
-/// It is made when it is opened and destroyed when it is unloaded, so each opening runs its load anew.
-/// Closing it by any route enables `Form1` again. Escape closes it. On a screen too small for it, its
-/// contents scroll. A window whose handler waits for a modal dialog rejects the dialog and closes once the
-/// handler has returned.
+/// It is made for each opening and deleted when it closes, by any route or Escape. On a small screen its
+/// contents scroll. If one of its handlers waits for a modal dialog, it rejects the dialog and closes after
+/// the handler.
 class SideWindow : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// @p owner is `Form1`; @p name the window's name in the system.
+    /// @p owner is `Form1`.
     SideWindow(const char *name, QWidget &owner);
 
-    /// Disables the owner and shows the window in front, without a modal event loop.
+    /// Shows the window in front, without an event loop of its own.
     void showAboveOwner();
 
     void setVisible(bool visible) override;
@@ -27,13 +26,13 @@ public:
     void accept() override { close(); }
 
 Q_SIGNALS:
-    /// The window is closed and about to be deleted: do not use it any more.
+    /// The window is closed and about to be deleted.
     void unloaded();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
-    /// "OK", which Enter presses: accept().
+    /// "OK", the default button; accepts the window.
     QPushButton *makeOkButton(const QString &name);
 
     QWidget &owner() const { return m_owner; }

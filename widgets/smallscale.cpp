@@ -10,7 +10,7 @@
 
 namespace {
 
-/// On its way to the screen a window passes here, and is drawn by a painter that scales.
+/// Draws its window with a scaled painter.
 class ScaledDrawing final : public QGraphicsEffect
 {
 public:
@@ -40,7 +40,7 @@ public:
     using QObject::QObject;
 
 protected:
-    // Menus and lists that drop down are windows too.
+    // Menus and drop-down lists are windows too.
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         auto *window = event->type() == QEvent::Polish ? qobject_cast<QWidget *>(watched) : nullptr;

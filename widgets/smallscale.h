@@ -1,12 +1,12 @@
 #pragma once
 
-/// Windows in less than their normal size.
+/// Windows smaller than normal.
 ///
-/// Qt takes a scale factor below 1 for sizes and places, but still draws a logical pixel as one of the
-/// screen. This makes it draw as small as that.
+/// Qt applies a scale factor below 1 to sizes and places but draws a logical pixel as a screen pixel. This
+/// scales the drawing too.
 namespace SmallScale {
 
-/// For all windows of the application from now on. Does nothing where no screen has such a factor.
+/// For all windows made afterwards. Does nothing without a screen of such a factor.
 void install();
 
 } // namespace SmallScale

@@ -13,7 +13,7 @@ StatusLine::StatusLine(const QString &name, QWidget &window) : QLabel(&window)
     window.installEventFilter(this);
 }
 
-// A status tip finds its way from any widget to the main window.
+// Qt passes a status tip up to the main window.
 void StatusLine::show(QWidget &from, const QString &note)
 {
     QStatusTipEvent event(note);

@@ -2,8 +2,7 @@
 
 #include <QLabel>
 
-/// The panel of the status bar for short notes on what the user has just done, for eyes and for screen
-/// readers.
+/// The panel of the status bar with short notes on what the user has just done, also for screen readers.
 class StatusLine final : public QLabel
 {
     Q_OBJECT
@@ -12,7 +11,7 @@ public:
     /// @p window is the main window.
     StatusLine(const QString &name, QWidget &window);
 
-    /// Shows @p note in the main window of @p from, until the next one; an empty note takes it away.
+    /// Shows @p note in the main window of @p from until the next; an empty note clears it.
     static void show(QWidget &from, const QString &note);
 
 protected:

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr PictureWindow::Design Form2{"Form2", "Chimical structure", {540, 340}, 750};
@@ -21,15 +23,13 @@ void openStructureWindow(Module1 &module1, QWidget &form1, int row, const QStrin
     auto window = std::make_unique<PictureWindow>(Form2, form1);
     window->Label1->setText(text);
     try {
-        window->setPicture(
-            PictureFile::load(module1.shippedFile(QStringLiteral("Data/chemicals/%1.bmp").arg(row))));
+        window->setPicture(PictureFile::load(module1.shippedFile(u"Data/chemicals/%1.bmp"_s.arg(row))));
     } catch (const RuntimeError &error) {
-        // Many rows have no formula, which the window says. A picture that cannot be read is not worth an
-        // interruption.
-        StatusLine::show(form1, QStringLiteral("There is no picture of %1").arg(text));
+        // Many rows have no formula; the window says so. An unreadable picture only gets the note.
+        StatusLine::show(form1, u"There is no picture of %1"_s.arg(text));
         if (error.number() != ErrorNumber::FileNotFound)
             return;
-        window->Label2->setText(QStringLiteral("Image unavailable"));
+        window->Label2->setText(u"Image unavailable"_s);
         window->Label2->show();
         window->Picture1->hide();
     }

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 TablesNotice::TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWidget *parent) : QFrame(parent)
 {
     setFrameShape(QFrame::StyledPanel);
@@ -15,9 +17,9 @@ TablesNotice::TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWi
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 12, 16, 12);
     row->setSpacing(16);
-    QLabel *text = Controls::label({}, QStringLiteral("These tables are not read at the start."), this);
+    QLabel *text = Controls::label({}, u"These tables are not read at the start."_s, this);
     row->addWidget(text);
-    auto *button = Controls::named(new QPushButton(QStringLiteral("Read them now"), this),
+    auto *button = Controls::named(new QPushButton(u"Read them now"_s, this),
                                    Controls::indexedName("cmdReadTables", index));
     button->setAccessibleDescription(text->text());
     row->addWidget(button);

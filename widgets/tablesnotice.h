@@ -5,13 +5,12 @@
 class Desktop;
 class LaterTables;
 
-/// A notice on a pane whose tables are not read at the start, with the button that reads them. It is shown
-/// while they are not read.
+/// A notice that the tables of a pane are not read yet, with a button that reads them. Hidden once they are.
 class TablesNotice final : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// @p index makes the button's name, `cmdReadTables(index)`.
+    /// The button is `cmdReadTables(index)`.
     TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWidget *parent);
 };

@@ -11,9 +11,11 @@
 #include <QValidator>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// True if @p text is @p whole with one stretch taken out: what Delete, Backspace and Cut can leave.
+/// True if @p text is @p whole with one stretch deleted.
 bool isReductionOf(const QString &text, const QString &whole)
 {
     if (text.size() >= whole.size())
@@ -23,11 +25,11 @@ bool isReductionOf(const QString &text, const QString &whole)
     return head + tail >= text.size();
 }
 
-/// The text without the exponent sign that lost its digits: "1E-" is on its way to "1".
+/// The text without an exponent sign that has no digits: "1" for "1E-".
 QString withoutBareExponent(QString text)
 {
     const auto isDigit = [](QChar c) { return c.isDigit(); };
-    const qsizetype exponent = text.indexOf(QLatin1Char('E'), 0, Qt::CaseInsensitive);
+    const qsizetype exponent = text.indexOf(u'E', 0, Qt::CaseInsensitive);
     if (exponent > 0 && std::none_of(text.begin() + exponent, text.end(), isDigit))
         text.truncate(exponent);
     return text;
@@ -42,8 +44,8 @@ public:
 
     State validate(QString &text, int &position) const override
     {
-        // The line edit has nothing to undo after a text of the program's, and something to redo after an
-        // undo, which only brings back what was there.
+        // After setText() there is nothing to undo; after an undo, which restores an old text, there is a
+        // redo.
         const bool isEdit = m_box.isUndoAvailable() && !m_box.isRedoAvailable();
         if (!isEdit || text.isEmpty() || text == m_box.m_text)
             return Acceptable;
@@ -65,7 +67,7 @@ private:
             return reduced(text);
         if (!m_box.isTyping())
             return m_box.numberEntry().pasted(text);
-        // An "E" alone is no number yet, and each key leaves one.
+        // Each key must leave a number, which "1E" is not.
         return m_box.m_key.front().isLetter() ? std::nullopt : m_box.numberEntry().typed(text);
     }
 
@@ -83,7 +85,7 @@ private:
 TextBoxM::TextBoxM(QWidget *parent) : QLineEdit(parent)
 {
     setValidator(new Limits(this));
-    // The first to hear of a change, before any handler that writes into the field again.
+    // Connected first, before handlers that write into the field again.
     connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
         m_text = text;
         clearMark();
@@ -127,19 +129,19 @@ QString TextBoxM::limits() const
 {
     QStringList most;
     if (m_tipodedato != AnyText && m_decimales > 0)
-        most << QStringLiteral("%1 decimals").arg(m_decimales);
+        most << u"%1 decimals"_s.arg(m_decimales);
     if (m_maxlength > 0)
-        most << QStringLiteral("%1 characters").arg(m_maxlength);
-    QStringList lines(isTyping() ? QStringLiteral("\"%1\" is not taken here.").arg(m_key)
-                                 : QStringLiteral("The text is not taken here."));
+        most << u"%1 characters"_s.arg(m_maxlength);
+    QStringList lines(isTyping() ? u"\"%1\" is not taken here."_s.arg(m_key)
+                                 : u"The text is not taken here."_s);
     if (m_tipodedato != AnyText) {
         const double example = m_decimales > 0 ? 12.5 : 12;
-        lines << QStringLiteral("Type a number such as %1, or paste one such as 6E23.")
-                     .arg(Numbers::formatLocal(m_tipodedato == SignedNumber ? -example : example));
+        lines << u"Type a number such as %1, or paste one such as 6E23."_s.arg(
+            Numbers::formatLocal(m_tipodedato == SignedNumber ? -example : example));
     }
     if (!most.isEmpty())
-        lines << QStringLiteral("At most %1.").arg(most.join(QStringLiteral(" and ")));
-    return lines.join(QLatin1Char('\n'));
+        lines << u"At most %1."_s.arg(most.join(u" and "_s));
+    return lines.join(u'\n');
 }
 
 void TextBoxM::showRefusal()

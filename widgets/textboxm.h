@@ -5,24 +5,23 @@
 class FieldHint;
 struct NumberEntry;
 
-/// An entry field that knows what may be typed into it: free text, or a decimal number by the user's locale.
+/// An entry field for free text or for a decimal number in the user's locale.
 ///
-/// The limits bind typing and pasting alone. What the program writes with setText() stays whole, whatever its
-/// length or notation ("1.66053906892E-27"); from such a text the user may take away, as long as a number is
-/// left. A key or a text that is refused leaves the field as it is, marks it and shows a hint beside it that
-/// says what the field takes. The mark goes with the next change, the hint after some seconds, and both when
-/// the focus leaves the field.
+/// The limits apply to typing and pasting. setText() takes any length and notation ("1.66053906892E-27");
+/// from such a text the user may delete as long as a number is left. A refused key or paste leaves the field
+/// as it is, marks it and shows a hint with the limits. The mark goes with the next change, the hint after
+/// some seconds, both when the focus leaves.
 class TextBoxM final : public QLineEdit
 {
     Q_OBJECT
-    // Set before the field is used; nobody waits for a change.
+    // Set before the field is used, so without a change signal.
     // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int tipodedato READ tipodedato WRITE setTipodedato)
     Q_PROPERTY(int decimales READ decimales WRITE setDecimales)
     Q_PROPERTY(int maxlength READ maxlength WRITE setMaxlength)
 
 public:
-    /// Kinds of entry, the numbers of `tipodedato`.
+    /// Values of `tipodedato`.
     enum Entry { AnyText = 0, UnsignedNumber = 2, SignedNumber = 3 };
 
     explicit TextBoxM(QWidget *parent = nullptr);
@@ -31,11 +30,11 @@ public:
     int tipodedato() const { return m_tipodedato; }
     void setTipodedato(int tipodedato) { m_tipodedato = tipodedato; }
 
-    /// Most digits after the decimal sign; 0 or less refuses the sign.
+    /// Maximum number of decimals; 0 or less rejects the decimal sign.
     int decimales() const { return m_decimales; }
     void setDecimales(int decimales) { m_decimales = decimales; }
 
-    /// Most characters; 0 is no limit.
+    /// Maximum number of characters; 0 is no limit.
     int maxlength() const { return m_maxlength; }
     void setMaxlength(int maxlength) { m_maxlength = maxlength; }
 
@@ -56,8 +55,8 @@ private:
     int m_tipodedato = AnyText;
     int m_decimales = 0;
     int m_maxlength = 0;
-    QString m_text;            ///< before the edit that is being judged
-    QString m_key;             ///< what the key that is being handled types
-    QAction *m_mark = nullptr; ///< both are made by the first refusal
+    QString m_text;            ///< before the edit being validated
+    QString m_key;             ///< text of the key being handled
+    QAction *m_mark = nullptr; ///< mark and hint are made by the first refusal
     FieldHint *m_hint = nullptr;
 };

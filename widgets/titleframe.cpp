@@ -7,11 +7,12 @@
 #include <QStyle>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Over numbers a title stands above its unit where there are two lines, "Molar mass" over "(g/mol)". Any
-/// title that does not fit in one line breaks there, and nowhere inside the unit. One that has no room even
-/// so is set smaller.
+/// A title too long for one line breaks before its unit, "Molar mass" over "(g/mol)"; over numbers it does
+/// wherever there are two lines. If it still does not fit, it is set smaller.
 class TitleLabel final : public QLabel
 {
 public:
@@ -20,13 +21,13 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        constexpr int Apart = 4; // from its neighbours, where there is room for that
+        constexpr int Apart = 4; // from its neighbours, if there is room
         const bool overNumbers = alignment() & Qt::AlignHCenter;
         QRect room = overNumbers ? rect().adjusted(Apart, 0, -Apart, 0) : rect();
         QString shown = text();
         const bool twoLines = overNumbers && height() >= 2 * fontMetrics().height();
         if (twoLines || fontMetrics().horizontalAdvance(shown) > room.width())
-            shown.replace(QLatin1StringView(" ("), QLatin1StringView("\n("));
+            shown.replace(u" ("_s, u"\n("_s);
         QFont fitting = font();
         if (!fits(shown, room, fitting))
             room = rect();
@@ -53,7 +54,7 @@ TitleFrame::TitleFrame(const QString &name, QWidget *parent, int height) : QFram
     resize(width(), height);
     setObjectName(name);
     setFrameShape(NoFrame);
-    setAutoFillBackground(true); // frames lie one over another
+    setAutoFillBackground(true); // frames cover each other
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Among the siblings of @p strip. Null if there is none.
+/// The nearest visible sibling below @p strip, or null.
 RowListView *listBelow(const QTabBar &strip)
 {
     RowListView *nearest = nullptr;

@@ -2,10 +2,10 @@
 
 class QTabBar;
 
-/// Lets a name be typed right after a click on a tab.
 namespace TypeAhead {
 
-/// Hands what is typed on @p strip to the list on screen right below it, which takes the focus.
+/// Passes what is typed on @p strip to the visible list below it, which takes the focus: a name can be typed
+/// right after a click on a tab.
 void install(QTabBar &strip);
 
 } // namespace TypeAhead

@@ -3,8 +3,8 @@
 #include <QRect>
 #include <cmath>
 
-/// Positions and sizes of the window are given in twips, 1/1440 inch: 15 to a logical pixel. A picture is
-/// measured in units of its own, hundredths of a millimetre at 96 dots to the inch.
+/// Positions and sizes of the windows are in twips, 1/1440 inch: 15 to a logical pixel. Pictures are measured
+/// in hundredths of a millimetre at 96 dots per inch.
 namespace WindowUnits {
 
 inline constexpr int TwipsPerPixel = 15;
