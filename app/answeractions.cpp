@@ -42,8 +42,8 @@ QList<StockReagent> stockReagents(const QString &file)
 
 AnswerActions::AnswerActions(const OwnActions &actions, const Module1 &module, const DataStore &store,
                              QWidget &form1)
-    : m_module(module), m_store(store), m_form1(form1), m_molarMass(actions.action("actMolarMass")),
-      m_stock(actions.action("actStock"))
+    : m_module(module), m_store(store), m_form1(form1), m_molarMass(actions.action(OwnAction::MolarMass)),
+      m_stock(actions.action(OwnAction::Stock))
 {
     connect(&m_molarMass, &QAction::triggered, this, &AnswerActions::openMolarMass);
     connect(&m_stock, &QAction::triggered, this, &AnswerActions::openStock);

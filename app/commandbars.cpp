@@ -10,6 +10,8 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Theme
@@ -38,7 +40,7 @@ QAction &CommandBars::action(int id)
     QAction *&action = m_actions[id];
     if (!action) {
         action = new QAction(&m_window);
-        action->setObjectName(QStringLiteral("Id%1").arg(id));
+        action->setObjectName(u"Id%1"_s.arg(id));
         action->setData(id);
         connect(action, &QAction::triggered, this, [this, id] { Q_EMIT execute(id); });
     }

@@ -10,10 +10,9 @@ class QMainWindow;
 class QToolBar;
 struct MenuLayout;
 
-/// Menu bar and tool bars of the main window: one action for each command, placed by the layout file.
+/// Menu bar and tool bars of the main window: an action for each command, placed by the layout file.
 ///
-/// An action's object name is "Id1124", its data the id. A command that the layout leaves out has its action
-/// all the same, without a place.
+/// An action's object name is "Id1124", its data the id. Commands that the layout omits have an action too.
 class CommandBars final : public QObject
 {
     Q_OBJECT
@@ -24,7 +23,7 @@ public:
     /// Builds menus and tool bars. Ids without a command get an action that does nothing.
     void load(const MenuLayout &layout);
 
-    /// Look of the tool bars by the theme values 0, 1, 2, 3, 5 and 6; any other leaves it as it is.
+    /// The look of the tool bars by theme, 0, 1, 2, 3, 5 or 6. Others leave it as it is.
     void setTheme(int theme);
 
     QAction &action(int id);
@@ -32,7 +31,7 @@ public:
 Q_SIGNALS:
     void execute(int id);
 
-    /// A menu is about to open: whoever knows sets the actions' enabled state.
+    /// A menu is about to open: time to enable and disable actions.
     void updateWanted();
 
 private:
@@ -41,6 +40,6 @@ private:
     QList<QToolBar *> m_toolBars;
 };
 
-/// The theme value for menu style @p style of the options: 0 to 3 as they are, 4 is theme 5, 5 is theme 6.
-/// The jump is meant. -1 for any other style: it sets no theme.
+/// The theme for menu style @p style of the options: styles 0 to 3 are themes 0 to 3, but 4 is 5 and 5 is 6.
+/// -1 for any other style.
 int themeOfMenuStyle(const Value &style);

@@ -20,12 +20,12 @@ enum class PanelId {
 
 inline constexpr int PanelCount = 12;
 
-/// A pane's frame and what panel 1 of the status bar says while it is on show.
+/// A pane's frame and its text in panel 1 of the status bar.
 struct PanelName
 {
     PanelId panel;
     const char *frame;
-    const char *statusText; ///< null for the one pane that no command shows
+    const char *statusText; ///< null for the pane without a command
 };
 
 inline constexpr std::array<PanelName, PanelCount> Panels{{
@@ -46,18 +46,17 @@ inline constexpr std::array<PanelName, PanelCount> Panels{{
 enum class CommandKind {
     Quit,
     Options,
-    ShowPanel,        ///< the pane, whatever is on show
-    ShowPanelOnce,    ///< nothing if the pane is on show
-    SolventTab,       ///< the Solvents pane, then the tab with the argument, from 1
-    SpectroscopyMode, ///< the Spectroscopy pane in the mode with the argument, from 0; nothing if it stands
-                      ///< there
+    ShowPanel,        ///< even if it is shown
+    ShowPanelOnce,    ///< unless it is shown
+    SolventTab,       ///< the Solvents pane with tab `argument`, from 1
+    SpectroscopyMode, ///< the Spectroscopy pane in mode `argument`, from 0, unless it is
     Find,
     About,
     Help,
     Export,
     WebSite,
     CheckVersion,
-    Nothing, ///< on the menu, never enabled
+    Nothing, ///< never enabled
 };
 
 struct Command
@@ -68,7 +67,7 @@ struct Command
     int argument = 0;
 };
 
-/// Commands that the code names besides the table.
+/// Commands used outside the table.
 namespace CommandId {
 inline constexpr int Quit = 1005;
 inline constexpr int Find = 1121;
@@ -79,7 +78,7 @@ inline constexpr int Print = 1125;
 inline constexpr int WebSite = 1134;
 } // namespace CommandId
 
-/// All commands there are. Other ids do nothing.
+/// All commands. Other ids do nothing.
 inline constexpr std::array Commands{
     Command{CommandId::Quit, CommandKind::Quit},
     Command{1058, CommandKind::Options},
@@ -113,7 +112,7 @@ inline constexpr std::array Commands{
     Command{1145, CommandKind::SpectroscopyMode, PanelId::Spectroscopy, 3},
 };
 
-/// The start module of the options: the pane for values 0 to 5; any other value chooses none.
+/// Panes by the start module of the options, 0 to 5. Other values choose none.
 inline constexpr std::array StartModules{PanelId::Solvents,     PanelId::Solutions,    PanelId::Elements,
                                          PanelId::Biochemistry, PanelId::Spectroscopy, PanelId::Calculations};
 

@@ -8,10 +8,10 @@
 #include <QMenuBar>
 
 CopyActions::CopyActions(const OwnActions &actions, QWidget &window)
-    : m_window(window), m_copyRow(actions.action("actCopyRow")), m_copyTable(actions.action("actCopyTable"))
+    : m_window(window), m_copyRow(actions.action(OwnAction::CopyRow)),
+      m_copyTable(actions.action(OwnAction::CopyTable))
 {
-    // The menu only shows the shortcuts: a list has them itself, and a text on the same pane copies its
-    // selection.
+    // The menu only shows the shortcuts. A list has its own, and a text copies its selection.
     m_copyRow.setShortcutContext(Qt::WidgetShortcut);
     m_copyTable.setShortcutContext(Qt::WidgetShortcut);
     connect(&m_copyRow, &QAction::triggered, this, [this] { list()->copyRow(); });

@@ -8,8 +8,7 @@ class QAction;
 class QWidget;
 class RowListView;
 
-/// "Copy row" and "Copy table" of the menu bar: for the list with the focus, or else for the only list on
-/// screen.
+/// "Copy row" and "Copy table" of the menu bar, for the list with the focus or the only visible list.
 class CopyActions final : public QObject
 {
     Q_OBJECT
@@ -18,7 +17,7 @@ public:
     /// @p window is the main window.
     CopyActions(const OwnActions &actions, QWidget &window);
 
-    /// Enables what can be copied now.
+    /// Enables the actions that can copy something.
     void update();
 
     /// The list that they copy from; null for none.
@@ -28,5 +27,5 @@ private:
     QWidget &m_window;
     QAction &m_copyRow;
     QAction &m_copyTable;
-    QPointer<RowListView> m_focused; ///< also while the menu bar has the focus
+    QPointer<RowListView> m_focused; ///< or was before the menu bar
 };

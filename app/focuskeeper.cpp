@@ -53,7 +53,7 @@ bool FocusKeeper::isInSight(const QWidget &control) const
     return control.isVisible() && control.isEnabled() && !covered;
 }
 
-// A pane with nothing to operate takes the focus itself.
+// A pane without controls takes the focus itself.
 QWidget &FocusKeeper::entry(bool paneChanged) const
 {
     QWidget *first = m_pane->firstFocus();

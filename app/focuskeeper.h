@@ -8,11 +8,10 @@ class ModulePanel;
 class PaneSwitch;
 class QWidget;
 
-/// Keeps the keyboard on what the user can see.
+/// Keeps the focus on a visible control, without the panes' help.
 ///
-/// A change of pane gives the focus to the control that had it there last, or to the first one of the Tab
-/// order. A change inside a pane that hides or covers the control with the focus does the same, and so does
-/// the end of a side window, while which the main window is disabled. No pane has to know of it.
+/// When the pane changes, a change hides or covers the focused control, or a side window closes, the focus
+/// goes to the control of the pane that had it last, or to the first of the Tab order.
 class FocusKeeper final : public QObject
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     FocusKeeper(QWidget &form, const PaneSwitch &panes);
 
 protected:
-    /// Of the application: something in the main window was shown or hidden, or the window was enabled.
+    /// Of the application: shows and hides in the main window, and its own enabling.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -33,7 +32,7 @@ private:
 
     QWidget &m_form;
     const PaneSwitch &m_panes;
-    ModulePanel *m_pane = nullptr;                        ///< that the focus was given to
-    QHash<const ModulePanel *, QPointer<QWidget>> m_last; ///< control of the pane that had the focus last
-    bool m_isWaiting = false;                             ///< for the end of the change under way
+    ModulePanel *m_pane = nullptr;                        ///< last given the focus
+    QHash<const ModulePanel *, QPointer<QWidget>> m_last; ///< the pane's control that had the focus last
+    bool m_isWaiting = false;                             ///< for the end of the current change
 };

@@ -54,7 +54,10 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     keepReadable();
     buildStatusBar();
     m_panes = std::make_unique<PaneSwitch>(*m_findBar, *m_panel1);
-    m_panes->setClearChartPanels([this] { ClearChartPanels(); });
+    m_panes->setClearChartPanels([this] {
+        m_spectroscopy->ClearChartPanels();
+        m_reactions->ClearChartPanels();
+    });
     buildPaneArea();
     m_options = std::make_unique<OptionsHost>(
         module, store, desktop,
@@ -63,7 +66,9 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     m_sourceAction =
         std::make_unique<SourceAction>(m_ownActions, m_copyActions, *m_panes, module, desktop, *this);
     m_focusKeeper = std::make_unique<FocusKeeper>(*this, *m_panes);
-    connectTray();
+    connect(&m_tray, &TrayIcon::commandWanted, this, &Form1::executeCommand);
+    connect(&m_tray, &TrayIcon::donationPageWanted, this,
+            [this] { m_desktop.openTarget(References::donationPage()); });
     connect(&m_commandBars, &CommandBars::execute, this, &Form1::executeCommand);
     connect(&m_commandBars, &CommandBars::updateWanted, this, &Form1::updateCommands);
 }
@@ -78,7 +83,7 @@ void Form1::buildPaneArea()
     for (const PanelName &panel : Panels)
         m_panes->add(panel.panel, *makePanel(panel.panel));
 
-    // Two boxes over the periodic table that name the rows standing apart from it.
+    // Two boxes that name the detached rows of the periodic table.
     const auto addCompanion = [&](const QString &name, const QString &text, const QRect &place) {
         auto *box = Controls::named(new QLineEdit(text, &m_panes->panel(PanelId::Elements)), name);
         box->setReadOnly(true);
@@ -121,40 +126,26 @@ ModulePanel *Form1::makePanel(PanelId id)
     case PanelId::Polymers:
         return new PolymersPane(m_paneArea);
     case PanelId::Spectroscopy:
-        return makeSpectroscopy();
+        m_spectroscopy = new SpectroscopyPane(m_module, m_store, m_desktop, m_paneArea);
+        connect(m_spectroscopy, &SpectroscopyPane::modeChanged, this, &Form1::updateCommands);
+        connect(m_spectroscopy, &SpectroscopyPane::referencesRequested, this,
+                [this] { openJournals(m_store.tables, *this); });
+        connect(m_spectroscopy, &SpectroscopyPane::colourCodeRequested, this,
+                [this] { openColourCode(*this); });
+        return m_spectroscopy;
     case PanelId::Reactions:
         m_reactions = new ReactionsPane(m_module, m_store, m_laterTables, m_desktop, m_paneArea);
         return m_reactions;
-    case PanelId::Electronics:
-        return makeElectronics();
+    case PanelId::Electronics: {
+        auto *pane = new ElectronicsPane(m_store, m_laterTables, m_desktop, m_paneArea);
+        connect(pane, &ElectronicsPane::mnemonicRequested, this, [this] { openMnemonic(*this); });
+        return pane;
+    }
     case PanelId::Donate:
         return new DonatePane(m_desktop, m_paneArea);
     default:
         return new ModulePanel(Panels[size_t(id)].frame, m_paneArea);
     }
-}
-
-ModulePanel *Form1::makeSpectroscopy()
-{
-    m_spectroscopy = new SpectroscopyPane(m_module, m_store, m_desktop, m_paneArea);
-    connect(m_spectroscopy, &SpectroscopyPane::modeChanged, this, &Form1::updateCommands);
-    connect(m_spectroscopy, &SpectroscopyPane::referencesRequested, this,
-            [this] { openJournals(m_store.tables, *this); });
-    connect(m_spectroscopy, &SpectroscopyPane::colourCodeRequested, this, [this] { openColourCode(*this); });
-    return m_spectroscopy;
-}
-
-ModulePanel *Form1::makeElectronics()
-{
-    auto *pane = new ElectronicsPane(m_store, m_laterTables, m_desktop, m_paneArea);
-    connect(pane, &ElectronicsPane::mnemonicRequested, this, [this] { openMnemonic(*this); });
-    return pane;
-}
-
-void Form1::ClearChartPanels()
-{
-    m_spectroscopy->ClearChartPanels();
-    m_reactions->ClearChartPanels();
 }
 
 void Form1::buildStatusBar()
@@ -175,23 +166,13 @@ void Form1::buildStatusBar()
     m_findBar = new FindBar(m_store, m_desktop, *m_panel3, this);
     statusBar()->addWidget(m_findBar);
     statusBar()->setFixedHeight(statusBar()->sizeHint().height() + 8);
-    // The open Find bar has room in the narrowest window, if the screen has it.
+    // The narrowest window has room for the open Find bar, if the screen has.
     m_findBar->open(false);
     constexpr int Spacing = 30; // of the status bar, altogether
     const int needed = m_panel1->minimumWidth() + m_panel3->minimumSizeHint().width() +
                        m_findBar->minimumSizeHint().width() + Spacing;
     setMinimumWidth(qMin(needed, screen()->availableSize().width() - Controls::WindowFrame.width()));
     m_findBar->ResetSearchPanel();
-}
-
-void Form1::connectTray()
-{
-    connect(&m_tray, &TrayIcon::helpWanted, this, [this] { executeCommand(CommandId::Help); });
-    connect(&m_tray, &TrayIcon::aboutWanted, this, [this] { executeCommand(CommandId::About); });
-    connect(&m_tray, &TrayIcon::webSiteWanted, this, [this] { executeCommand(CommandId::WebSite); });
-    connect(&m_tray, &TrayIcon::donationPageWanted, this,
-            [this] { m_desktop.openTarget(References::donationPage()); });
-    connect(&m_tray, &TrayIcon::quitWanted, this, &Form1::unloadAllWindows);
 }
 
 void Form1::load(frmload &splash, TableLoader &loader)
@@ -213,10 +194,10 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
         splash.ProgressTick();
         loader.LoadTable(TableCatalog::statement(step));
         if (step == 29)
-            splash.ProgressTick(); // one tick without a load, kept
+            splash.ProgressTick(); // a tick without a load: 37 make 185
         ++loader.LoadCounter;
     }
-    // The last four tables, resistors and reactions, wait until the user asks for them.
+    // Resistors and reactions are read when the user asks for them.
     for (int step = TableCatalog::LastStepAtStart + 1; step <= TableCatalog::LastStep; ++step) {
         splash.ProgressTick();
         if (step < TableCatalog::LastStep)
@@ -227,11 +208,10 @@ void Form1::loadTables(frmload &splash, TableLoader &loader)
 void Form1::loadMenus()
 {
     m_commandBars.load(MenuLayout::read(m_module.shippedFile(u"menuc_uk.xcb"_s)));
-    m_ownActions.place();
+    m_ownActions.place(m_commandBars);
     m_commandBars.setTheme(themeOfMenuStyle(m_module.OptionSlots(Slot::MenuStyle)));
     updateCommands();
-    // The pane whole, where the screen is large enough. adjustSize() would hold it to two thirds of the
-    // screen.
+    // The whole pane, if the screen is large enough. adjustSize() would stop at two thirds of the screen.
     resize(sizeHint().boundedTo(Controls::roomFor(*this)));
 }
 
@@ -279,7 +259,7 @@ void Form1::run(const Command &command)
     case CommandKind::WebSite:
         return m_desktop.openTarget(QLatin1StringView(BuildSettings::WebSite));
     case CommandKind::Options:
-        // Unlike a failure of other commands, a window that cannot be loaded ends the program.
+        // Errors of other commands are ignored; an options window that cannot load ends the program.
         return endOnError(m_desktop, [this] { m_options->open(); });
     case CommandKind::Export:
         return m_reportSave.run([this] { return reportContext(); });
@@ -313,7 +293,7 @@ ReportContext Form1::reportContext() const
 
 void Form1::checkVersion()
 {
-    // The English edition reads the file of that name too.
+    // The English edition reads the same file.
     m_miseAjour1.setAdresse(QLatin1StringView(BuildSettings::WebSite) + u"/versions_fr.ini"_s);
     m_miseAjour1.setLogiciel(u"ALEMBRA"_s);
     m_miseAjour1.setVersion(Module1::version());

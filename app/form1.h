@@ -33,7 +33,7 @@ class frmload;
 struct DataStore;
 struct Module1;
 
-/// The main window: owner of the panes and switchboard of the commands. It neither computes nor searches.
+/// The main window: owns the panes and dispatches the commands. It neither computes nor searches.
 class Form1 final : public QMainWindow
 {
     Q_OBJECT
@@ -42,33 +42,29 @@ public:
     Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Desktop &desktop, const Scale &scale);
     ~Form1() override;
 
-    /// Reads the options, loads all tables and fills the fixed lists, in this order, under the splash.
+    /// Reads options and tables and fills the fixed lists, in this order, under the splash.
     void load(frmload &splash, TableLoader &loader);
 
-    /// `Formoptions`, made on demand.
+    /// For `Formoptions`, which is made on demand.
     OptionsHost &options() { return *m_options; }
 
-    /// The start module of the options, if there is one.
+    /// Shows the start module of the options, if there is one.
     void showStartModule();
 
-    /// Runs command @p id; ids without a command do nothing. Failures inside are passed over.
+    /// Runs command @p id and ignores its errors. Unknown ids do nothing.
     void executeCommand(int id);
 
-    /// Enables what can be used with the pane and tab on show.
+    /// Enables the commands that the current pane and tab allow.
     void updateCommands();
 
-    /// Brings the window to the front, out of the tray too, or the modal dialog that is open.
+    /// Brings the open modal dialog to the front, or else the window, also from the tray.
     void restoreAndRaise();
-
-    /// Into the tray or back.
-    void ToggleTray() { m_tray.ToggleTray(); }
 
     /// 0 while the window is on the screen, -1 while it is in the tray.
     qint16 TrayMinimized() const { return m_tray.TrayMinimized; }
 
 protected:
-    /// Closing by any route unloads every window. A side window that is open keeps the main window from
-    /// closing.
+    /// Unloads every window, unless a side window is open.
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -76,11 +72,7 @@ protected:
 private:
     void buildPaneArea();
     void buildStatusBar();
-    void connectTray();
     ModulePanel *makePanel(PanelId id);
-    ModulePanel *makeSpectroscopy();
-    ModulePanel *makeElectronics();
-    void ClearChartPanels();
     void loadTables(frmload &splash, TableLoader &loader);
     void loadMenus();
     void run(const Command &command);
@@ -101,7 +93,7 @@ private:
     CommandBars m_commandBars{*this};
     OwnActions m_ownActions{*this};
     CopyActions m_copyActions{m_ownActions, *this};
-    HelpOpener m_help{m_module, m_desktop, m_ownActions.action("actHelpPages")};
+    HelpOpener m_help{m_module, m_desktop, m_ownActions.action(OwnAction::HelpPages)};
     ScaleActions m_scaleActions;
     AnswerActions m_answerActions;
     PrintActions m_printActions;

@@ -11,6 +11,8 @@
 #include <QProgressBar>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize WindowSize{470, 244};
@@ -27,24 +29,24 @@ int progressPercent(int value, int maximum)
 
 frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
 {
-    setObjectName(QStringLiteral("frmload"));
-    setWindowTitle(QStringLiteral("0% Alembra"));
+    setObjectName(u"frmload"_s);
+    setWindowTitle(u"0% Alembra"_s);
     setFixedSize(WindowSize);
     setFont(ModulePanel::fittingFont(font())); // fixed in size like the panes
 
-    auto *picture = Controls::label(QStringLiteral("Image1"), {}, this);
+    auto *picture = Controls::label(u"Image1"_s, {}, this);
     picture->setPixmap(QApplication::windowIcon().pixmap(QSize(88, 88), devicePixelRatio()));
     picture->setGeometry(20, 24, 88, 88);
 
     QLabel *title = addLine("lblTitle", VersionRecord::ApplicationTitle, 22, 26);
     title->setFont(Controls::largeType(title->font()));
-    addLine("lblVersion", QStringLiteral("Version %1").arg(Module1::version()), 50, 20);
+    addLine("lblVersion", u"Version %1"_s.arg(Module1::version()), 50, 20);
     addLine("lblDescription", VersionRecord::Comments, 72, 68);
     addLine("lblcopy", VersionRecord::LegalNotice, 142, 48);
 
-    auto *doing = Controls::label(QStringLiteral("Label1"), QStringLiteral("Loading data..."), this);
+    auto *doing = Controls::label(u"Label1"_s, u"Loading data..."_s, this);
     doing->setGeometry(20, 192, WindowSize.width() - 40, 18);
-    m_progressBar = Controls::named(new QProgressBar(this), QStringLiteral("ProgressBar1"));
+    m_progressBar = Controls::named(new QProgressBar(this), u"ProgressBar1"_s);
     m_progressBar->setTextVisible(false);
     m_progressBar->setGeometry(20, 214, WindowSize.width() - 40, 14);
     m_progressBar->setRange(0, 100);
@@ -53,7 +55,7 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
 
 QLabel *frmload::addLine(const char *name, const QString &text, int top, int height)
 {
-    QLabel *line = Controls::label(QLatin1StringView(name), text, this);
+    QLabel *line = Controls::label(name, text, this);
     line->setWordWrap(true);
     line->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     line->setGeometry(TextLeft, top, WindowSize.width() - TextLeft - 16, height);
@@ -73,7 +75,6 @@ void frmload::setMaximum(int maximum)
 
 void frmload::ProgressTick()
 {
-    m_progressBar->setValue(m_progressBar->value() + 5); // paints at once: nothing else does during the load
-    setWindowTitle(
-        QStringLiteral("%1% Alembra").arg(progressPercent(m_progressBar->value(), m_progressBar->maximum())));
+    m_progressBar->setValue(m_progressBar->value() + 5); // paints at once, without an event loop
+    setWindowTitle(u"%1% Alembra"_s.arg(progressPercent(m_progressBar->value(), m_progressBar->maximum())));
 }

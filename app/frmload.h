@@ -6,7 +6,7 @@ class Desktop;
 class QLabel;
 class QProgressBar;
 
-/// The splash window: what the program is, and how far the load has come.
+/// The splash window: the program's name and the progress of the load.
 class frmload final : public QWidget
 {
     Q_OBJECT
@@ -14,13 +14,13 @@ class frmload final : public QWidget
 public:
     frmload();
 
-    /// Shows the window and lets it paint: 0.05 second, the only wait of the start.
+    /// Shows the window and lets it paint for 0.05 seconds, the only wait of the start.
     void showAndPause(Desktop &desktop);
 
-    /// Five further, and the percentage in the caption.
+    /// Adds five and shows the percentage in the caption.
     void ProgressTick();
 
-    /// The bar's design value is 100, until the load knows its 37 ticks.
+    /// 100 at first.
     void setMaximum(int maximum);
 
 private:
@@ -29,5 +29,5 @@ private:
     QProgressBar *m_progressBar;
 };
 
-/// Percentage of a progress bar in single precision, rounded half to even.
+/// In single precision, rounded half to even.
 int progressPercent(int value, int maximum);

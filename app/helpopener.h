@@ -8,17 +8,17 @@ class HelpPages;
 class QAction;
 struct Module1;
 
-/// The help: in the viewer that the desktop has for it, or in a window of the program.
+/// Opens the help, in the desktop's viewer or in a window of the program.
 class HelpOpener final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p ownPages is the menu entry for the window of the program.
+    /// @p ownPages opens the program's own window.
     HelpOpener(const Module1 &module, Desktop &desktop, const QAction &ownPages);
 
-    /// Hands the help file to the desktop. Where that has no viewer, or does not say, shows the same pages
-    /// in the program's own window.
+    /// Opens the help file with the desktop's viewer. Without one, or if that is unknown, shows the same
+    /// pages in the program's own window.
     void open();
 
 private:

@@ -9,13 +9,15 @@
 #include <cstdio>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int WrongUsage = 2; // the status of the process
 constexpr char FactorVariable[] = "QT_SCALE_FACTOR";
 
-/// Qt reads its scale factor once, when the application object is made. What the program starts afterwards
-/// must not inherit it.
+/// Qt reads its scale factor when the application object is made. Programs that this one starts must not
+/// inherit it.
 std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, int percent)
 {
     if (percent == Scale::Normal)
@@ -31,7 +33,7 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, int percen
     return application;
 }
 
-/// The factor enlarges the desktop's type as well, which is the one that asked for it.
+/// Sets the font back by the factor that follows the desktop's font, so that it is not enlarged twice.
 void setFont(const Scale &scale)
 {
     if (scale.byDesktop == Scale::Normal)
@@ -46,13 +48,13 @@ int run(int &argc, char **argv)
     const StartAgain::Left left = StartAgain::take();
     Scale scale{.percent = left.percent ? left.percent : Scale::remembered()};
     const std::unique_ptr<QApplication> application = makeApplication(argc, argv, scale.percent);
-    QApplication::setApplicationName(QStringLiteral("Alembra_uk"));
-    // The menu entry, by which a desktop finds the icon of a window.
-    QApplication::setDesktopFileName(QStringLiteral("alembra"));
+    QApplication::setApplicationName(u"Alembra_uk"_s);
+    // By this name of the menu entry desktops find a window's icon.
+    QApplication::setDesktopFileName(u"alembra"_s);
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() > 2 || arguments.value(1).startsWith(QLatin1Char('-'))) {
+    if (arguments.size() > 2 || arguments.value(1).startsWith(u'-')) {
         std::fprintf(stderr, "usage: %s [folder for your options and database]\n", argv[0]);
         return WrongUsage;
     }
@@ -60,7 +62,7 @@ int run(int &argc, char **argv)
     scale.byDesktop = Scale::forFontSize(QApplication::font().pointSizeF());
     const int wanted = Scale::chosenOr(scale.byDesktop);
     if (!left.percent && wanted != scale.percent) {
-        StartAgain::leave({wanted, {}}); // the desktop's type has changed since the last time
+        StartAgain::leave({wanted, {}}); // the desktop's font has changed since the last run
         return 0;
     }
     setFont(scale);

@@ -4,84 +4,38 @@
 
 #include <QXmlStreamReader>
 
-namespace {
-
-/// Reads the layout's XML. An element or id that does not belong raises an error in the stream, which ends
-/// the walk.
-class LayoutReader
-{
-public:
-    explicit LayoutReader(const QString &path) : m_xml(FileErrors::readWhole(path)), m_path(path) {}
-
-    MenuLayout read()
-    {
-        MenuLayout layout;
-        if (!m_xml.readNextStartElement() || m_xml.name() != QLatin1StringView("layout"))
-            m_xml.raiseError(QStringLiteral("not a menu layout"));
-        while (m_xml.readNextStartElement()) {
-            if (m_xml.name() == QLatin1StringView("menubar"))
-                readMenuBar(layout);
-            else if (m_xml.name() == QLatin1StringView("toolbar"))
-                layout.toolBars << readMenu(QLatin1StringView("name"));
-            else
-                refuseElement();
-        }
-        if (m_xml.hasError())
-            throw RuntimeError(
-                ErrorNumber::InvalidFileFormat,
-                QStringLiteral("%1:%2: %3").arg(m_path).arg(m_xml.lineNumber()).arg(m_xml.errorString()));
-        return layout;
-    }
-
-private:
-    void readMenuBar(MenuLayout &layout)
-    {
-        while (m_xml.readNextStartElement()) {
-            if (m_xml.name() == QLatin1StringView("menu"))
-                layout.menus << readMenu(QLatin1StringView("caption"));
-            else
-                refuseElement();
-        }
-    }
-
-    MenuLayout::Menu readMenu(QLatin1StringView captionAttribute)
-    {
-        MenuLayout::Menu menu;
-        menu.caption = m_xml.attributes().value(captionAttribute).toString();
-        while (m_xml.readNextStartElement()) {
-            if (m_xml.name() == QLatin1StringView("command"))
-                menu.entries << readCommand();
-            else if (m_xml.name() == QLatin1StringView("separator"))
-                menu.entries << MenuLayout::Entry{};
-            else
-                refuseElement();
-            m_xml.skipCurrentElement();
-        }
-        return menu;
-    }
-
-    MenuLayout::Entry readCommand()
-    {
-        const QXmlStreamAttributes attributes = m_xml.attributes();
-        const auto text = [&](const char *name) {
-            return attributes.value(QLatin1StringView(name)).toString();
-        };
-        const MenuLayout::Entry entry{attributes.value(QLatin1StringView("id")).toInt(), text("caption"),
-                                      text("short"), text("shortcut"), text("icon")};
-        if (entry.id <= 0)
-            m_xml.raiseError(QStringLiteral("a command without an id"));
-        return entry;
-    }
-
-    void refuseElement() { m_xml.raiseError(QStringLiteral("unexpected <%1>").arg(m_xml.name())); }
-
-    QXmlStreamReader m_xml;
-    const QString m_path;
-};
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 MenuLayout MenuLayout::read(const QString &path)
 {
-    return LayoutReader(path).read();
+    MenuLayout layout;
+    QXmlStreamReader xml(FileErrors::readWhole(path));
+    QList<Entry> *entries = nullptr; // of the menu or tool bar being read
+    const auto text = [&](const QString &attribute) { return xml.attributes().value(attribute).toString(); };
+    const auto begin = [&](QList<Menu> &menus, const QString &caption) {
+        menus << Menu{caption, {}};
+        entries = &menus.last().entries;
+    };
+
+    if (!xml.readNextStartElement() || xml.name() != u"layout"_s)
+        xml.raiseError(u"not a menu layout"_s);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() == u"menubar"_s)
+            continue;
+        if (xml.name() == u"menu"_s)
+            begin(layout.menus, text(u"caption"_s));
+        else if (xml.name() == u"toolbar"_s)
+            begin(layout.toolBars, text(u"name"_s));
+        else if (entries && xml.name() == u"separator"_s)
+            *entries << Entry{};
+        else if (entries && xml.name() == u"command"_s && text(u"id"_s).toInt() > 0)
+            *entries << Entry{text(u"id"_s).toInt(), text(u"caption"_s), text(u"short"_s),
+                              text(u"shortcut"_s), text(u"icon"_s)};
+        else
+            xml.raiseError(u"unexpected <%1>, or a command without an id"_s.arg(xml.name()));
+    }
+    if (xml.hasError())
+        throw RuntimeError(ErrorNumber::InvalidFileFormat,
+                           u"%1:%2: %3"_s.arg(path).arg(xml.lineNumber()).arg(xml.errorString()));
+    return layout;
 }

@@ -3,15 +3,15 @@
 #include <QList>
 #include <QString>
 
-/// The tree of menus and the tool bars, as the layout file tells them.
+/// Menus and tool bars, as in the layout file.
 struct MenuLayout
 {
-    /// A command's place. Id 0 is a separator. A tool bar names commands by id only.
+    /// A command; id 0 is a separator. Entries of a tool bar have an id only.
     struct Entry
     {
         int id = 0;
         QString caption;
-        QString shortCaption; ///< for a tool bar; empty where the caption serves
+        QString shortCaption; ///< for tool bars; empty for the caption
         QString shortcut;     ///< portable form, "Ctrl+F"
         QString icon;         ///< name of a drawn icon
     };
@@ -25,6 +25,6 @@ struct MenuLayout
     QList<Menu> menus;
     QList<Menu> toolBars;
 
-    /// RuntimeError 53 or 75 for a file that cannot be read, 321 with line number for one that is no layout.
+    /// RuntimeError 53 or 75 for an unreadable file, 321 with the line number for one that is no layout.
     static MenuLayout read(const QString &path);
 };

@@ -47,7 +47,7 @@ void OptionsHost::loadHidden()
 void OptionsHost::open()
 {
     Formoptions &window = loaded();
-    window.setAttribute(Qt::WA_Moved, false); // back from where it was hidden to the middle of its owner
+    window.setAttribute(Qt::WA_Moved, false); // to the middle of its owner again
     window.showAboveOwner();
 }
 

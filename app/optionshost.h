@@ -13,13 +13,13 @@ class TrayIcon;
 struct DataStore;
 struct Module1;
 
-/// Opens `Formoptions` and applies the options to the main window: when it loads and on its OK.
+/// Opens `Formoptions` and applies the options to the main window, when it loads and on its OK.
 class OptionsHost final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Parts of the main window that options reach.
+    /// Parts of the main window with options.
     struct Parts
     {
         CommandBars &commandBars;
@@ -53,5 +53,5 @@ private:
     Desktop &m_desktop;
     const Parts m_parts;
     QWidget &m_form;
-    Formoptions *m_window = nullptr; ///< null while it is not loaded
+    Formoptions *m_window = nullptr; ///< null while not loaded
 };

@@ -1,13 +1,31 @@
 #pragma once
 
 #include <QString>
+#include <map>
 
+class CommandBars;
 class QAction;
 class QMainWindow;
 class QMenu;
+class QMenuBar;
 
-/// The entries of the menu bar that are the program's own, beside the commands of the layout file: an action
-/// each. They do nothing until somebody connects to them.
+enum class OwnAction {
+    PrintReport,
+    PdfReport,
+    CopyRow,
+    CopyTable,
+    WhereFrom,
+    ZoomIn,
+    ZoomOut,
+    ZoomReset,
+    FitWindow,
+    MolarMass,
+    Stock,
+    HelpPages
+};
+
+/// The program's own menu entries, in addition to the commands of the layout file: an action each, which its
+/// user connects.
 class OwnActions final
 {
     Q_DISABLE_COPY_MOVE(OwnActions)
@@ -15,15 +33,15 @@ class OwnActions final
 public:
     explicit OwnActions(QMainWindow &window);
 
-    /// The action of that object name, "actCopyRow".
-    QAction &action(const char *name) const;
+    QAction &action(OwnAction id) const { return *m_actions.at(id); }
 
-    /// Puts the entries into their menus, after the layout has been loaded. A menu is known by its caption;
+    /// Puts the entries into their menus, after @p bars has loaded the layout. Menus are found by caption;
     /// one that the layout lacks is made, to the right of the menu of the entry before.
-    void place();
+    void place(CommandBars &bars);
 
 private:
     QMenu &menu(const QString &caption, QAction *leftNeighbour);
 
-    QMainWindow &m_window;
+    QMenuBar &m_menuBar;
+    std::map<OwnAction, QAction *> m_actions;
 };

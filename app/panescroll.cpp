@@ -8,7 +8,7 @@
 PaneScroll::PaneScroll(QWidget &paneArea, QWidget *parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // the panes' controls take the keyboard, and it follows them
+    setFocusPolicy(Qt::NoFocus); // the panes' controls take it
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setWidget(&paneArea);
     for (ModulePanel *pane : paneArea.findChildren<ModulePanel *>(Qt::FindDirectChildrenOnly))
@@ -20,14 +20,14 @@ QSize PaneScroll::sizeHint() const
     return ModulePanel::Size;
 }
 
-// Qt also passes on the focus of a control that is being hidden. Only Tab may scroll to where the focus goes.
+// Only Tab may scroll to the focus. Qt also passes it on when a control is hidden.
 bool PaneScroll::focusNextPrevChild(bool next)
 {
     const bool byTab = focusWidget() && focusWidget()->isVisible();
     return byTab ? QScrollArea::focusNextPrevChild(next) : QWidget::focusNextPrevChild(next);
 }
 
-// A pane that comes up shows its top left.
+// A new pane shows its top left.
 bool PaneScroll::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShowToParent) {

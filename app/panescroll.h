@@ -2,17 +2,16 @@
 
 #include <QScrollArea>
 
-/// The room of the panes in the main window. In a window smaller than a pane the pane scrolls; in a larger
-/// one it stays at the top left.
+/// The area of the panes in the main window. Panes scroll in a window that is too small and stay at the top
+/// left of a larger one.
 class PaneScroll final : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// @p paneArea is the parent of the panes, which are there already.
+    /// @p paneArea is the parent of the panes, which exist.
     PaneScroll(QWidget &paneArea, QWidget *parent);
 
-    /// The size of a whole pane.
     QSize sizeHint() const override;
 
 protected:

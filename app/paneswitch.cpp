@@ -40,7 +40,7 @@ ModulePanel *PaneSwitch::shownPanel() const
     return shown == m_panels.end() ? nullptr : *shown;
 }
 
-// The new pane first, so that the window never stands empty between the two.
+// The new pane first, so that the window is never blank in between.
 void PaneSwitch::makeVisible(PanelId id)
 {
     panel(id).setVisible(true);
@@ -54,5 +54,5 @@ void PaneSwitch::makeVisible(PanelId id)
 void PaneSwitch::setPanelText(PanelId id)
 {
     if (const char *text = Panels[size_t(id)].statusText)
-        m_panel1.setText(QString::fromLatin1(text));
+        m_panel1.setText(text);
 }

@@ -9,7 +9,7 @@ class ModulePanel;
 class QLabel;
 class QWidget;
 
-/// Shows one pane at a time. Which one is on show is known from the panes alone.
+/// Shows one pane at a time.
 class PaneSwitch final
 {
 public:
@@ -18,16 +18,16 @@ public:
 
     void add(PanelId id, ModulePanel &panel) { m_panels[size_t(id)] = &panel; }
 
-    /// A widget that is on show with the Elements pane only.
+    /// A widget that is shown with the Elements pane only.
     void addElementsCompanion(QWidget &widget) { m_companions[m_companionCount++] = &widget; }
 
-    /// What empties the chart areas on every switch.
+    /// Runs on every switch.
     void setClearChartPanels(std::function<void()> clear) { m_clearChartPanels = std::move(clear); }
 
-    /// The whole switch. @p beforePanelText is what a command does before the status bar names the pane.
+    /// Runs @p beforePanelText before the status bar names the pane.
     void show(PanelId id, const std::function<void()> &beforePanelText = {});
 
-    /// The switch to the start module, which leaves the companions and the charts alone.
+    /// Shows the start module, without a change of companions and charts.
     void showAtStart(PanelId id);
 
     bool isShown(PanelId id) const;

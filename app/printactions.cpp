@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 PrintActions::PrintActions(const OwnActions &actions, ReportSave &reports, Context onShow, QWidget &form1)
     : m_reports(reports), m_onShow(std::move(onShow)), m_form1(form1),
-      m_print(actions.action("actPrintReport")), m_pdf(actions.action("actPdfReport"))
+      m_print(actions.action(OwnAction::PrintReport)), m_pdf(actions.action(OwnAction::PdfReport))
 {
     connect(&m_print, &QAction::triggered, this, &PrintActions::openPreview);
     connect(&m_pdf, &QAction::triggered, this, [this] { m_reports.runPdf(m_onShow, PaperReport::pdf); });

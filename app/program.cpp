@@ -28,23 +28,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether another instance has taken over. One that exists but does not answer ends the process.
+/// An instance that exists but does not answer ends the process.
 bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
 {
-    switch (instance.activatePrevious()) {
-    case SingleInstance::Previous::None:
-        return false;
-    case SingleInstance::Previous::Answered:
-        return true;
-    case SingleInstance::Previous::Silent:
-        break;
-    }
-    desktop.endWithMessage(QStringLiteral("Alembra is already running, but it does not answer. Wait until it "
-                                          "has finished its work, or end it, and start Alembra again."));
+    const SingleInstance::Previous previous = instance.activatePrevious();
+    if (previous == SingleInstance::Previous::Silent)
+        desktop.endWithMessage(
+            u"Alembra is already running, but it does not answer. Wait until it has finished its work, or "
+            "end it, and start Alembra again."_s);
+    return previous == SingleInstance::Previous::Answered;
 }
 
-/// Compares the user's database with what this program reads. True if the user wants the original instead.
-/// @p isNewsOfOriginal: there is a new one, and the changed database stayed.
+/// Compares the user's database with what this program reads. True if the user wants the original instead. @p
+/// isNewsOfOriginal: there is a new one, and the changed database stayed.
 bool userWantsOriginal(Desktop &desktop, const JetFile &database, bool isNewsOfOriginal)
 {
     constexpr int MaxGaps = 10; // a box as high as the screen has no buttons to click on
@@ -55,8 +51,8 @@ bool userWantsOriginal(Desktop &desktop, const JetFile &database, bool isNewsOfO
         gaps = gaps.first(MaxGaps) << u"There is more of this."_s;
     if (gaps.isEmpty() && isNewsOfOriginal)
         desktop.messageBox(u"There is a new database. Yours was changed, so it stays as it is.\n\nTo use the "
-                           u"new one, choose "
-                           "Restore in the options, on the tab Database. Save a copy of yours before."_s,
+                           "new one, choose Restore in the options, on the tab Database. Save a copy of "
+                           "yours before."_s,
                            Desktop::Information);
     return !gaps.isEmpty() &&
            desktop.messageBox(
@@ -86,12 +82,12 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
         if (complete)
             complete->restoreAndRaise();
         else
-            ModalDialogs::raise(); // a question of the start
+            ModalDialogs::raise(); // a question during the start
     });
     const bool hasUserFolder = !shippedFolder.isEmpty();
     const bool isNewsOfOriginal = hasUserFolder && UserFolder::renew(appFolder, shippedFolder);
 
-    QApplication::setKeyboardInputInterval(1000); // names are typed into lists one letter after the other
+    QApplication::setKeyboardInputInterval(1000); // time between the letters of a name in a list
     AccessibleRoles::install();
     Module1 module;
     module.AppFolder = appFolder;
@@ -112,7 +108,7 @@ int Main(Desktop &desktop, const QString &appFolder, const QString &shippedFolde
     LaterTables laterTables(store, loader, recovery);
     frmload splash;
     Form1 form(module, store, laterTables, desktop, scale);
-    endOnError(desktop, [&] { // here, so that a failure is reported while the splash is on the screen
+    endOnError(desktop, [&] { // inside Main, so that errors are reported above the splash
         form.load(splash, loader);
         form.show();
         if (session.isEmpty() && module.OptionSlots(Slot::TipAtStart).equals(1))

@@ -13,10 +13,10 @@
 ScaleActions::ScaleActions(const OwnActions &actions, const Scale &scale, LaterTables &tables, Form1 &form)
     : m_scale(scale), m_tables(tables), m_form(form)
 {
-    addAction(actions.action("actZoomIn"), &ScaleActions::larger);
-    addAction(actions.action("actZoomOut"), &ScaleActions::smaller);
-    addAction(actions.action("actZoomReset"), &ScaleActions::byDesktop);
-    addAction(actions.action("actFitWindow"), &ScaleActions::fitting);
+    addAction(actions.action(OwnAction::ZoomIn), &ScaleActions::larger);
+    addAction(actions.action(OwnAction::ZoomOut), &ScaleActions::smaller);
+    addAction(actions.action(OwnAction::ZoomReset), &ScaleActions::byDesktop);
+    addAction(actions.action(OwnAction::FitWindow), &ScaleActions::fitting);
 }
 
 void ScaleActions::addAction(QAction &action, int (ScaleActions::*proposed)() const)
@@ -25,7 +25,7 @@ void ScaleActions::addAction(QAction &action, int (ScaleActions::*proposed)() co
     connect(&action, &QAction::triggered, this, [this, proposed] { propose((this->*proposed)()); });
 }
 
-// The main window whole, on the screen that it is on.
+// The whole main window on its screen.
 int ScaleActions::fitting() const
 {
     const QSize atNormal = m_form.screen()->availableSize() * m_scale.percent / Scale::Normal;
@@ -37,7 +37,7 @@ int ScaleActions::percent() const
     return m_window ? m_window->percent() : m_scale.percent;
 }
 
-// The shortcuts work in the window too: each press goes a step further.
+// The shortcuts work in the window too: each press is one more step.
 void ScaleActions::propose(int percent)
 {
     if (!m_window) {

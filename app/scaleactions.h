@@ -12,7 +12,7 @@ class OwnActions;
 class QAction;
 class frmScale;
 
-/// "Zoom in", "Zoom out", "Default size" and "Fit to screen" of the menu bar: each proposes a size in
+/// "Zoom in", "Zoom out", "Default size" and "Fit to screen" of the menu bar. Each proposes a size in
 /// `frmScale`.
 class ScaleActions final : public QObject
 {
@@ -36,5 +36,5 @@ private:
     LaterTables &m_tables;
     Form1 &m_form;
     QList<QAction *> m_actions;
-    QPointer<frmScale> m_window; ///< null while it is not open
+    QPointer<frmScale> m_window; ///< null while not open
 };

@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QTabBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QLatin1StringView Maximised("maximised");
@@ -18,14 +20,14 @@ constexpr QLatin1StringView TablesRead("tables read");
 constexpr QLatin1StringView Pane("pane");
 constexpr QLatin1StringView Element("element");
 
-/// A class of controls, and what is kept of each.
+/// A class of controls and the property to save.
 struct Kind
 {
     const char *control;
     const char *property; ///< null: the current row
 };
 
-// In the order in which they come back: a tab decides which controls there are, an option empties fields.
+// In the order of restoring: tabs decide which controls there are, options empty fields.
 constexpr std::array Kinds{
     Kind{"QTabBar", "currentIndex"},    Kind{"QAbstractButton", "checked"}, Kind{"QComboBox", "currentIndex"},
     Kind{"QAbstractItemView", nullptr}, Kind{"QLineEdit", "text"},
@@ -38,7 +40,7 @@ QList<QWidget *> controlsOf(const QWidget &pane, const Kind &kind)
         const QString name = control->objectName();
         const auto *button = qobject_cast<const QAbstractButton *>(control);
         const auto *field = qobject_cast<const QLineEdit *>(control);
-        return !control->inherits(kind.control) || name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
+        return !control->inherits(kind.control) || name.isEmpty() || name.startsWith(u"qt_"_s) ||
                (button && !button->isCheckable()) || (field && field->isReadOnly());
     });
     return controls;
@@ -51,11 +53,11 @@ QVariant valueOf(const QWidget &control, const Kind &kind)
     return qobject_cast<const QAbstractItemView *>(&control)->currentIndex().row();
 }
 
-// Handlers answer to a click on a button or a row, and to a typed text.
+// Handlers react to clicks and typed texts.
 void setValue(QWidget &control, const Kind &kind, const QVariant &value)
 {
     if (auto *button = qobject_cast<QAbstractButton *>(&control)) {
-        if (value.toBool()) // else another option of its group is
+        if (value.toBool()) // else another option of the group is on
             button->click();
     } else if (auto *list = qobject_cast<RowListView *>(&control)) {
         list->selectRow(value.toInt());
@@ -95,7 +97,7 @@ void show(Form1 &form, const QString &pane)
     for (const Command &command : Commands) {
         const bool shows =
             command.kind == CommandKind::ShowPanel || command.kind == CommandKind::ShowPanelOnce;
-        if (shows && pane == QLatin1StringView(Panels[size_t(command.panel)].frame))
+        if (shows && pane == Panels[size_t(command.panel)].frame)
             form.executeCommand(command.id);
     }
 }
@@ -124,7 +126,7 @@ void Session::restore(const QJsonObject &session, Form1 &form, LaterTables &tabl
         tables.read();
     if (const int element = session[Element].toInt(-1); element >= 0)
         form.findChild<ElementsPane *>()->select(element);
-    // The pane in front last: to change to a pane empties its charts.
+    // The current pane last: a switch empties the charts.
     const QString shown = session[Pane].toString();
     QList<ModulePanel *> panes = form.findChildren<ModulePanel *>();
     std::stable_partition(panes.begin(), panes.end(),

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QLocalSocket>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int AnswerMilliseconds = 3000;
@@ -12,12 +14,12 @@ constexpr char Answer = 1;
 
 QString socketPath(const QString &appFolder)
 {
-    const QString whose = QDir::homePath() + QLatin1Char('\n') + QFileInfo(appFolder).canonicalFilePath();
+    const QString whose = QDir::homePath() + u'\n' + QFileInfo(appFolder).canonicalFilePath();
     const QByteArray hash = QCryptographicHash::hash(whose.toUtf8(), QCryptographicHash::Sha256).toHex();
-    // The session's own folder if there is one: no other user can put a socket there.
+    // No other user can put a socket into the session's folder.
     const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
     const QDir place(QFileInfo(session).isDir() ? session : QDir::tempPath());
-    return place.absoluteFilePath(QStringLiteral("alembra-") + QLatin1StringView(hash.first(16)));
+    return place.absoluteFilePath(u"alembra-"_s + QLatin1StringView(hash.first(16)));
 }
 
 } // namespace
@@ -37,7 +39,7 @@ SingleInstance::Previous SingleInstance::activatePrevious() const
                           socket.waitForReadyRead(int(end.remainingTime()));
     if (answered)
         return Previous::Answered;
-    // An instance that ends hangs up. Only one that neither answers nor hangs up is still there.
+    // An instance that ends closes the connection.
     return end.hasExpired() ? Previous::Silent : Previous::None;
 }
 

@@ -16,7 +16,7 @@ SourceAction::SourceAction(const OwnActions &actions, const CopyActions &lists, 
                            const Module1 &module, Desktop &desktop, QWidget &form)
     : m_lists(lists), m_panes(panes), m_module(module), m_desktop(desktop), m_form(form)
 {
-    QAction &action = actions.action("actWhereFrom");
+    QAction &action = actions.action(OwnAction::WhereFrom);
     action.setShortcutVisibleInContextMenu(true);
     connect(&action, &QAction::triggered, this, &SourceAction::open);
     // Lists are made when their pane is first shown. A right click gives the list the focus before its menu.

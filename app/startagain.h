@@ -2,23 +2,21 @@
 
 #include <QJsonObject>
 
-/// A run that ends for another one to go on in its place, at another scale.
-///
-/// What it leaves is in the environment of the process that takes its place.
+/// Restarts the program at another scale. The environment passes state to the next run.
 namespace StartAgain {
 
 struct Left
 {
-    int percent = 0;     ///< the scale of the next run; 0: nothing was left
-    QJsonObject session; ///< what the next run comes back to, see Session; empty: it starts anew
+    int percent = 0;     ///< scale of the next run; 0: this was no restart
+    QJsonObject session; ///< see Session; empty: none
 };
 
 void leave(const Left &left);
 
-/// Whether the next run is waited for.
+/// Whether leave() was called.
 bool isWanted();
 
-/// What the run before has left, once.
+/// What the last run left, once.
 Left take();
 
 } // namespace StartAgain

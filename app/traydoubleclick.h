@@ -3,13 +3,12 @@
 #include <QtGlobal>
 #include <optional>
 
-/// Tells double clicks on the icon in the notification area, each once.
-///
-/// Notification areas differ: some tell of a click and then of a double click, others of every click alone.
+/// Recognises double clicks on the tray icon. Some trays report a click and then a double click, others only
+/// single clicks.
 class TrayDoubleClick final
 {
 public:
-    /// @p interval is the longest time between two clicks of one double click, in milliseconds.
+    /// @p interval is the maximum time between the two clicks, in milliseconds.
     explicit TrayDoubleClick(int interval) : m_interval(interval) {}
 
     /// A click at @p now, in milliseconds. True if it is the second of two.
@@ -21,7 +20,7 @@ public:
         return false;
     }
 
-    /// The notification area's own double click at @p now. True unless its clicks were counted already.
+    /// A double click that the tray reports at @p now. False if its clicks already made one.
     bool doubleClick(qint64 now) { return (m_clicked || !within(m_taken, now)) && take(now); }
 
 private:

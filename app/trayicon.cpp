@@ -1,5 +1,6 @@
 #include "app/trayicon.h"
 
+#include "app/commands.h"
 #include "core/optionslots.h"
 #include "widgets/modaldialogs.h"
 
@@ -10,14 +11,16 @@
 #include <QWindow>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const auto MinimizeCaption = QLatin1StringView("Minimize Alembra");
-const auto OpenCaption = QLatin1StringView("Open Alembra");
+constexpr QLatin1StringView MinimizeCaption("Minimize Alembra");
+constexpr QLatin1StringView OpenCaption("Open Alembra");
 
 constexpr int BalloonMilliseconds = 10000;
 
-// The windows that the way into the tray unloads, in this order. Others stay open.
+// The windows to unload on the way into the tray, in this order. Others stay open.
 constexpr std::array UnloadedWindows{"Form2",       "Form4",    "Form5", "Formhelp",
                                      "Formoptions", "frmAbout", "frmTip"};
 
@@ -28,39 +31,39 @@ TrayIcon::TrayIcon(QWidget &form, const OptionSlots &options)
       m_doubleClick(QGuiApplication::styleHints()->mouseDoubleClickInterval())
 {
     m_clock.start();
-    m_icon.setObjectName(QStringLiteral("TrayIcon"));
-    m_mnuTray.setObjectName(QStringLiteral("mnuTray"));
-    addItem("menuaide", QStringLiteral("Help"), &TrayIcon::helpWanted);
-    addItem("menuabout", QStringLiteral("About..."), &TrayIcon::aboutWanted);
-    addItem("siteweb", QStringLiteral("Alembra website"), &TrayIcon::webSiteWanted);
-    addItem("traydon", QStringLiteral("Donate"), &TrayIcon::donationPageWanted);
-    m_mnuTray.addSeparator()->setObjectName(QStringLiteral("oi"));
-    trayminimax = addItem("trayminimax", QStringLiteral("&Open Alembra..."), &TrayIcon::turn);
-    addItem("trayquit", QStringLiteral("Quit"), &TrayIcon::quitWanted);
+    m_icon.setObjectName(u"TrayIcon"_s);
+    m_mnuTray.setObjectName(u"mnuTray"_s);
+    const auto command = [this](int id) { return [this, id] { Q_EMIT commandWanted(id); }; };
+    addItem("menuaide", u"Help"_s, command(CommandId::Help));
+    addItem("menuabout", u"About..."_s, command(CommandId::About));
+    addItem("siteweb", u"Alembra website"_s, command(CommandId::WebSite));
+    addItem("traydon", u"Donate"_s, [this] { Q_EMIT donationPageWanted(); });
+    m_mnuTray.addSeparator()->setObjectName(u"oi"_s);
+    trayminimax = addItem("trayminimax", u"&Open Alembra..."_s, [this] { turn(); });
+    addItem("trayquit", u"Quit"_s, command(CommandId::Quit));
     m_mnuTray.setDefaultAction(trayminimax);
     m_icon.setContextMenu(&m_mnuTray);
 
     connect(&m_icon, &QSystemTrayIcon::activated, this, &TrayIcon::activate);
 }
 
-QAction *TrayIcon::addItem(const char *name, const QString &caption, void (TrayIcon::*handler)())
+QAction *TrayIcon::addItem(const char *name, const QString &caption, const std::function<void()> &handler)
 {
     QAction *item = m_mnuTray.addAction(caption);
-    item->setObjectName(QLatin1StringView(name));
+    item->setObjectName(name);
     connect(item, &QAction::triggered, this, [this, handler] {
         if (!ModalDialogs::raise())
-            (this->*handler)();
+            handler();
     });
     return item;
 }
 
 void TrayIcon::load()
 {
-    m_icon.setToolTip(QStringLiteral("Alembra"));
+    m_icon.setToolTip(u"Alembra"_s);
     trayminimax->setText(MinimizeCaption);
-    // On X11 a notification area that comes up later takes the icon in; elsewhere nothing would.
-    if (QGuiApplication::platformName() == QLatin1StringView("xcb") ||
-        QSystemTrayIcon::isSystemTrayAvailable())
+    // Only on X11 a tray that starts later takes the icon in.
+    if (QGuiApplication::platformName() == u"xcb"_s || QSystemTrayIcon::isSystemTrayAvailable())
         m_icon.show();
 }
 
@@ -91,11 +94,11 @@ void TrayIcon::bringBack()
 {
     const bool fromTray = TrayMinimized != 0;
     TrayMinimized = 0;
-    // Window managers forget the state of a window that leaves the screen.
+    // Window managers forget the state of a hidden window.
     m_form.setWindowState(fromTray ? m_state : m_form.windowState() & ~Qt::WindowMinimized);
     if (fromTray && m_state == Qt::WindowNoState) {
-        // A window manager places anew what comes up, unless it was moved; Qt takes a move to where the
-        // window was for none.
+        // Window managers choose a new place for a window that was not moved, and Qt ignores a move to the
+        // old place.
         m_form.windowHandle()->setPosition(m_place + QPoint(1, 0));
         m_form.windowHandle()->setPosition(m_place);
     }
@@ -107,14 +110,14 @@ void TrayIcon::bringBack()
 
 void TrayIcon::windowChanged()
 {
-    // Window managers go on changing the state of a window that has left the screen.
+    // Window managers change the state of a hidden window too.
     if (m_form.isHidden() || !m_options(Slot::MinimiseToTray).equals(1))
         return;
     if (!m_form.isMinimized()) {
         trayminimax->setText(MinimizeCaption);
         return;
     }
-    // Hidden from inside the change of state, the window would come up again half minimised.
+    // If hidden within the change of state, the window would come back half minimised.
     QTimer::singleShot(0, this, [this] {
         if (!m_form.isMinimized() || m_form.isHidden())
             return;
@@ -133,16 +136,15 @@ void TrayIcon::hideForm()
     TrayMinimized = -1;
     unloadSideWindows();
     if (m_options(Slot::TrayBalloon).equals(1))
-        m_icon.showMessage(
-            QStringLiteral("Alembra information "),
-            QStringLiteral("Alembra is still active, just double-click on this icon to open its window"),
-            QSystemTrayIcon::Information, BalloonMilliseconds);
+        m_icon.showMessage(u"Alembra information "_s,
+                           u"Alembra is still active, just double-click on this icon to open its window"_s,
+                           QSystemTrayIcon::Information, BalloonMilliseconds);
 }
 
 void TrayIcon::unloadSideWindows()
 {
     for (const char *name : UnloadedWindows) {
-        if (auto *window = m_form.findChild<QWidget *>(QLatin1StringView(name), Qt::FindDirectChildrenOnly))
+        if (auto *window = m_form.findChild<QWidget *>(name, Qt::FindDirectChildrenOnly))
             window->close();
     }
 }

@@ -5,13 +5,13 @@
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QSystemTrayIcon>
+#include <functional>
 
 class OptionSlots;
 
-/// The icon in the notification area with its popup `mnuTray`, and the main window's way into the tray and
-/// back. While a modal dialog is open, the icon and every item of the popup raise it and do nothing else.
-///
-/// Where the desktop has no notification area, nothing sends the window there, so that it can never be lost.
+/// The tray icon with its popup `mnuTray`; moves the main window into the tray and back. While a modal dialog
+/// is open, icon and popup only raise it. On a desktop without a tray the window stays out of it, so that it
+/// is never lost.
 class TrayIcon final : public QObject
 {
     Q_OBJECT
@@ -19,16 +19,16 @@ class TrayIcon final : public QObject
 public:
     TrayIcon(QWidget &form, const OptionSlots &options);
 
-    /// Shows the icon; the load of the main window.
+    /// Shows the icon, when the main window loads.
     void load();
 
     /// Moves the window into the tray, or back if `TrayMinimized` is not 0.
     void ToggleTray();
 
-    /// The window's size or state has changed: minimising sends it to the tray, by the option.
+    /// After a change of the window's size or state. Minimising sends it to the tray, by the option.
     void windowChanged();
 
-    /// Onto the screen and above other windows, wherever the window is.
+    /// Shows the window in front, from wherever it is.
     void bringBack();
 
     /// 0 while the window is on the screen, -1 while it is in the tray.
@@ -37,14 +37,11 @@ public:
     QAction *trayminimax;
 
 Q_SIGNALS:
-    void helpWanted();
-    void aboutWanted();
-    void webSiteWanted();
+    void commandWanted(int id);
     void donationPageWanted();
-    void quitWanted();
 
 private:
-    QAction *addItem(const char *name, const QString &caption, void (TrayIcon::*handler)());
+    QAction *addItem(const char *name, const QString &caption, const std::function<void()> &handler);
     void hideForm();
     void unloadSideWindows();
     void activate(QSystemTrayIcon::ActivationReason reason);
@@ -56,6 +53,6 @@ private:
     QSystemTrayIcon m_icon;
     TrayDoubleClick m_doubleClick;
     QElapsedTimer m_clock;
-    QPoint m_place; ///< of the window before it went into the tray; a window manager would choose another
+    QPoint m_place;           ///< of the window before it went into the tray
     Qt::WindowStates m_state; ///< maximised or not, likewise
 };

@@ -35,7 +35,7 @@ bool UserFolder::renew(const QString &folder, const QString &shippedFolder)
         copyFileOver(shippedFolder + Original, database);
     else
         keptChanged = newOriginal && !isSame(database, shippedFolder + Original);
-    // Last: until then it tells whether the database was changed.
+    // Last: until then it shows whether the database was changed.
     if (newOriginal)
         copyFileOver(shippedFolder + Original, folder + Original);
     return keptChanged;

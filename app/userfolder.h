@@ -2,15 +2,15 @@
 
 #include <QString>
 
-/// The folder of a user's own files, where it is not the folder of the executable: options, database and the
+/// The folder of a user's own files if it is not the folder of the executable: options, database and the
 /// original of the database.
 namespace UserFolder {
 
-/// Copies what @p folder lacks from @p shippedFolder. A database that is still the original that came with it
-/// follows a new original; one that the user changed stays. Each file is replaced whole or stays as it was,
-/// so an interrupted call is completed by the next.
+/// Copies missing files from @p shippedFolder to @p folder. An unchanged database is replaced with a new
+/// original; one that the user changed stays. Each file is replaced as a whole, so the next call completes an
+/// interrupted one.
 ///
-/// True if there is a new original and the changed database stayed. RuntimeError of copyFileOver.
+/// True if there is a new original and a changed database stayed. RuntimeError as for copyFileOver.
 bool renew(const QString &folder, const QString &shippedFolder);
 
 /// Puts the original in the place of the database in @p folder, which stays beside it as Database_uk_old.mdb

@@ -84,7 +84,7 @@ private Q_SLOTS:
             CopyActions copyActions(own, window);
             connect(&bars, &CommandBars::updateWanted, &copyActions, &CopyActions::update);
             bars.load({{{menu, {{1121, "&Find...", {}, {}, {}}}}}, {}});
-            own.place();
+            own.place(bars);
             RowList rows;
             rows.append(u"Acetone");
             rows.append(u"Water");
