@@ -131,27 +131,27 @@ void BiochemistryPane::buildSdsPage()
     addList(section, 17,
             {{"Separation domain (Da)", 240, Kind::Text, "Da"},
              {"% Acrylamide (resolving gel)", 270, Kind::Number, "%"}});
-    addTitles(section, u"grdFrame21"_s, 17, 102);
+    addTitles(section, u"grdFrame21"_s, 17, 120);
     addList(section, 18,
             {{"Kit", 238}, {"Proteins", 192, Kind::Wrapped}, {"MW (Da)", 86, Kind::Number, "Da"}});
-    addTitles(section, u"grdFrame22"_s, 18, 104);
+    addTitles(section, u"grdFrame22"_s, 18, 122);
     addList(section, 21,
             {{"Name", 262, Kind::Wrapped}, {"Final concentration", 172, Kind::Wrapped}, {"Quantity", 82}})
         .showAsRecipes();
-    addTitles(section, u"grdFrame24"_s, 21, 107);
+    addTitles(section, u"grdFrame24"_s, 21, 125);
     QList<ListColumn> gels{{"Composition", 166, Kind::Wrapped}};
     for (const char *acrylamide : {"5 %", "7.5 %", "10 %", "12.5 %", "15 %"})
         gels << ListColumn{acrylamide, 70, Kind::Number};
     addList(section, 22, gels).showAsRecipes();
-    addTitles(section, u"grdFrame25"_s, 22, 110);
+    addTitles(section, u"grdFrame25"_s, 22, 128);
     addList(section, 23, {{"Composition", 260}, {"4 %", 120, Kind::Number}}).showAsRecipes();
-    addTitles(section, u"grdFrame27"_s, 23, 116);
+    addTitles(section, u"grdFrame27"_s, 23, 134);
     const QList<ListColumn> staining{{"Composition", 306, Kind::Wrapped},
                                      {"Final conc.", 118, Kind::Wrapped},
                                      {"Quantity", 92, Kind::Wrapped}};
     addList(section, 19, staining).showAsRecipes();
     addList(section, 20, staining).showAsRecipes();
-    addTitles(section, u"grdFrame23"_s, 19, 118);
+    addTitles(section, u"grdFrame23"_s, 19, 136);
 }
 
 QFrame *BiochemistryPane::makeOptionFrame(const QString &name, const Section &section)

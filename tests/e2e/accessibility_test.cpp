@@ -119,7 +119,8 @@ private:
         QStringList names;
         for (QWidget *control : window.findChildren<QWidget *>()) {
             const QString name = control->objectName();
-            if (control->window() == &window && !name.startsWith("qt_") && !name.isEmpty()) {
+            const bool own = !name.startsWith("qt_") && !qobject_cast<QTabBar *>(control->parentWidget());
+            if (control->window() == &window && own && !name.isEmpty()) {
                 if (names.contains(name))
                     found << name + " twice";
                 names << name;
