@@ -12,8 +12,8 @@ void PaneSwitch::show(PanelId id, const std::function<void()> &beforePanelText)
 {
     m_findBar.ResetSearchPanel();
     makeVisible(id);
-    for (size_t i = 0; i < m_companionCount; ++i)
-        m_companions[i]->setVisible(id == PanelId::Elements);
+    for (QWidget *companion : std::as_const(m_companions))
+        companion->setVisible(id == PanelId::Elements);
     if (m_clearChartPanels)
         m_clearChartPanels();
     if (beforePanelText)

@@ -2,6 +2,7 @@
 
 #include "app/commands.h"
 
+#include <QList>
 #include <functional>
 
 class FindBar;
@@ -19,7 +20,7 @@ public:
     void add(PanelId id, ModulePanel &panel) { m_panels[size_t(id)] = &panel; }
 
     /// A widget that is shown with the Elements pane only.
-    void addElementsCompanion(QWidget &widget) { m_companions[m_companionCount++] = &widget; }
+    void addElementsCompanion(QWidget &widget) { m_companions << &widget; }
 
     /// Runs on every switch.
     void setClearChartPanels(std::function<void()> clear) { m_clearChartPanels = std::move(clear); }
@@ -44,7 +45,6 @@ private:
     FindBar &m_findBar;
     QLabel &m_panel1;
     std::array<ModulePanel *, PanelCount> m_panels{};
-    std::array<QWidget *, 2> m_companions{};
-    size_t m_companionCount = 0;
+    QList<QWidget *> m_companions;
     std::function<void()> m_clearChartPanels;
 };

@@ -10,8 +10,7 @@
 
 class RowList;
 
-/// What the panes with lists share: how they make lists, tabs and option buttons, and how these choose among
-/// the lists.
+/// A pane with lists, and with tabs and option buttons that choose among them.
 class BrowserPane : public ModulePanel
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 class ElementPanel;
 
-/// `ReyFrame1`: the fifteen values of the element on show, each with its name and unit.
+/// `ReyFrame1`: the fifteen values of the element shown, each with its name and unit.
 class DataPanel final : public QFrame
 {
     Q_OBJECT

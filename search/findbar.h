@@ -18,7 +18,7 @@ struct DataStore;
 /// names.
 ///
 /// It starts closed, and every pane switch closes it. From anywhere in the window F3 is Next, Shift+F3
-/// Previous and Escape closes; in the search text so are Enter and Shift+Enter.
+/// Previous and Escape closes; Enter and Shift+Enter walk from the search text.
 class FindBar final : public QWidget
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QTimer>
 
-/// A short hint below a field. It looks like a tool tip, but stays some seconds wherever the mouse goes: the
+/// A short hint below a field. It looks like a tool tip, but stays some seconds while the mouse moves: the
 /// user's eyes may be on the keyboard.
 class FieldHint final : public QLabel
 {
