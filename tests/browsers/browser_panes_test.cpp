@@ -99,6 +99,7 @@ private Q_SLOTS:
             {Solvents, "TabStrip1:3 Option2 TabStrip1:5", "ListView8 frmdess"},
             {Solvents, "TabStrip1:3 Option2 TabStrip1:5 TabStrip1:3", "ListView5 o1 o2 frmrmn1"},
             {Solvents, "TabStrip1:3 Option2 Option1", "ListView4 o1 o2 frmrmn1"},
+            {Solvents, "Option2", "ListView1 frmc"}, // a session clicks options of other tabs too
             {Solutions, "", "(0) (2) (24) (7) o4(0) o4(1) o4(2) o4(3) o4(4) o4(5) f1 f29 f8 f9"},
             {Solutions, "Option4(1)", "(0) (24) (3) (7) o4(0) o4(1) o4(2) o4(3) o4(4) o4(5) f1 f29 f8 f9"},
             {Solutions, "TabStrip2:2", "(0) (24) (4) (7) o4(2) o4(3) o4(4) o4(5) f1 f29 f4 f9"},
@@ -125,6 +126,7 @@ private Q_SLOTS:
             {Biochemistry, "TabStrip9:4 TabStrip8:2", "(12) (18) f22 f3"},
             {Biochemistry, "TabStrip9:4 TabStrip8:4 TabStrip8:3", "(12) (21) f24 f3"},
             {Biochemistry, "TabStrip9:4 TabStrip8:4", "(12) (22) o4(8) o4(9) f25 f26 f3"},
+            {Biochemistry, "TabStrip9:4 Option4(9)", "(12) (17) f21 f3"},
             {Biochemistry, "TabStrip9:4 TabStrip8:4 Option4(9) TabStrip8:5 TabStrip8:4",
              "(12) (23) o4(8) o4(9) f26 f27 f3"},
             {Biochemistry, "TabStrip9:4 TabStrip8:4 TabStrip8:5", "(12) (19) o4(6) o4(7) f23 f3"},
