@@ -165,3 +165,15 @@ function(alembra_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
                          "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QTEST_FUNCTION_TIMEOUT=240000;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings")
 endfunction()
+
+# alembra_test_part(<name> <program> <environment> <command>...): a test that runs some classes of a test program. The
+# program is built by that name, too.
+function(alembra_test_part name program environment)
+    add_test(NAME ${name} COMMAND ${ARGN})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+                         "${environment};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings")
+    string(REGEX REPLACE "_[0-9.]+$" "" target ${name})
+    if(NOT TARGET ${target})
+        add_custom_target(${target} DEPENDS ${program})
+    endif()
+endfunction()

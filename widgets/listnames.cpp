@@ -15,6 +15,7 @@ constexpr Entry Entries[] = {
     {"ListView6", "Miscibility and polarity of solvents"},
     {"ListView8", "Drying agents"},
     {"ListView9", "Cooling mixtures"},
+    {"ListView100", "Abbreviations of journals"},
     {"ListView3(0)", "Acid/base indicators, Merck"},
     {"ListView3(1)", "Acid/base indicators, Riedel-deHaën"},
     {"ListView3(2)", "Inorganic acid/base couples"},

@@ -6,7 +6,7 @@
 #include "store/loadtable.h"
 #include "store/recordset.h"
 #include "store/tablecatalog.h"
-#include "tests/fuzz/inputfile.h"
+#include "tests/fuzz/fuzztarget.h"
 #include "tests/store/sampledatabases.h"
 
 #include <QtEndian>
@@ -16,17 +16,16 @@ namespace {
 
 // An input is not a file but changes to one, each a page, a place in it, a length and the bytes, so that the
 // fuzzer does not waste itself on the 4096 bytes of a page that are the same in all of them.
-QByteArray changed(QByteArray file, const uint8_t *data, size_t size)
+QByteArray changed(QByteArray file, QByteArray changes)
 {
     const auto pages = quint32(file.size() / 4096);
-    while (size > 5) {
-        const quint32 page = qFromLittleEndian<quint16>(data) % pages;
-        const quint32 place = qFromLittleEndian<quint16>(data + 2) % 4096;
-        const size_t length = std::min({size_t(data[4] % 32), size - 5, size_t(4096 - place)});
-        file.replace(qsizetype(page) * 4096 + place, qsizetype(length),
-                     reinterpret_cast<const char *>(data + 5), qsizetype(length));
-        data += 5 + length;
-        size -= 5 + length;
+    while (changes.size() > 5) {
+        const quint32 page = qFromLittleEndian<quint16>(changes.constData()) % pages;
+        const quint32 place = qFromLittleEndian<quint16>(changes.constData() + 2) % 4096;
+        const qsizetype length =
+            std::min({qsizetype(uchar(changes[4]) % 32), changes.size() - 5, qsizetype(4096 - place)});
+        file.replace(qsizetype(page) * 4096 + place, length, changes.mid(5, length));
+        changes.remove(0, 5 + length);
     }
     return file;
 }
@@ -48,7 +47,7 @@ void readAllTables(const QByteArray &bytes)
 
 void start(const QByteArray &bytes)
 {
-    const InputFile input(reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));
+    const InputFile input(bytes);
     DatabaseConnection connection;
     connection.Open(input.path(), {}, DatabasePassword);
     DataStore store;
@@ -59,21 +58,18 @@ void start(const QByteArray &bytes)
         loader.LoadTable(TableCatalog::statement(loader.LoadCounter));
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
-{
+const FuzzTarget database("database", [](const QByteArray &input) {
     static const QByteArray varied = SampleDatabases::varied();
     static const QByteArray catalogued = SampleDatabases::catalogued(2);
-    if (size == 0)
-        return 0;
+    if (input.isEmpty())
+        return;
+    const int kind = uchar(input[0]) % 8;
     ignoringErrors([&] {
-        if (data[0] % 8 == 0)
-            start(changed(catalogued, data + 1, size - 1));
-        else if (data[0] % 8 == 1)
-            readAllTables(QByteArray(reinterpret_cast<const char *>(data + 1), qsizetype(size - 1)));
+        if (kind == 0)
+            start(changed(catalogued, input.mid(1)));
         else
-            readAllTables(changed(varied, data + 1, size - 1));
+            readAllTables(kind == 1 ? input.mid(1) : changed(varied, input.mid(1)));
     });
-    return 0;
-}
+});
+
+} // namespace

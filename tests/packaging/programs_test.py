@@ -63,12 +63,14 @@ class InFolder(unittest.TestCase):
 
     def assert_answers(self, process, sockets=1):
         """It comes into its event loop: there are so many sockets, and all answer."""
-        while process.poll() is None:
+        patience = time.monotonic() + 100
+        while process.poll() is None and time.monotonic() < patience:
             answers = [answer(path) for path in self.session.iterdir()]
             if len(answers) == sockets and all(answers):
                 return
             time.sleep(0.01)
-        self.fail(f"ended with {process.returncode}: {process.stderr.read()}")
+        process.kill()
+        self.fail(f"no answer, status {process.wait()}: {process.stderr.read()}")
 
 
 class Processes(InFolder):

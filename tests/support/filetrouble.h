@@ -22,8 +22,15 @@ public:
         int ready[2];
         if (pipe(ready) != 0 || (m_child = fork()) < 0)
             qFatal("no second process");
-        if (m_child == 0)
-            holdLock(QFile::encodeName(path), kind, ready[1]);
+        if (m_child == 0) {
+            const int file = open(qUtf8Printable(path), O_RDWR);
+            struct flock lock = {F_WRLCK, SEEK_SET, 0, 0, 0};
+            if ((kind == Record ? fcntl(file, F_SETLK, &lock) : flock(file, LOCK_EX | LOCK_NB)) != 0 ||
+                write(ready[1], "1", 1) != 1)
+                _exit(1);
+            for (;;)
+                pause();
+        }
         close(ready[1]);
         char byte;
         m_locked = read(ready[0], &byte, 1) == 1;
@@ -37,22 +44,6 @@ public:
     bool isLocked() const { return m_locked; }
 
 private:
-    [[noreturn]] static void holdLock(const QByteArray &path, Kind kind, int ready)
-    {
-        const int file = open(path.constData(), O_RDWR);
-        struct flock lock
-        {
-        };
-        lock.l_type = F_WRLCK;
-        lock.l_whence = SEEK_SET;
-        const bool held =
-            kind == Record ? fcntl(file, F_SETLK, &lock) == 0 : flock(file, LOCK_EX | LOCK_NB) == 0;
-        if (!held || write(ready, "1", 1) != 1)
-            _exit(1);
-        for (;;)
-            pause();
-    }
-
     pid_t m_child = -1;
     bool m_locked = false;
 };
