@@ -1,5 +1,6 @@
 #include "charts/chartgeometry.h"
 #include "tests/support/files.h"
+#include "tests/support/pictures.h"
 #include "tools/make_pictures/crystals.h"
 #include "tools/make_pictures/elements.h"
 #include "tools/make_pictures/geneticcode.h"
@@ -55,12 +56,9 @@ private Q_SLOTS:
         }
     }
 
-    // Some of each kind, drawn here, against those in golden/, which somebody has looked at. Processors round
-    // the edges of lines and letters differently, by a few levels; a line that moves by half a pixel, or a
-    // colour that is another, changes pixels by more than this.
+    // Some of each kind, drawn here, against those in golden/, which somebody has looked at.
     void picturesLookAsTheyDid()
     {
-        constexpr int Tolerance = 24; // levels of 255
         const struct
         {
             Draw draw;
@@ -334,19 +332,6 @@ private:
                           cut == 0 ? all : all.split('\n').first(cut).join('\n') + '\n');
             }
         }
-    }
-
-    /// The highest difference of two pixels in red, green or blue; 256 where the sizes differ.
-    static int difference(const QImage &a, const QImage &b)
-    {
-        int highest = a.size() == b.size() && !a.isNull() ? 0 : 256;
-        for (int pixel = 0; highest < 256 && pixel < a.width() * a.height(); ++pixel) {
-            const QRgb one = a.pixel(pixel % a.width(), pixel / a.width());
-            const QRgb two = b.pixel(pixel % a.width(), pixel / a.width());
-            highest = std::max({highest, std::abs(qRed(one) - qRed(two)), std::abs(qGreen(one) - qGreen(two)),
-                                std::abs(qBlue(one) - qBlue(two))});
-        }
-        return highest;
     }
 
     static QSizeF sizeOf(const char *smiles)

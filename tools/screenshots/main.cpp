@@ -164,6 +164,10 @@ int main(int argc, char *argv[])
     // The splash runs an event loop before the load is complete.
     QTimer started;
     QObject::connect(&started, &QTimer::timeout, &application, [&] {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == u"frmload"_s)
+                take(*window, pictures.filePath(u"splash.png"_s));
+        }
         Form1 *form = mainWindow();
         if (!form || !form->isVisible())
             return;
@@ -176,7 +180,7 @@ int main(int argc, char *argv[])
         started.stop();
         walk(*form, pictures);
     });
-    started.start(100);
+    started.start(10); // the splash pauses for 50
     QtDesktop desktop;
     return Main(desktop, QDir(arguments[1]).absolutePath());
 }
