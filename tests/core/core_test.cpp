@@ -29,7 +29,7 @@ private Q_SLOTS:
     {
         QCOMPARE(SymbolText::toUnicode("a, b-, b+, e, ~é"), "α, β−, β+, ε, ~é");
         QCOMPARE(SymbolText::decayModes("b-, e, IT, SF"), "β−, ε, IT, SF");
-        QCOMPARE(SymbolText::toUnicode("DWls"), "ΔΩλσ");
+        QCOMPARE(SymbolText::toUnicode("DWlsz"), "ΔΩλσζ");
     }
 
     void invariantNumbers()
