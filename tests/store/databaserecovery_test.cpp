@@ -1,42 +1,102 @@
 #include "store/databaserecovery.h"
 
 #include "store/databaseconnection.h"
+#include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
 #include "tests/support/scripteddesktop.h"
+#include "tests/support/testclass.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
-
-namespace {
-
-const QString Question =
-    QStringLiteral("Impossible to connect to the database! Do you want to reinstall the original database?");
-const QString Success =
-    QStringLiteral("The original database was successfully reinstalled! Changes will be effective "
-                   "after restating the program.");
-
-} // namespace
 
 class DatabaseRecoveryTest final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void yesPutsTheOriginalBackAndEnds();
-    void aLockedDatabaseIsAskedAbout_data();
-    void aLockedDatabaseIsAskedAbout();
-    void noEndsAndLeavesTheFile();
-    void aCopyThatFailsAfterTheErrorsQuestionIsReported();
-    void missingTableCopiesToTheFileNobodyOpens();
-    void aGoodDatabaseConnectsWithoutAWord();
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_connection = std::make_unique<DatabaseConnection>();
+        m_desktop.boxes.clear();
+        m_recovery = std::make_unique<DatabaseRecovery>(m_desktop, *m_connection, m_folder->path());
+        writeFile(path("Backup/Database_uk_origin.rbk"), "original");
+        writeFile(database(), readFile(ALEMBRA_FOLDER "/Data/Database_uk.mdb"));
+    }
+
+    void whatCannotBeOpenedIsAskedAbout()
+    {
+        using Lock = LockElsewhere;
+        std::unique_ptr<Lock> lock;
+        const struct
+        {
+            std::function<void()> spoil;
+            Desktop::Answer answer;
+        } rows[] = {
+            {[&] { QFile::remove(database()); }, Desktop::Yes},
+            {[&] { writeFile(database(), "no database"); }, Desktop::Yes},
+            {[&] { writeFile(database(), "no database"); }, Desktop::No},
+            {[&] { lock = std::make_unique<Lock>(database(), Lock::Record); }, Desktop::No},
+            {[&] { lock = std::make_unique<Lock>(database(), Lock::WholeFile); }, Desktop::No},
+        };
+        for (const auto &row : rows) {
+            init();
+            row.spoil();
+            const bool yes = row.answer == Desktop::Yes;
+            const QByteArray before = yes ? QByteArray("original") : readFile(database());
+            m_desktop.answers = {row.answer};
+            QCOMPARE(endOf([&] { m_recovery->ConnectDatabase(); }), 0);
+            lock.reset();
+            QCOMPARE(m_desktop.boxes.mid(0, 1), (Boxes{{Question, 20}}));
+            QCOMPARE(m_desktop.boxes.mid(1), (yes ? Boxes{{Success, 64}} : Boxes{}));
+            QVERIFY(readFile(database()) == before);
+        }
+    }
+
+    void aCopyThatFailsAfterTheQuestionIsReported()
+    {
+        QVERIFY(QFile::remove(path("Backup/Database_uk_origin.rbk")));
+        writeFile(database(), "no database");
+        m_desktop.answers = {Desktop::Yes, Desktop::Yes};
+        QCOMPARE(errorOf([&] { m_recovery->ConnectDatabase(); }), ErrorNumber::FileNotFound);
+        QCOMPARE(m_desktop.boxes.size(), 1);
+        QCOMPARE(readFile(database()), QByteArray("no database"));
+        m_desktop.answers.clear();
+    }
+
+    void aMissingTableCopiesToTheFileNobodyOpens()
+    {
+        const QByteArray before = readFile(database());
+        m_desktop.answers = {Desktop::Yes};
+        m_recovery->ConnectDatabase();
+        QCOMPARE(m_desktop.boxes, Boxes{});
+        QCOMPARE(m_connection->State(), DatabaseConnection::StateOpen);
+        QCOMPARE(endOf([&] { m_recovery->offerAfterMissingTable(); }), 0);
+        QCOMPARE(m_connection->State(), DatabaseConnection::StateClosed);
+        QCOMPARE(readFile(path("Data/Database.mdb")), QByteArray("original"));
+        QVERIFY(readFile(database()) == before);
+        QCOMPARE(m_desktop.boxes, (Boxes{{Question, 20}, {Success, 64}}));
+    }
+
+    void aGoodDatabaseIsDisconnectedOnce()
+    {
+        m_recovery->ConnectDatabase();
+        m_recovery->DisconnectDatabase();
+        QCOMPARE(m_connection->State(), DatabaseConnection::StateClosed);
+        QCOMPARE(errorOf([&] { m_recovery->DisconnectDatabase(); }), ErrorNumber::ObjectClosed);
+    }
 
 private:
+    using Boxes = QList<QPair<QString, int>>;
+    const QString Question =
+        "Impossible to connect to the database! Do you want to reinstall the original database?";
+    const QString Success = "The original database was successfully reinstalled! Changes will be effective "
+                            "after restating the program.";
+
+    QString path(const QString &below) const { return m_folder->filePath(below); }
+    QString database() const { return path("Data/Database_uk.mdb"); }
+
     // The status that the process ended with, or -1.
-    template<class Step>
-    int endOf(Step step)
+    static int endOf(const std::function<void()> &step)
     {
         try {
             step();
@@ -46,135 +106,11 @@ private:
         return -1;
     }
 
-    QString path(const char *below) const { return m_folder->filePath(QLatin1StringView(below)); }
-
-    void put(const char *below, const QByteArray &content) const
-    {
-        QFile file(path(below));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
-    QByteArray contentOf(const char *below) const
-    {
-        QFile file(path(below));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
-
     std::unique_ptr<QTemporaryDir> m_folder;
+    ScriptedDesktop m_desktop;
+    std::unique_ptr<DatabaseConnection> m_connection;
+    std::unique_ptr<DatabaseRecovery> m_recovery;
 };
 
-void DatabaseRecoveryTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("Data")));
-    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("Backup")));
-    put("Backup/Database_uk_origin.rbk", "original");
-}
-
-void DatabaseRecoveryTest::yesPutsTheOriginalBackAndEnds()
-{
-    ScriptedDesktop desktop;
-    desktop.answers = {Desktop::Yes};
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-
-    QCOMPARE(endOf([&] { recovery.ConnectDatabase(); }), 0);
-
-    QCOMPARE(desktop.boxes, (QList<QPair<QString, int>>{{Question, 20}, {Success, 64}}));
-    QCOMPARE(contentOf("Data/Database_uk.mdb"), QByteArray("original"));
-}
-
-void DatabaseRecoveryTest::aLockedDatabaseIsAskedAbout_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::newRow("record lock") << int(LockElsewhere::Record);
-    QTest::newRow("lock of the whole file") << int(LockElsewhere::WholeFile);
-}
-
-void DatabaseRecoveryTest::aLockedDatabaseIsAskedAbout()
-{
-    QFETCH(const int, kind);
-    QVERIFY(
-        QFile::copy(QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb"), path("Data/Database_uk.mdb")));
-    const LockElsewhere lock(path("Data/Database_uk.mdb"), LockElsewhere::Kind(kind));
-    QVERIFY(lock.isLocked());
-    ScriptedDesktop desktop;
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-
-    QCOMPARE(endOf([&] { recovery.ConnectDatabase(); }), 0);
-
-    QCOMPARE(desktop.boxes, (QList<QPair<QString, int>>{{Question, 20}}));
-}
-
-void DatabaseRecoveryTest::noEndsAndLeavesTheFile()
-{
-    put("Data/Database_uk.mdb", "no database");
-    ScriptedDesktop desktop;
-    desktop.answers = {Desktop::No};
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-
-    QCOMPARE(endOf([&] { recovery.ConnectDatabase(); }), 0);
-
-    QCOMPARE(desktop.boxes.size(), 1);
-    QCOMPARE(contentOf("Data/Database_uk.mdb"), QByteArray("no database"));
-}
-
-void DatabaseRecoveryTest::aCopyThatFailsAfterTheErrorsQuestionIsReported()
-{
-    QVERIFY(QFile::remove(path("Backup/Database_uk_origin.rbk")));
-    put("Data/Database_uk.mdb", "no database");
-    ScriptedDesktop desktop;
-    desktop.answers = {Desktop::Yes, Desktop::Yes};
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-
-    try {
-        recovery.ConnectDatabase();
-        QFAIL("the failed copy was swallowed");
-    } catch (const RuntimeError &error) {
-        QCOMPARE(error.number(), ErrorNumber::FileNotFound);
-    }
-    QCOMPARE(desktop.boxes.size(), 1);
-    QCOMPARE(contentOf("Data/Database_uk.mdb"), QByteArray("no database"));
-}
-
-void DatabaseRecoveryTest::missingTableCopiesToTheFileNobodyOpens()
-{
-    QVERIFY(
-        QFile::copy(QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb"), path("Data/Database_uk.mdb")));
-    const QByteArray before = contentOf("Data/Database_uk.mdb");
-    ScriptedDesktop desktop;
-    desktop.answers = {Desktop::Yes};
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-    recovery.ConnectDatabase();
-
-    QCOMPARE(endOf([&] { recovery.offerAfterMissingTable(); }), 0);
-
-    QCOMPARE(connection.State(), DatabaseConnection::StateClosed);
-    QCOMPARE(contentOf("Data/Database.mdb"), QByteArray("original"));
-    QCOMPARE(contentOf("Data/Database_uk.mdb"), before);
-    QCOMPARE(desktop.boxes, (QList<QPair<QString, int>>{{Question, 20}, {Success, 64}}));
-}
-
-void DatabaseRecoveryTest::aGoodDatabaseConnectsWithoutAWord()
-{
-    QVERIFY(
-        QFile::copy(QStringLiteral(ALEMBRA_FOLDER "/Data/Database_uk.mdb"), path("Data/Database_uk.mdb")));
-    ScriptedDesktop desktop;
-    DatabaseConnection connection;
-    DatabaseRecovery recovery(desktop, connection, m_folder->path());
-
-    recovery.ConnectDatabase();
-    QCOMPARE(connection.State(), DatabaseConnection::StateOpen);
-    recovery.DisconnectDatabase();
-
-    QCOMPARE(desktop.boxes.size(), 0);
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, recovery.DisconnectDatabase());
-}
-
-QTEST_GUILESS_MAIN(DatabaseRecoveryTest)
+const TestClass<DatabaseRecoveryTest> databaseRecoveryTest;
 #include "databaserecovery_test.moc"

@@ -3,27 +3,29 @@
 #include "store/gridlines.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
+#include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
-
-#include <QTest>
 
 namespace {
 
-/// Rows made for a test. A cell "<null>" has no value.
+/// Rows of which each cell says where it comes from: "r<row>f<field>", rows from 1.
 class MadeRows final : public RowSource
 {
 public:
-    explicit MadeRows(QList<QStringList> rows) : m_rows(std::move(rows)) {}
+    int rows;
+    int fields;
+    QHash<QString, QString> others = {}; ///< cells with another text, a null text for no value
 
-    bool atEnd() const override { return m_row >= m_rows.size(); }
+    MadeRows(int rowCount, int fieldCount) : rows(rowCount), fields(fieldCount) {}
+    bool atEnd() const override { return m_row > rows; }
     QStringView field(int index) const override
     {
         requireRow();
-        const QStringList &cells = m_rows[m_row];
-        const QStringView text = index < cells.size() ? QStringView(cells[index]) : QStringView();
-        if (text == QStringLiteral("<null>"))
+        m_cell = index < fields ? QString("r%1f%2").arg(m_row).arg(index) : QString("");
+        m_cell = others.value(m_cell, m_cell);
+        if (m_cell.isNull())
             throw RuntimeError(ErrorNumber::InvalidNull);
-        return text;
+        return m_cell;
     }
     void moveNext() override
     {
@@ -38,29 +40,25 @@ private:
             throw RuntimeError(ErrorNumber::PastEnd);
     }
 
-    const QList<QStringList> m_rows;
-    qsizetype m_row = 0;
+    mutable QString m_cell;
+    int m_row = 1;
 };
 
-// Each cell tells where it comes from: "r<row>f<field>", rows from 1.
-QList<QStringList> numbered(int rows, int fields)
+QString cellsOf(const RowList &list, int row)
 {
-    QList<QStringList> made;
-    for (int row = 1; row <= rows; ++row) {
-        QStringList cells;
-        for (int field = 0; field < fields; ++field)
-            cells << QStringLiteral("r%1f%2").arg(row).arg(field);
-        made << cells;
-    }
-    return made;
+    QStringList cells;
+    for (int number = 0; number < 12; ++number)
+        cells << list.cell(row, number).toString();
+    return cells.join(' ').trimmed();
 }
 
-QStringList cellsOf(const RowList &list, int row, int count)
+template<class Lists>
+QString sizes(const Lists &lists, int count)
 {
-    QStringList cells{list.text(row)};
-    for (int number = 1; number < count; ++number)
-        cells << list.subItem(row, number);
-    return cells;
+    QStringList rows;
+    for (int index = 0; index < count; ++index)
+        rows << QString::number(lists[index].rowCount());
+    return rows.join(' ');
 }
 
 } // namespace
@@ -70,234 +68,165 @@ class LoadTableTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shortTableEndsTheStepInSilence();
-    void rowsPastTheGroupsByCountGoToTheFirstList();
-    void rowsPastTheGroupsByRangeStartOver();
-    void rowsPastAPlainCountStayUnread();
-    void emptyTableOfAnOuterLoopIsNoError();
-    void solventsShowTheIndexBeforeTheCasNumber();
-    void aminoAcidListsLeaveOutOneFieldEach();
-    void elementsFillTableNamesAndTallies();
-    void referencesStartAtRowOne();
-    void nullEndsTheStepWithinItsRow();
-    void tooManyRowsForAMemoryTableEndTheStep();
-    void ringColoursGoToTheListsOfTheirRows();
-    void onlyAMissingTableIsTold_data();
-    void onlyAMissingTableIsTold();
-    void indicatorTallySplitsByList();
-    void everyGroupGoesToItsList();
-    void gridLinesAreSwitchedAsymmetrically();
+    void init() { m_store = std::make_unique<DataStore>(); }
+
+    // A table with fewer or more rows than its groups ends its step in silence.
+    void rowsGoToTheirGroups()
+    {
+        RowLists &lists = m_store->lists;
+        load(6, {44, 4});
+        QCOMPARE(sizes(lists.ListView2, 5), QString("10 6 14 11 3"));
+        QCOMPARE(m_store->tallies.rows[6], 44);
+        load(16, {5, 3});
+        QCOMPARE(lists.ListView3[14].rowCount(), 5);
+
+        init(); // past groups by count: to the first list
+        load(8, {181, 3});
+        QCOMPARE(sizes(m_store->lists.ListView3, 7), QString("62 63 0 0 0 0 56"));
+        QCOMPARE(m_store->lists.ListView3[0].text(61), QString("r181f0"));
+        QCOMPARE(m_store->lists.ListView3[1].text(0), QString("r61f0"));
+        QCOMPARE(m_store->tallies.acidBaseIndicators, 125);
+        QCOMPARE(m_store->tallies.fluorescentIndicators, 56);
+
+        init(); // past groups by range: from the start
+        load(6, {57, 4});
+        QCOMPARE(sizes(m_store->lists.ListView2, 5), QString("20 8 14 11 4"));
+        QCOMPARE(m_store->lists.ListView2[1].text(7), QString("r57f0"));
+
+        load(14, {75, 11}); // past a plain count: unread
+        QCOMPARE(m_store->lists.ListView3[9].rowCount(), 20);
+        QCOMPARE(m_store->lists.ListView3[10].rowCount(), 53);
+        QCOMPARE(m_store->tallies.rows[14], 73);
+    }
+
+    void emptyTableOfAnOuterLoopIsNoError()
+    {
+        for (const int step : {1, 7, 13, 19})
+            load(step, {0, 7});
+        QCOMPARE(m_store->SolventCount, 0);
+    }
+
+    void someListsOrderOrLeaveOutFields()
+    {
+        const RowLists &lists = m_store->lists;
+        load(1, {2, 7});
+        QCOMPARE(cellsOf(lists.ListView1, 1), QString("r2f0 r2f1 r2f2 r2f3 r2f4 r2f6 r2f5"));
+        QCOMPARE(m_store->SolventCount, 2);
+        load(14, {21, 11});
+        QCOMPARE(cellsOf(lists.ListView3[9], 0),
+                 QString("r1f0 r1f1 r1f2 r1f3 r1f4 r1f5 r1f6 r1f7 r1f9 r1f10"));
+        QCOMPARE(cellsOf(lists.ListView3[10], 0),
+                 QString("r21f0 r21f2 r21f3 r21f4 r21f5 r21f6 r21f7 r21f8 r21f9 r21f10"));
+        load(34, {2, 2});
+        QCOMPARE(cellsOf(lists.ListView3[29], 1), QString("r2f0 r2f1"));
+        QCOMPARE(lists.Combo4.text(1), QString("r2f0"));
+    }
+
+    void elementsFillTableNamesAndTallies()
+    {
+        MadeRows rows(2, 30);
+        for (int field = 21; field < 30; ++field)
+            rows.others[QString("r2f%1").arg(field)] = ""; // the second element has two isotopes
+        load(3, rows);
+        const auto &table = m_store->tables.ElementData;
+        QCOMPARE(table(1, ElementColumn::Symbol), QString("r2f1"));
+        QCOMPARE(table(0, 29), QString("r1f29"));
+        QVERIFY(table(0, 30).isEmpty());
+        QCOMPARE(m_store->lists.Combo2[3].text(1), QString("r2f0"));
+        QCOMPARE(m_store->tallies.isotopes, 7);
+        QCOMPARE(m_store->tallies.rows[3], 2);
+    }
+
+    void memoryTablesEndTheStepWhenFull()
+    {
+        load(18, {30, 7});
+        QCOMPARE(m_store->lists.Comb2.rowCount(), 23);
+        load(30, {120, 2});
+        QCOMPARE(m_store->lists.ListView3[5].rowCount(),
+                 101); // the row that does not fit the table is in the list
+        QCOMPARE(m_store->tables.IrGroupData(100, 0), QString("r100f0"));
+        load(29, {40, 2}); // the references start at row 1
+        QVERIFY(m_store->tables.NmrReferenceData(0, 0).isEmpty());
+        QCOMPARE(m_store->tables.NmrReferenceData(31, 1), QString("r31f1"));
+        QVERIFY(m_store->tables.NmrReferenceData(32, 0).isEmpty());
+    }
+
+    void nullEndsTheStepWithinItsRow()
+    {
+        MadeRows rows(3, 4);
+        rows.others["r2f2"] = QString();
+        load(4, rows);
+        QCOMPARE(m_store->lists.ListView6.rowCount(), 2);
+        QCOMPARE(cellsOf(m_store->lists.ListView6, 1), QString("r2f0 r2f1"));
+    }
+
+    void ringColoursGoToTheListsOfTheirRows()
+    {
+        load(32, {13, 8});
+        const auto &lists = m_store->lists.Combo2;
+        QCOMPARE(lists[4].rowCount(), 11);
+        QCOMPARE(lists[6].text(0), QString("r3f0"));
+        QCOMPARE(lists[7].rowCount(), 10);
+        QCOMPARE(lists[8].rowCount(), 7);
+        QCOMPARE(lists[8].text(2), QString("r4f0"));
+        QCOMPARE(lists[9].text(7), QString("r12f0"));
+    }
+
+    void onlyAMissingTableIsReported()
+    {
+        for (const int number : {ErrorNumber::TableNotFound, ErrorNumber::ColumnNotFound,
+                                 ErrorNumber::DatabaseFailure, ErrorNumber::ObjectClosed}) {
+            bool reported = false;
+            TableLoader loader(
+                *m_store, [&](const QString &) -> std::unique_ptr<RowSource> { throw RuntimeError(number); },
+                [&] { reported = true; });
+            loader.LoadTable("SELECT");
+            QCOMPARE(reported, number == ErrorNumber::TableNotFound);
+        }
+    }
+
+    // Redox couples and infrared bands are of any number.
+    void everyDeliveredGroupGoesToItsList()
+    {
+        for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step)
+            TsvSource::load(step, TableCatalog::table(step), *m_store);
+        const RowLists &lists = m_store->lists;
+        QCOMPARE(sizes(lists.ListView2, 5), QString("10 6 14 11 4"));
+        QCOMPARE(sizes(lists.ListView7, 7), QString("7 13 13 8 24 4 6"));
+        const auto &rows = m_store->tallies.rows;
+        QCOMPARE(sizes(lists.ListView3, 32),
+                 QString("60 63 51 92 %1 66 56 242 318 20 53 6 33 7 73 250 418 5 25 21 30 47 "
+                         "47 31 159 89 200 %2 192 96 0 59")
+                     .arg(rows[12])
+                     .arg(rows[31]));
+    }
+
+    // List 5 is left as it is when they go on, but switched off with the others.
+    void gridLinesAreSwitchedAsymmetrically()
+    {
+        RowLists &lists = m_store->lists;
+        ApplyGridLines(lists, true);
+        QVERIFY(lists.ListView3[27].gridLines() && !lists.ListView3[5].gridLines());
+        lists.ListView3[5].setGridLines(true);
+        ApplyGridLines(lists, true);
+        QVERIFY(lists.ListView3[5].gridLines());
+        ApplyGridLines(lists, false);
+        QVERIFY(!lists.ListView3[5].gridLines() && !lists.ListView1.gridLines());
+    }
 
 private:
-    // Runs one step; true if the step's missing table was told.
-    bool load(DataStore &store, int step, const QList<QStringList> &rows)
+    // No missing table may be reported.
+    void load(int step, const MadeRows &rows)
     {
-        bool told = false;
         TableLoader loader(
-            store, [&](const QString &) { return std::make_unique<MadeRows>(rows); }, [&] { told = true; });
+            *m_store, [&](const QString &) { return std::make_unique<MadeRows>(rows); },
+            [] { QFAIL("a missing table"); });
         loader.LoadCounter = step;
-        loader.LoadTable(QStringLiteral("SELECT"));
-        return told;
+        loader.LoadTable("SELECT");
     }
+
+    std::unique_ptr<DataStore> m_store;
 };
 
-void LoadTableTest::shortTableEndsTheStepInSilence()
-{
-    DataStore store;
-    QVERIFY(!load(store, 6, numbered(44, 4)));
-    QCOMPARE(store.lists.ListView2[0].rowCount(), 10);
-    QCOMPARE(store.lists.ListView2[3].rowCount(), 11);
-    QCOMPARE(store.lists.ListView2[4].rowCount(), 3);
-    QCOMPARE(store.tallies.rows[6], 44);
-
-    QVERIFY(!load(store, 16, numbered(5, 3)));
-    QCOMPARE(store.lists.ListView3[14].rowCount(), 5);
-}
-
-void LoadTableTest::rowsPastTheGroupsByCountGoToTheFirstList()
-{
-    DataStore store;
-    QVERIFY(!load(store, 8, numbered(181, 3)));
-    QCOMPARE(store.lists.ListView3[0].rowCount(), 62);
-    QCOMPARE(store.lists.ListView3[0].text(61), QStringLiteral("r181f0"));
-    QCOMPARE(store.lists.ListView3[1].text(0), QStringLiteral("r61f0"));
-    QCOMPARE(store.lists.ListView3[6].text(55), QStringLiteral("r179f0"));
-    QCOMPARE(store.lists.ListView3[6].rowCount(), 56);
-}
-
-void LoadTableTest::rowsPastTheGroupsByRangeStartOver()
-{
-    DataStore store;
-    QVERIFY(!load(store, 6, numbered(57, 4)));
-    QCOMPARE(store.lists.ListView2[0].rowCount(), 20);
-    QCOMPARE(store.lists.ListView2[1].rowCount(), 8);
-    QCOMPARE(store.lists.ListView2[1].text(7), QStringLiteral("r57f0"));
-}
-
-void LoadTableTest::rowsPastAPlainCountStayUnread()
-{
-    DataStore store;
-    QVERIFY(!load(store, 14, numbered(75, 11)));
-    QCOMPARE(store.lists.ListView3[9].rowCount(), 20);
-    QCOMPARE(store.lists.ListView3[10].rowCount(), 53);
-    QCOMPARE(store.tallies.rows[14], 73);
-}
-
-void LoadTableTest::emptyTableOfAnOuterLoopIsNoError()
-{
-    DataStore store;
-    for (const int step : {1, 7, 13, 19})
-        QVERIFY(!load(store, step, {}));
-    QCOMPARE(store.SolventCount, 0);
-}
-
-void LoadTableTest::solventsShowTheIndexBeforeTheCasNumber()
-{
-    DataStore store;
-    load(store, 1, numbered(2, 7));
-    QCOMPARE(cellsOf(store.lists.ListView1, 1, 7),
-             (QStringList{"r2f0", "r2f1", "r2f2", "r2f3", "r2f4", "r2f6", "r2f5"}));
-    QCOMPARE(store.SolventCount, 2);
-}
-
-void LoadTableTest::aminoAcidListsLeaveOutOneFieldEach()
-{
-    DataStore store;
-    load(store, 14, numbered(21, 11));
-    QCOMPARE(
-        cellsOf(store.lists.ListView3[9], 0, 11),
-        (QStringList{"r1f0", "r1f1", "r1f2", "r1f3", "r1f4", "r1f5", "r1f6", "r1f7", "r1f9", "r1f10", ""}));
-    QCOMPARE(cellsOf(store.lists.ListView3[10], 0, 11),
-             (QStringList{"r21f0", "r21f2", "r21f3", "r21f4", "r21f5", "r21f6", "r21f7", "r21f8", "r21f9",
-                          "r21f10", ""}));
-}
-
-void LoadTableTest::elementsFillTableNamesAndTallies()
-{
-    QList<QStringList> rows = numbered(2, 30);
-    for (int field = 21; field < 30; ++field)
-        rows[1][field].clear(); // the second element has two isotopes
-    DataStore store;
-    load(store, 3, rows);
-    QCOMPARE(store.tables.ElementData(1, ElementColumn::Symbol), QStringLiteral("r2f1"));
-    QCOMPARE(store.tables.ElementData(0, 29), QStringLiteral("r1f29"));
-    QVERIFY(store.tables.ElementData(0, 30).isEmpty());
-    QCOMPARE(store.lists.Combo2[3].text(1), QStringLiteral("r2f0"));
-    QCOMPARE(store.tallies.isotopes, 7);
-    QCOMPARE(store.tallies.rows[3], 2);
-}
-
-void LoadTableTest::referencesStartAtRowOne()
-{
-    DataStore store;
-    load(store, 29, numbered(40, 2));
-    QVERIFY(store.tables.NmrReferenceData(0, 0).isEmpty());
-    QCOMPARE(store.tables.NmrReferenceData(31, 1), QStringLiteral("r31f1"));
-    QVERIFY(store.tables.NmrReferenceData(32, 0).isEmpty());
-}
-
-void LoadTableTest::nullEndsTheStepWithinItsRow()
-{
-    QList<QStringList> rows = numbered(3, 4);
-    rows[1][2] = QStringLiteral("<null>");
-    DataStore store;
-    QVERIFY(!load(store, 4, rows));
-    QCOMPARE(store.lists.ListView6.rowCount(), 2);
-    QCOMPARE(cellsOf(store.lists.ListView6, 1, 4), (QStringList{"r2f0", "r2f1", "", ""}));
-}
-
-void LoadTableTest::tooManyRowsForAMemoryTableEndTheStep()
-{
-    DataStore store;
-    QVERIFY(!load(store, 18, numbered(30, 7)));
-    QCOMPARE(store.lists.Comb2.rowCount(), 23);
-    QVERIFY(!load(store, 30, numbered(120, 2)));
-    QCOMPARE(store.lists.ListView3[5].rowCount(), 101); // the row that does not fit the table is in the list
-    QCOMPARE(store.tables.IrGroupData(100, 0), QStringLiteral("r100f0"));
-}
-
-void LoadTableTest::ringColoursGoToTheListsOfTheirRows()
-{
-    DataStore store;
-    load(store, 32, numbered(13, 8));
-    QCOMPARE(store.lists.Combo2[4].rowCount(), 11);
-    QCOMPARE(store.lists.Combo2[6].text(0), QStringLiteral("r3f0"));
-    QCOMPARE(store.lists.Combo2[7].rowCount(), 10);
-    QCOMPARE(store.lists.Combo2[8].rowCount(), 7);
-    QCOMPARE(store.lists.Combo2[8].text(2), QStringLiteral("r4f0"));
-    QCOMPARE(store.lists.Combo2[9].text(7), QStringLiteral("r12f0"));
-
-    load(store, 34, numbered(2, 2));
-    QCOMPARE(store.lists.ListView3[29].subItem(1, 1), QStringLiteral("r2f1"));
-    QCOMPARE(store.lists.Combo4.text(1), QStringLiteral("r2f0"));
-}
-
-void LoadTableTest::onlyAMissingTableIsTold_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::addColumn<bool>("told");
-    QTest::newRow("missing table") << ErrorNumber::TableNotFound << true;
-    QTest::newRow("missing column") << ErrorNumber::ColumnNotFound << false;
-    QTest::newRow("damage") << ErrorNumber::DatabaseFailure << false;
-    QTest::newRow("closed connection") << ErrorNumber::ObjectClosed << false;
-}
-
-void LoadTableTest::onlyAMissingTableIsTold()
-{
-    QFETCH(int, number);
-    QFETCH(bool, told);
-    DataStore store;
-    bool asked = false;
-    TableLoader loader(
-        store, [&](const QString &) -> std::unique_ptr<RowSource> { throw RuntimeError(number); },
-        [&] { asked = true; });
-    loader.LoadTable(QStringLiteral("SELECT"));
-    QCOMPARE(asked, told);
-}
-
-void LoadTableTest::indicatorTallySplitsByList()
-{
-    DataStore store;
-    load(store, 8, numbered(180, 3));
-    QCOMPARE(store.tallies.acidBaseIndicators,
-             store.lists.ListView3[0].rowCount() + store.lists.ListView3[1].rowCount());
-    QCOMPARE(store.tallies.fluorescentIndicators, store.lists.ListView3[6].rowCount());
-}
-
-void LoadTableTest::everyGroupGoesToItsList()
-{
-    DataStore store;
-    for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step)
-        TsvSource::load(step, TableCatalog::table(step), store);
-    const auto sizes = [](const auto &lists, int count) {
-        QStringList rows;
-        for (int index = 0; index < count; ++index)
-            rows << QString::number(lists[index].rowCount());
-        return rows.join(QLatin1Char(' '));
-    };
-    QCOMPARE(sizes(store.lists.ListView2, 5), QStringLiteral("10 6 14 11 4"));
-    QCOMPARE(sizes(store.lists.ListView7, 7), QStringLiteral("7 13 13 8 24 4 6"));
-    // Redox couples and infrared bands are of any number.
-    const auto &rows = store.tallies.rows;
-    const QString expected =
-        QStringLiteral("60 63 51 92 %1 66 56 242 318 20 53 6 33 7 73 250 418 5 25 21 30 47 47 31 "
-                       "159 89 200 %2 192 96 0 59");
-    QCOMPARE(sizes(store.lists.ListView3, 32), expected.arg(rows[12]).arg(rows[31]));
-}
-
-void LoadTableTest::gridLinesAreSwitchedAsymmetrically()
-{
-    RowLists lists;
-    ApplyGridLines(lists, true);
-    QVERIFY(lists.ListView3[27].gridLines());
-    QVERIFY(!lists.ListView3[5].gridLines());
-    lists.ListView3[5].setGridLines(true);
-    ApplyGridLines(lists, true);
-    QVERIFY(lists.ListView3[5].gridLines());
-    ApplyGridLines(lists, false);
-    QVERIFY(!lists.ListView3[5].gridLines());
-    QVERIFY(!lists.ListView1.gridLines());
-}
-
-QTEST_APPLESS_MAIN(LoadTableTest)
+const TestClass<LoadTableTest> loadTableTest;
 #include "loadtable_test.moc"

@@ -4,21 +4,10 @@
 #include "store/databasepassword.h"
 #include "store/tablecatalog.h"
 
-#include <QRandomGenerator>
 #include <QtEndian>
 
 using Jet::Type;
 using Builder = JetFileBuilder;
-
-namespace {
-
-template<class T>
-void putSomewhere(QByteArray *bytes, T value, QRandomGenerator *random)
-{
-    qToLittleEndian(value, bytes->data() + random->bounded(bytes->size() - qsizetype(sizeof value)));
-}
-
-} // namespace
 
 QByteArray SampleDatabases::varied()
 {
@@ -98,54 +87,4 @@ QByteArray SampleDatabases::catalogued(int rows, const Edit &edit)
         addTable(&builder, step, table == edit.table ? edit : Edit{table, rows});
     }
     return builder.file(DatabasePassword);
-}
-
-void SampleDatabases::damage(QByteArray *bytes, QRandomGenerator *random)
-{
-    switch (random->bounded(7)) {
-    case 0: // cut anywhere
-        bytes->truncate(random->bounded(bytes->size()));
-        break;
-    case 1: // cut between pages
-        bytes->truncate(random->bounded(bytes->size()) / Jet::PageSize * Jet::PageSize);
-        break;
-    case 2:
-        for (int i = 0; i < 20; ++i)
-            putSomewhere(bytes, quint8(random->generate()), random);
-        break;
-    case 3:
-        for (int i = 0; i < 5; ++i) {
-            char &byte = bytes->data()[random->bounded(bytes->size())];
-            byte = char(byte ^ 1 << random->bounded(8));
-        }
-        break;
-    case 4: { // two pages change places
-        const qsizetype one = random->bounded(bytes->size() / Jet::PageSize) * Jet::PageSize;
-        const qsizetype other = random->bounded(bytes->size() / Jet::PageSize) * Jet::PageSize;
-        const QByteArray kept = bytes->mid(one, Jet::PageSize);
-        bytes->replace(one, Jet::PageSize, bytes->mid(other, Jet::PageSize));
-        bytes->replace(other, Jet::PageSize, kept);
-        break;
-    }
-    case 5:
-        for (int i = 0; i < 10; ++i) {
-            const quint16 extremes[] = {0, 1, 0x7FFF, 0x8000, 0xFFFE, 0xFFFF};
-            putSomewhere(bytes, extremes[random->bounded(6)], random);
-        }
-        break;
-    default:
-        for (int i = 0; i < 10; ++i) {
-            const quint32 extremes[] = {0, 0x100, 0x3FFFFFFF, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
-            putSomewhere(bytes, extremes[random->bounded(6)], random);
-        }
-    }
-}
-
-void SampleDatabases::damageHeads(QByteArray *bytes, QRandomGenerator *random)
-{
-    for (int i = 0; i < 3; ++i) {
-        const qsizetype page = random->bounded(bytes->size() / Jet::PageSize) * Jet::PageSize;
-        const quint16 values[] = {0, 1, 5, 0xFF, 0x1FFF, 0x4006, 0xFFFF, quint16(random->generate())};
-        qToLittleEndian(values[random->bounded(8)], bytes->data() + page + random->bounded(200));
-    }
 }

@@ -4,9 +4,7 @@
 #include <QSet>
 #include <QString>
 
-class QRandomGenerator;
-
-/// Small databases for tests of damage, and the damage.
+/// Small databases for tests of damage.
 namespace SampleDatabases {
 
 /// Everything that the delivered file lacks: fixed columns, long texts, moved and deleted rows, packed texts
@@ -26,12 +24,5 @@ struct Edit
 /// All tables of the catalogue, with @p rows rows of short texts each, "2.1" in row 2 and column 1; with the
 /// program's password. Rows and columns count from 0, an extra column not at all.
 QByteArray catalogued(int rows, const Edit &edit = {});
-
-/// Spoils @p bytes by chance: cuts it, changes bytes, bits or numbers anywhere, or lets two pages change
-/// places.
-void damage(QByteArray *bytes, QRandomGenerator *random);
-
-/// Spoils the bytes that lead on: the first ones of pages, where slots and definitions are.
-void damageHeads(QByteArray *bytes, QRandomGenerator *random);
 
 } // namespace SampleDatabases
