@@ -81,7 +81,7 @@ private Q_SLOTS:
             init();
             m_network->content = content;
             m_updates->Verifier();
-            const QString version = content.value_or("").mid(20).split('\r').first();
+            const QString version = content.value_or("").mid(19).split('\r').first();
             const QPair<QString, int> boxes[] = {
                 {failed(), 48},
                 {"There is no updates for Alembra. Your version is up-to-date.", 64},
