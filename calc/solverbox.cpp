@@ -48,9 +48,7 @@ SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     column->setContentsMargins({});
     column->setSpacing(4);
     column->addWidget(TabStrip4);
-    auto *head = new QHBoxLayout;
-    column->addLayout(head);
-    head->addWidget(&lbln.add(3, Controls::label({}, {}, this)), 1);
+    column->addWidget(&lbln.add(3, Controls::label({}, {}, this)));
     lbln.add(0, Controls::label({}, SymbolText::toUnicode(u"D"_s), &lbln[3]));
     lbln[3].setContentsMargins(4, 3, 0, 3);
 
@@ -63,26 +61,27 @@ SolverBox::SolverBox(const Module1 &module, Desktop &desktop, QWidget *parent)
     buildFields(*line);
     line->addStretch(1);
     buildButtons(*line);
-    buildWindowButtons(*head);
-
-    lblPlain = Controls::label(u"lblPlain"_s, {}, this);
-    lblPlain->setContentsMargins(4, 0, 0, 0);
-    lblPlain->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    column->addWidget(lblPlain);
+    column->addLayout(makeFoot());
 
     connect(TabStrip4, &TabStrip::tabClicked, this, &SolverBox::clickTab);
     showTab(1);
 }
 
-void SolverBox::buildWindowButtons(QBoxLayout &line)
+QBoxLayout *SolverBox::makeFoot()
 {
+    auto *line = new QHBoxLayout;
+    lblPlain = Controls::label(u"lblPlain"_s, {}, this);
+    lblPlain->setContentsMargins(4, 0, 0, 0);
+    lblPlain->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->addWidget(lblPlain, 1);
     const auto add = [&](const QString &caption, const QString &name, void (SolverBox::*wanted)()) {
         auto *button = Controls::named(new QPushButton(caption, this), name);
         connect(button, &QPushButton::clicked, this, wanted);
-        line.addWidget(button);
+        line->addWidget(button);
     };
     add(u"Molar mass..."_s, u"cmdMolarMass"_s, &SolverBox::molarMassWanted);
     add(u"Stock solutions..."_s, u"cmdStock"_s, &SolverBox::stockWanted);
+    return line;
 }
 
 void SolverBox::buildFields(QBoxLayout &line)

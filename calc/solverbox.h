@@ -40,7 +40,7 @@ private:
     void buildFields(QBoxLayout &line);
     void buildLiquids(QBoxLayout &line);
     void buildButtons(QBoxLayout &line);
-    void buildWindowButtons(QBoxLayout &line);
+    QBoxLayout *makeFoot();
 
     void clickTab(int tab);
     void showTab(int number);
