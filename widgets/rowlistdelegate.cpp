@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Characters before the decimal point of the number that @p text begins with, such as "<1", "~2.3" or
@@ -62,7 +64,7 @@ QString RowListDelegate::shownText(const QModelIndex &index) const
 QString RowListDelegate::signOf(const QModelIndex &index) const
 {
     const bool general = index.data(RowListModel::GeneralKnowledgeRole).toBool();
-    return general ? QStringLiteral("\u00A0\u25CA") : QString(); // a lozenge that stays on the line
+    return general ? u"\u00A0\u25CA"_s : QString(); // a lozenge that stays on the line
 }
 
 bool RowListDelegate::isHeading(int row) const

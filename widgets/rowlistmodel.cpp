@@ -4,6 +4,8 @@
 #include "store/rowremarks.h"
 #include "store/tablecatalog.h"
 
+using namespace Qt::StringLiterals;
+
 QString ListColumn::shown(QString stored) const
 {
     if (!unit.isEmpty())
@@ -40,7 +42,7 @@ QVariant RowListModel::data(const QModelIndex &index, int role) const
         return stored;
     case Qt::AccessibleTextRole:
         return m_columns[index.column()].shown(stored) +
-               (isGeneralKnowledge(index) ? QStringLiteral(", general knowledge") : QString());
+               (isGeneralKnowledge(index) ? u", general knowledge"_s : QString());
     case GeneralKnowledgeRole:
         return isGeneralKnowledge(index);
     default:

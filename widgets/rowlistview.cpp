@@ -186,7 +186,7 @@ bool RowListView::viewportEvent(QEvent *event)
     if (index.isValid() && m_delegate->isCut(font(), visualRect(index), index))
         lines << m_delegate->shownText(index);
     if (index.data(RowListModel::GeneralKnowledgeRole).toBool())
-        lines << QStringLiteral("General knowledge, no document");
-    QToolTip::showText(help->globalPos(), lines.join(QLatin1Char('\n')), viewport(), visualRect(index));
+        lines << u"General knowledge, no document"_s;
+    QToolTip::showText(help->globalPos(), lines.join(u'\n'), viewport(), visualRect(index));
     return true;
 }
