@@ -3,6 +3,7 @@
 #include "app/commands.h"
 #include "core/optionslots.h"
 #include "widgets/modaldialogs.h"
+#include "widgets/sidewindow.h"
 
 #include <QApplication>
 #include <QGuiApplication>
@@ -105,6 +106,11 @@ void TrayIcon::bringBack()
     m_form.show();
     m_form.raise();
     m_form.activateWindow();
+    // The main window is disabled while a side window is open: that takes the keys.
+    for (SideWindow *window : m_form.findChildren<SideWindow *>(Qt::FindDirectChildrenOnly)) {
+        if (window->isVisible())
+            window->activateWindow();
+    }
     windowChanged();
 }
 

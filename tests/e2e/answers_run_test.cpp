@@ -31,6 +31,8 @@ private Q_SLOTS:
                          const QString mass = QStringLiteral("198.171 g/mol");
                          QTest::keyClicks(&formula, "C6H12O6*H2O");
                          QCOMPARE(get<QLabel>(window, "lblMass").text(), mass);
+                         form.restoreAndRaise(); // as a second start does
+                         QVERIFY(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
                          QTest::keyClicks(&formula, "(");
                          QCOMPARE(get<QLabel>(window, "lblMass").text(), "");
                          QCOMPARE(get<QLabel>(window, "lblError").text(),
