@@ -12,9 +12,9 @@ MenuLayout MenuLayout::read(const QString &path)
     QXmlStreamReader xml(FileErrors::readWhole(path));
     QList<Entry> *entries = nullptr; // of the menu or tool bar being read
     const auto text = [&](const QString &attribute) { return xml.attributes().value(attribute).toString(); };
-    const auto begin = [&](QList<Menu> &menus, const QString &caption) {
-        menus << Menu{caption, {}};
-        entries = &menus.last().entries;
+    const auto begin = [&](QList<Menu> &list, const QString &caption) {
+        list << Menu{caption, {}};
+        entries = &list.last().entries;
     };
 
     if (!xml.readNextStartElement() || xml.name() != u"layout"_s)
