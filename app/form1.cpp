@@ -311,10 +311,11 @@ void Form1::updateCommands()
     const bool searchable = m_panes->isShown(PanelId::Solvents) &&
                             (m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown());
     m_commandBars.action(CommandId::Find).setEnabled(searchable || m_panes->isShown(PanelId::Elements));
-    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(reportContext()));
+    const ReportContext shown = reportContext();
+    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(shown));
     m_commandBars.action(CommandId::Print).setEnabled(false);
     m_copyActions.update();
-    m_printActions.update(reportContext());
+    m_printActions.update(shown);
 }
 
 void Form1::closeEvent(QCloseEvent *event)

@@ -103,6 +103,7 @@ private:
     const QSet<QString> &m_elements;
     qsizetype m_at = 0;
     qsizetype m_end = 0;
+    int m_depth = 0; ///< of open brackets
     Formula m_formula;
 };
 
@@ -188,12 +189,16 @@ Parser::Atoms Parser::readUnit()
 
 Parser::Atoms Parser::readBracket()
 {
+    constexpr int Deepest = 20; // a pasted text must not exhaust the stack
     const qsizetype opened = m_at;
+    if (++m_depth > Deepest)
+        fail(opened, u"more than %1 brackets in one another"_s.arg(Deepest));
     const QChar closing = u")]}"_s[u"([{"_s.indexOf(m_text[m_at++])];
     const Atoms atoms = readUnits(closing);
     if (m_at == m_end)
         fail(opened, u"this bracket is not closed"_s);
     ++m_at;
+    --m_depth;
     return atoms;
 }
 

@@ -97,6 +97,7 @@ private Q_SLOTS:
             QVERIFY2(error && error->reason.contains(row.reason), row.typed);
             QVERIFY2(error->position == row.position, row.typed);
         }
+        QVERIFY(std::holds_alternative<FormulaError>(parse(QByteArray(30000, '('))));
     }
 
     // Every row of the file that ships has the molar mass of its formula, and the molarity that it states.
