@@ -17,6 +17,7 @@ namespace {
 
 constexpr QSize WindowSize{470, 244};
 constexpr int TextLeft = 128;
+constexpr int TextWidth = WindowSize.width() - TextLeft - 16;
 constexpr int PauseMilliseconds = 50;
 
 } // namespace
@@ -45,10 +46,10 @@ frmload::frmload() : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt:
     addLine("lblcopy", VersionRecord::LegalNotice, 142, 48);
 
     auto *doing = Controls::label(u"Label1"_s, u"Loading data..."_s, this);
-    doing->setGeometry(20, 192, WindowSize.width() - 40, 18);
+    doing->setGeometry(TextLeft, 192, TextWidth, 18);
     m_progressBar = Controls::named(new QProgressBar(this), u"ProgressBar1"_s);
     m_progressBar->setTextVisible(false);
-    m_progressBar->setGeometry(20, 214, WindowSize.width() - 40, 14);
+    m_progressBar->setGeometry(TextLeft, 214, TextWidth, 14);
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(0);
 }
@@ -58,7 +59,7 @@ QLabel *frmload::addLine(const char *name, const QString &text, int top, int hei
     QLabel *line = Controls::label(name, text, this);
     line->setWordWrap(true);
     line->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    line->setGeometry(TextLeft, top, WindowSize.width() - TextLeft - 16, height);
+    line->setGeometry(TextLeft, top, TextWidth, height);
     return line;
 }
 
