@@ -82,8 +82,9 @@ QLayout *frmFormula::buildButtons(const QString &field)
     connect(cmdCopy, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(lblMass->text().section(u' ', 0, 0)); });
     connect(cmdPutM, &QPushButton::clicked, this, [this] {
-        Q_EMIT massChosen(lblMass->text().section(u' ', 0, 0));
-        accept();
+        const QString mass = lblMass->text().section(u' ', 0, 0);
+        accept(); // first: a disabled main window gives no field the focus
+        Q_EMIT massChosen(mass);
     });
     connect(close, &QPushButton::clicked, this, &frmFormula::reject);
     auto *row = new QHBoxLayout;
