@@ -4,6 +4,7 @@
 #include "app/menulayout.h"
 #include "app/optionshost.h"
 #include "app/panescroll.h"
+#include "app/placeswitch.h"
 #include "app/sourceaction.h"
 #include "browsers/biochemistrypane.h"
 #include "browsers/references.h"
@@ -59,6 +60,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
         m_reactions->ClearChartPanels();
     });
     buildPaneArea();
+    m_places = new PlaceSwitch(*this, *m_panes, [this](int id) { executeCommand(id); });
     m_options = std::make_unique<OptionsHost>(
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},

@@ -24,6 +24,7 @@ class Desktop;
 class ElementsPane;
 class LaterTables;
 class OptionsHost;
+class PlaceSwitch;
 class ReactionsPane;
 class SourceAction;
 class SolventsPane;
@@ -108,6 +109,7 @@ private:
     SpectroscopyPane *m_spectroscopy = nullptr;
     ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
+    PlaceSwitch *m_places;
     std::unique_ptr<SourceAction> m_sourceAction;
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;

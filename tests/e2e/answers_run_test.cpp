@@ -1,5 +1,7 @@
+#include "app/placeswitch.h"
 #include "tests/support/files.h"
 #include "tests/support/wholerun.h"
+#include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QLabel>
@@ -17,7 +19,47 @@ class AnswersRunTest final : public WholeRun
         get<QAction>(form, QString::fromLatin1(action)).trigger();
     }
 
+    /// What the screen shows wrongly after going to the last row of @p where; empty if nothing.
+    static QString missedAt(const ListPlace &where, Form1 &form)
+    {
+        auto &places = get<PlaceSwitch>(form, QString());
+        const QString list = QLatin1String(where.list);
+        places.show({list, 0}); // builds the pane
+        const auto *view = form.findChild<QAbstractItemView *>(list);
+        const int last = view ? view->model()->rowCount() - 1 : 0;
+        places.show({list, last});
+        QCoreApplication::sendPostedEvents();
+        const Place shown = places.current();
+        if (shown.list != list || (view && shown.row != last))
+            return QStringLiteral("shows %1, row %2").arg(shown.list).arg(shown.row);
+        if (!view)
+            return {};
+        const QPoint row = view->visualRect(view->currentIndex()).center();
+        if ((last >= 0 && !view->viewport()->rect().contains(row)) || !Controls::isOnTop(*view, form))
+            return QStringLiteral("is not in view");
+        return form.focusWidget() == view ? QString() : QStringLiteral("has no focus");
+    }
+
 private Q_SLOTS:
+    void everyListIsWhereTheTableOfPlacesSays()
+    {
+        const ProgramFolder folder;
+        folder.setOption(56, "0");
+        QCOMPARE(run(folder,
+                     [](Form1 &form) {
+                         for (const ListPlace &where : Places::all()) {
+                             if (where.command == 0)
+                                 continue;
+                             const QString missed = missedAt(where, form);
+                             QVERIFY2(missed.isEmpty(),
+                                      qPrintable(where.list + QStringLiteral(": ") + missed));
+                         }
+                         for (const RowListView *list : form.findChildren<RowListView *>())
+                             QVERIFY2(Places::find(list->objectName()), qPrintable(list->objectName()));
+                     }),
+                 0);
+    }
+
     void molarMassOfAFormula()
     {
         const ProgramFolder folder;
