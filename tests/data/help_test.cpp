@@ -1,3 +1,5 @@
+#include "calc/calctabs.h"
+#include "calc/calculation.h"
 #include "calc/solver.h"
 #include "calc/unitconverter.h"
 #include "core/optionslots.h"
@@ -116,6 +118,9 @@ private Q_SLOTS:
         for (const QString &link : links + values(m_index, "Local"))
             QVERIFY2(m_pages.contains(link), qPrintable(link));
         QStringList contents = values("alembra_help_uk.hhc", "Local");
+        for (const QString &page : contents)
+            QVERIFY2(Page(page).title == values("alembra_help_uk.hhc", "Name")[contents.indexOf(page)],
+                     qPrintable(page));
         QCOMPARE(contents.value(0), QString("index.html"));
         contents.sort();
         QCOMPARE(contents, m_pages);
@@ -138,7 +143,7 @@ private Q_SLOTS:
         const QList<HelpBook::Topic> found = HelpBook::search("tryptophan UGG");
         QCOMPARE(found.size(), 1);
         QCOMPARE(found.constFirst().page, QString("geneticcode.html"));
-        QCOMPARE(found.constFirst().level, 1);
+        QCOMPARE(found.constFirst().level, 2);
     }
 
     // "(fills itself)" marks a field that the program fills, an empty cell one that the example solves for.
@@ -178,6 +183,20 @@ private Q_SLOTS:
         }
     }
 
+    void everyMessageOfTheCalculatorsIsExplained()
+    {
+        const QString page = QString::fromUtf8(readFile(Source + "problems.html")).simplified();
+        for (const CalcTab &tab : CalcTabs::tabs()) {
+            QStringList messages(tab.solver.tooFew);
+            for (const Pattern &pattern : tab.solver.patterns) {
+                if (const auto *message = std::get_if<const char *>(&pattern.answer))
+                    messages << *message;
+            }
+            for (const QString &message : messages)
+                QVERIFY2(page.contains(message), qPrintable(message));
+        }
+    }
+
     void conversionsAreWhatTheProgramShows()
     {
         OptionSlots options;
@@ -193,6 +212,7 @@ private Q_SLOTS:
             const QRegularExpressionMatch equation = Equation.match(cells[1]);
             QVERIFY2(equation.hasMatch(), qPrintable(cells[1]));
             const QStringList names = Units::names(quantity, options);
+            QCOMPARE(cells[2], names.join(", "));
             const auto position = [&](const QString &unit) {
                 const auto isUnit = [&](const QString &name) { return name.startsWith(unit + " ("); };
                 return int(std::find_if(names.begin(), names.end(), isUnit) - names.begin());
