@@ -14,11 +14,11 @@ constexpr AnswerColumn ProtonShifts[]{{1, "", "", Searched}, {2, "", "", Searche
 constexpr AnswerColumn CarbonShifts[]{{1, "", "", Searched},  {2, "CDCl3", "ppm"},   {3, "acetone", "ppm"},
                                       {4, "DMSO", "ppm"},     {5, "benzene", "ppm"}, {6, "MeCN", "ppm"},
                                       {7, "methanol", "ppm"}, {8, "water", "ppm"}};
-constexpr AnswerColumn Miscibilities[]{{3, "not miscible with"}, {1, "polarity index"}, {2, "in water", "%"}};
+constexpr AnswerColumn Miscibilities[]{{3, "non-miscible:"}, {1, "polarity index"}, {2, "in water", "%"}};
 constexpr AnswerColumn Peaks[]{{1, "m/z"}, {2, "m/z"}, {3, "m/z"}, {4, "m/z"}, {5, "m/z"},
                                {6, "m/z"}, {7, "m/z"}, {8, "m/z"}, {9, "m/z"}, {10, "m/z"}};
 constexpr AnswerColumn DryingAgents[]{{1, "dried with", "", Searched}};
-constexpr AnswerColumn Temperatures[]{{1, "", "°C"}};
+constexpr AnswerColumn Temperatures[]{{1, "", "°C", Searched}};
 constexpr AnswerColumn AcidCouples[]{
     {1, "", "", Searched}, {2, "pKa1"}, {3, "pKa2"}, {4, "pKa3"}, {5, "pKa4"}};
 constexpr AnswerColumn RedoxCouples[]{{1, "E°", "V"}};
@@ -52,11 +52,23 @@ constexpr AnswerColumn ResolvingGels[]{
     {1, "5 %:"}, {2, "7.5 %:"}, {3, "10 %:"}, {4, "12.5 %:"}, {5, "15 %:"}};
 constexpr AnswerColumn StackingGel[]{{1, "4 %:"}};
 constexpr AnswerColumn Bands[]{{1, "", "", Searched}, {2, "", "cm-1"}};
-constexpr AnswerColumn ConstantValues[]{{1, "", "", Searched}, {2, "="}, {3, ""}};
-constexpr AnswerColumn SiUnits[]{{1, "", "", Searched}, {2, "", "", Searched}, {4, "="}};
+constexpr AnswerColumn ConstantValues[]{{1, "", "", Searched}, {2, " ="}, {3, " "}};
+constexpr AnswerColumn SiUnits[]{{1, "", "", Searched}, {2, "", "", Searched}, {4, " ="}};
 constexpr AnswerColumn Elements[]{{1, "", "", Searched}, {2, "Z", "", Searched}, {3, "M", "g/mol"},
                                   {6, "mp", "°C"},       {7, "bp", "°C"},        {5, "d", "g/cm³"}};
 constexpr AnswerColumn Codes[]{{1, "", "ohm"}};
+
+struct QuantityName
+{
+    const char *label;
+    const char *words;
+};
+
+constexpr QuantityName Quantities[]{
+    {"bp", "boiling point"},        {"mp", "melting point"},      {"M", "molar mass"},
+    {"d", "density, volumic mass"}, {"n", "refractive index"},    {"E°", "standard potential"},
+    {"Ks", "solubility product"},   {"Kf", "formation constant"}, {"pI", "isoelectric point"},
+    {"ex", "excitation"},           {"em", "emission"},           {"in water", "solubility"}};
 
 // Commands of the panes that choose no tab.
 constexpr int SolutionsPane = 1113;
@@ -82,7 +94,7 @@ constexpr ListPlace Table[]{
     {"ListView3(2)", "Acid/base couples, inorganic", SolutionsPane, "TabStrip2", 0, "Option4(0)", ListView3<2>, AcidCouples},
     {"ListView3(3)", "Acid/base couples, organic", SolutionsPane, "TabStrip2", 0, "Option4(1)", ListView3<3>, AcidCouples},
     {"ListView3(9)", "Natural amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(0)", ListView3<9>, NaturalAcids},
-    {"Comb2", "Genetic code", BiochemistryPane, nullptr, 0, "Option3(1)", aminoAcids, Codons},
+    {"Comb2", "Genetic code, codons", BiochemistryPane, nullptr, 0, "Option3(1)", aminoAcids, Codons},
     {"ListView3(10)", "Synthetic amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(1)", ListView3<10>, SyntheticAcids},
     {"ListView6", "Solvents, miscibility and polarity", 1116, nullptr, 0, nullptr, list<&RowLists::ListView6>, Miscibilities},
     {"ListView4", "Solvents, proton NMR", 1115, nullptr, 0, "Option1", list<&RowLists::ListView4>, ProtonShifts},
@@ -102,11 +114,11 @@ constexpr ListPlace Table[]{
     {"ListView3(13)", "Purines", BiochemistryPane, "TabStrip9", 1, "Option5(3)", ListView3<13>, Bases},
     {"ListView3(14)", "Carbohydrates", BiochemistryPane, "TabStrip9", 2, nullptr, ListView3<14>, Sugars},
     {"ListView3(12)", "Fatty acids", BiochemistryPane, "TabStrip9", 3, nullptr, ListView3<12>, FattyAcids},
-    {"ListView3(21)", "SDS-PAGE, stock solutions", BiochemistryPane, "TabStrip8", 2, nullptr, ListView3<21>, Recipe},
-    {"ListView3(22)", "SDS-PAGE, resolving gel", BiochemistryPane, "TabStrip8", 3, "Option4(8)", ListView3<22>, ResolvingGels},
-    {"ListView3(23)", "SDS-PAGE, stacking gel", BiochemistryPane, "TabStrip8", 3, "Option4(9)", ListView3<23>, StackingGel},
-    {"ListView3(19)", "SDS-PAGE, staining with Coomassie blue", BiochemistryPane, "TabStrip8", 4, "Option4(7)", ListView3<19>, Recipe},
-    {"ListView3(20)", "SDS-PAGE, staining with silver", BiochemistryPane, "TabStrip8", 4, "Option4(6)", ListView3<20>, Recipe},
+    {"ListView3(21)", "SDS-PAGE, stock solutions", BiochemistryPane, "TabStrip8", 2, nullptr, ListView3<21>, Recipe, true},
+    {"ListView3(22)", "SDS-PAGE, resolving gel", BiochemistryPane, "TabStrip8", 3, "Option4(8)", ListView3<22>, ResolvingGels, true},
+    {"ListView3(23)", "SDS-PAGE, stacking gel", BiochemistryPane, "TabStrip8", 3, "Option4(9)", ListView3<23>, StackingGel, true},
+    {"ListView3(19)", "SDS-PAGE, staining with Coomassie blue", BiochemistryPane, "TabStrip8", 4, "Option4(7)", ListView3<19>, Recipe, true},
+    {"ListView3(20)", "SDS-PAGE, staining with silver", BiochemistryPane, "TabStrip8", 4, "Option4(6)", ListView3<20>, Recipe, true},
     {"ListView3(18)", "SDS-PAGE, protein standards", BiochemistryPane, "TabStrip8", 1, nullptr, ListView3<18>, Standards},
     {"ListView3(17)", "SDS-PAGE, separation", BiochemistryPane, "TabStrip8", 0, nullptr, ListView3<17>, Separations},
     {"ListView3(27)", "Infrared, table", 1145, nullptr, 0, nullptr, ListView3<27>, Bands},
@@ -156,4 +168,11 @@ const ListPlace *Places::find(QStringView list)
     const auto *found = std::ranges::find_if(
         Table, [&](const ListPlace &each) { return list == QLatin1StringView(each.list); });
     return found == std::end(Table) ? nullptr : found;
+}
+
+QString Places::words(const char *label)
+{
+    const auto *found = std::ranges::find_if(
+        Quantities, [&](const QuantityName &each) { return qstrcmp(each.label, label) == 0; });
+    return found == std::end(Quantities) ? QString() : QString::fromUtf8(found->words);
 }

@@ -19,7 +19,7 @@ struct AnswerColumn
     enum Use { Searched, Value }; ///< names, formulas, codes are searched; values are only shown
 
     int cell;
-    const char *label; ///< short, "bp"; UTF-8
+    const char *label; ///< short, "bp", UTF-8; goes on without a comma if it begins with a blank
     const char *unit = "";
     Use use = Value;
 };
@@ -35,6 +35,7 @@ struct ListPlace
     const char *option = nullptr;                       ///< object name of the radio button
     const RowList &(*rows)(const RowLists &) = nullptr; ///< null: its rows are not a RowList
     std::span<const AnswerColumn> columns = {};
+    bool recipes = false; ///< rows with a name only are titles of those below
 };
 
 /// The one table of where each list is seen. Search, history and "Show in" use it.
@@ -49,5 +50,8 @@ std::span<const ListPlace> all();
 
 /// Null if there is no such list.
 const ListPlace *find(QStringView list);
+
+/// The words for the label of a column, "boiling point" for "bp"; empty for one that says it itself.
+QString words(const char *label);
 
 } // namespace Places

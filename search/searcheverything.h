@@ -1,0 +1,68 @@
+#pragma once
+
+#include "search/places.h"
+#include "search/searchindex.h"
+
+#include <functional>
+
+struct DataStore;
+
+/// A row that answers a query.
+struct SearchAnswer
+{
+    QString name;
+    QList<SearchIndex::Range> marks; ///< parts of the name that were found
+    QString table;
+    QString values; ///< with their units
+    Place place;
+};
+
+struct SearchResult
+{
+    QString understood; ///< what was looked for and found, in words
+    QList<SearchAnswer> answers;
+};
+
+/// Names that are in no list of the store: units, titles of help pages.
+struct NamedPlaces
+{
+    const char *list; ///< in the table of places; row n is name n
+    QStringList names;
+};
+
+/// Search over all data in memory. Reads the store again for each answer, but keeps the folded texts: make a
+/// new one when the data change.
+class SearchEverything final
+{
+public:
+    /// Answers of one search at most.
+    static constexpr int Limit = 200;
+
+    /// @p store outlives it.
+    SearchEverything(const DataStore &store, const QList<NamedPlaces> &others);
+
+    SearchResult find(const QString &text) const;
+
+    /// The answer for one row: name, table, values and place.
+    SearchAnswer answer(const ListPlace &where, int row) const;
+
+private:
+    /// A table of the index: rows and cells as its place in the table of places counts them.
+    struct Source
+    {
+        const ListPlace *where;
+        int rows;
+        std::function<QString(int row, int cell)> cell;
+        int rowsOfPlace = 1; ///< rows for one row of the place
+    };
+
+    void add(Source source);
+    static SearchAnswer answer(const Source &source, int row);
+    static QString values(const Source &source, int row);
+    static bool isTitle(const Source &source, int row);
+    static int titleOf(const Source &source, int row);
+    static QString ingredients(const Source &source, int title);
+
+    QList<Source> m_sources; ///< in the order of the index
+    SearchIndex m_index;
+};
