@@ -39,6 +39,9 @@ const QList<References::Entry> &References::page()
         {44, Kind::Link, "SDBS - Web Spectral Database for Organic Compounds",
          "https://sdbs.db.aist.go.jp/sdbs/cgi-bin/cre_index.cgi?lang=eng", 49},
 
+        {5, Kind::Heading, "Polymères"},
+        {29, Kind::Source, "- No tables in this version"},
+
         {2, Kind::Heading, "Calculations"},
         {18, Kind::Source, "- CODATA recommended values of the fundamental constants, 2022"},
         {20, Kind::Source, "- The International System of Units, SI Brochure, 9th ed."},
@@ -50,6 +53,9 @@ const QList<References::Entry> &References::page()
         {25, Kind::Source, "- FPbase; McNamara-Boswell dye spectra"},
         {42, Kind::Source, "- Wikipedia, CC BY-SA: potentials, indicators, infrared bands, cooling"},
         {55, Kind::Source, "- J. Fluoresc. 2020, 30, 901, CC BY"},
+        {56, Kind::Source,
+         "- Merck, Riedel-deHaën, Carl-Zeiss and Olympus only name lists of Solutions, which are not "
+         "from these companies"},
         {23, Kind::Link, "AnalChem Ressources",
          "https://chem.libretexts.org/Bookshelves/Analytical_Chemistry", 50},
         {26, Kind::Link, "Olympus - Microscopy Ressource Center",
@@ -60,11 +66,9 @@ const QList<References::Entry> &References::page()
         {4, Kind::Heading, "Réactions"},
         {28, Kind::Source, "- Names: RXNO, CC BY 4.0; mechanisms our own"},
 
-        {5, Kind::Heading, "Polymères"},
-        {29, Kind::Source, "- No tables in this version"},
-
         {6, Kind::Heading, "Elements"},
         {32, Kind::Source, "- Aldrich Periodic Table of the Elements, 2000"},
+        {57, Kind::Source, "- This table and the Memento are further reading only"},
         {33, Kind::Source, "- IUPAC standard atomic weights, 2021"},
         {34, Kind::Source, "- PubChem periodic table, National Library of Medicine"},
         {35, Kind::Source, "- Chinese Phys. C 2021, 45, 030001 (NUBASE2020); Nuclear Wallet Cards"},
@@ -73,7 +77,8 @@ const QList<References::Entry> &References::page()
 
         {8, Kind::Heading, "Biochemistry"},
         {37, Kind::Source,
-         "- IUPAC Digitized pKa Dataset v1.0, CC BY-NC 4.0. Reproduced by permission of IUPAC"},
+         "- IUPAC Digitized pKa Dataset v1.0, CC BY-NC 4.0; its own notice is \"Reproduced by permission of "
+         "IUPAC\""},
         {43, Kind::Source, "- CAS Common Chemistry, melting points, CC BY-NC 4.0"},
         {38, Kind::Source, "- IUPAC-IUBMB Nomenclature of Carbohydrates, 1996"},
         {39, Kind::Source, "- Protein electrophoresis, instruction manual with gel formulations, Bio-Rad"},

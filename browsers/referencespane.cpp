@@ -20,8 +20,8 @@ void ReferencesPane::buildContents()
     constexpr int Margin = 16;
     constexpr int ColumnWidth = 300;
     constexpr int ColumnGap = 14;
-    constexpr int LineGap = 4;
-    constexpr int AboveHeading = 14;
+    constexpr int LineGap = 3;
+    constexpr int AboveHeading = 10;
     constexpr int BulletWidth = 9;
 
     int left = Margin - ColumnWidth - ColumnGap;

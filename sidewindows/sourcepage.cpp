@@ -81,11 +81,11 @@ QString documentOf(const QString &key)
                 key.toHtmlEscaped()));
     if (document->clause == u"general")
         return paragraph(
-            u"General knowledge, no document: well established, but nobody of us saw a document for it. Look "
-            "it up before a result depends on it."_s);
+            u"General knowledge, no document: well established, but none of us has seen a document for it. "
+            "Look it up before you rely on it."_s);
     QString text = linked(document->text);
     if (document->clause == u"unnamed")
-        text += u".<br>Nobody can look this document up."_s;
+        text += u".<br>This document cannot be looked up."_s;
     return paragraph(text + licence(*document));
 }
 
@@ -124,6 +124,16 @@ QString doubt(const TableRow &row)
     return html;
 }
 
+/// The buttons above these lists bear names of companies.
+QString namesOfLists(const TableRow &row)
+{
+    if (row.table != u"Indicateurscolores" && row.table != u"Fluorochromes")
+        return {};
+    return paragraph(
+        u"<i>Merck, Riedel-deHaën, Carl-Zeiss and Olympus on the buttons only name the lists, which are not "
+        "from these companies.</i>"_s);
+}
+
 QString answer(const TableRow &row, const RecordedSource &recorded)
 {
     switch (recorded.kind) {
@@ -131,17 +141,18 @@ QString answer(const TableRow &row, const RecordedSource &recorded)
         break;
     case Kind::OtherRow:
         return paragraph(
-            u"The database has been changed since the program read it, and has another row here now. Start "
-            "the program again to see where its rows are from."_s);
+            u"The database was changed after the program read it, and now has another row here. Start the "
+            "program again to see its sources."_s);
     case Kind::Unreadable:
-        return paragraph(u"The database cannot be read any more, so its source is not known."_s);
+        return paragraph(u"The database can no longer be read, so the source is not known."_s);
     case Kind::None:
         return paragraph(u"No source is recorded for this row in the database."_s);
     }
     const QString changed =
-        u"This row is not among those that were delivered. What follows is what the database says; it may "
-        "not be true of values that were changed."_s;
-    return (recorded.changed ? paragraph(changed) : QString()) + documents(recorded.source) + doubt(row);
+        u"You added or changed this row. The sources below are those that your database names; they may not "
+        "be those of changed values."_s;
+    return (recorded.changed ? paragraph(changed) : QString()) + documents(recorded.source) + doubt(row) +
+           namesOfLists(row);
 }
 
 } // namespace
@@ -150,9 +161,9 @@ QString SourcePage::html(const TableRow &row, const RecordedSource &recorded)
 {
     if (row.table.isEmpty())
         return paragraph(u"No source is recorded for this."_s) +
-               paragraph(
-                   u"Choose a row in a list, or an element, and ask again. What the program computes or "
-                   "converts, and its own texts, are in no table."_s);
+               paragraph(u"Select a row of a list, or an element, and try again. Results of the calculators "
+                         u"and the "
+                         "program's own texts are in no table."_s);
     QStringList name = row.texts;
     name.removeAll(QString());
     return u"<h3>%1</h3>"_s.arg(name.mid(0, 2).join(u", "_s).toHtmlEscaped()) + answer(row, recorded);
