@@ -33,9 +33,9 @@ bool previousInstanceAnswers(const SingleInstance &instance, Desktop &desktop)
 {
     const SingleInstance::Previous previous = instance.activatePrevious();
     if (previous == SingleInstance::Previous::Silent)
-        desktop.endWithMessage(
-            u"Alembra is already running, but it does not answer. Wait until it has finished its work, or "
-            "end it, and start Alembra again."_s);
+        desktop.endWithMessage(u"Alembra is already running, but it does not answer. Wait a moment and start "
+                               u"it again, or end the "
+                               "process Alembra_uk first."_s);
     return previous == SingleInstance::Previous::Answered;
 }
 
@@ -48,17 +48,18 @@ bool userWantsOriginal(Desktop &desktop, const JetFile &database, bool isNewsOfO
     if (isNewsOfOriginal)
         gaps += DatabaseGaps::otherRowCounts(database);
     if (gaps.size() > MaxGaps)
-        gaps = gaps.first(MaxGaps) << u"There is more of this."_s;
+        gaps = gaps.first(MaxGaps) << u"There are more differences."_s;
     if (gaps.isEmpty() && isNewsOfOriginal)
         desktop.messageBox(u"There is a new database. Yours was changed, so it stays as it is.\n\nTo use the "
                            "new one, choose Restore in the options, on the tab Database. Save a copy of "
-                           "yours before."_s,
+                           "yours first."_s,
                            Desktop::Information);
     return !gaps.isEmpty() &&
            desktop.messageBox(
                u"Your database was made for another version of Alembra.\n\n"_s + gaps.join(u'\n') +
-                   u"\n\nWithout a column its list stays empty; without a table the program ends. "
-                   "With another number of rows, some are in the wrong list.\n\nDo you want to use the "
+                   u"\n\nIf a column is missing, its list is empty; if a table is missing, the program ends. "
+                   "If the number of rows differs, some rows are in the wrong list.\n\nDo you want to use "
+                   "the "
                    "database of this version? Yours stays in the folder Data, as Database_uk_old.mdb or with "
                    "a number after \"old\"."_s,
                Desktop::Warning + Desktop::YesNo) == Desktop::Yes;

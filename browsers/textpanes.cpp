@@ -47,8 +47,7 @@ void DonatePane::buildContents()
         this, u"Donate"_s,
         {u"Alembra is free software. If it saves you a walk to the library now and then, a donation helps "
          "to keep its tables growing and its web site open."_s,
-         u"A click on either picture opens the donation page in your browser. The program itself neither "
-         "asks for nor sends anything."_s});
+         u"Click either picture to open the donation page in your browser. The program itself sends nothing."_s});
     auto *pictures = new QHBoxLayout;
     pictures->setSpacing(24);
     pictures->addWidget(makePicture(u"Image1"_s, Icons::named(u"donate"_s)));
@@ -80,9 +79,5 @@ PolymersPane::PolymersPane(QWidget *parent) : ModulePanel("frmpolym", parent)
 
 void PolymersPane::buildContents()
 {
-    layOutText(this, u"Polymers"_s,
-               {u"This version has no tables on polymers. The solvents that dissolve and precipitate them "
-                "are on the pane Solvents, the functional groups of their spectra on the pane "
-                "Spectroscopy."_s})
-        ->addStretch();
+    layOutText(this, u"Polymers"_s, {u"This version has no data on polymers."_s})->addStretch();
 }

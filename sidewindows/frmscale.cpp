@@ -25,11 +25,11 @@ frmScale::frmScale(const Scale &scale, QWidget &form1) : SideWindow("frmScale", 
     spnScale->setSuffix(u" %"_s);
     QLabel *caption = Controls::label(u"lblScale"_s, u"&Size of all windows:"_s, this);
     caption->setBuddy(spnScale);
-    QLabel *note =
-        Controls::label(u"lblNote"_s,
-                        u"The program takes another size when it starts. It comes back to the same pane, tab "
-                        "and row, with the numbers that you have typed."_s,
-                        this);
+    QLabel *note = Controls::label(
+        u"lblNote"_s,
+        u"A new size takes effect at the next start. With Start again now, you come back to the same "
+        "pane, tab and row, with the numbers that you have typed."_s,
+        this);
     note->setWordWrap(true);
     note->setFixedSize(TextWidth, note->heightForWidth(TextWidth));
 

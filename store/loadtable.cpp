@@ -84,7 +84,8 @@ void explainEmptyLists(const TableCatalog::Step &step, const QString &column, Ro
         if (group.list)
             group.list(lists).setWhyEmpty(
                 u"The database has no column %1: it was made for another version of Alembra.\n"
-                "\"Restore\" in the options, tab Database, brings the original database back."_s.arg(column));
+                "To put the original database back, choose Restore in the options, tab Database."_s.arg(
+                    column));
     }
 }
 

@@ -17,7 +17,7 @@ TablesNotice::TablesNotice(int index, LaterTables &tables, Desktop &desktop, QWi
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 12, 16, 12);
     row->setSpacing(16);
-    QLabel *text = Controls::label({}, u"These tables are not read at the start."_s, this);
+    QLabel *text = Controls::label({}, u"These tables are not read at start-up."_s, this);
     row->addWidget(text);
     auto *button = Controls::named(new QPushButton(u"Read them now"_s, this),
                                    Controls::indexedName("cmdReadTables", index));
