@@ -15,7 +15,7 @@
 class LockElsewhere final
 {
 public:
-    enum Kind { Record, WholeFile };
+    enum Kind { Record, SharedRecord, WholeFile };
 
     explicit LockElsewhere(const QString &path, Kind kind = Record)
     {
@@ -24,8 +24,8 @@ public:
             qFatal("no second process");
         if (m_child == 0) {
             const int file = open(qUtf8Printable(path), O_RDWR);
-            struct flock lock = {F_WRLCK, SEEK_SET, 0, 0, 0};
-            if ((kind == Record ? fcntl(file, F_SETLK, &lock) : flock(file, LOCK_EX | LOCK_NB)) != 0 ||
+            struct flock lock = {short(kind == SharedRecord ? F_RDLCK : F_WRLCK), SEEK_SET, 0, 0, 0};
+            if ((kind == WholeFile ? flock(file, LOCK_EX | LOCK_NB) : fcntl(file, F_SETLK, &lock)) != 0 ||
                 write(ready[1], "1", 1) != 1)
                 _exit(1);
             for (;;)

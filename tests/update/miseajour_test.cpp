@@ -72,6 +72,7 @@ private Q_SLOTS:
             {"[OTHER]\nVersion=9.9.9\n", Failed},
             {"[ALEMBRA]\nURL=https://www.example.org\n", Failed},
             {published("1.2 beta"), Failed},
+            {published("+2.0"), Failed},
             {published(".."), Failed},
             {published("3.2768"), Failed}, // above 16 bits
             {published(QByteArray(300, '9')), Failed},
@@ -160,7 +161,7 @@ private Q_SLOTS:
             {"[ALEMBRA]\nVersion=1\n[Other]\n[ALEMBRA]\nURL=late\n", ""}, // the first of two sections
             {"[ALEMBRA]\n[OTHER]\nURL=page\n", ""},
             {"URL=page\n[ALEMBRA]\n", ""},
-            {"[ALEMBRA]\n;URL=old\nURL=page\n", "page"},
+            {"[ALEMBRA]\n;URL=old\nURL\nURL=page\n", "page"},
             {"[ALEMBRA]\nURL2=other\nURL=page\n", "page"},
             {"[ALEMBRA]\nURL=page", "page"},
             {"[ALEMBRA]\nURL=" + QByteArray(300, 'x') + '\n', QByteArray(254, 'x')},

@@ -1,4 +1,5 @@
 #include "tests/support/files.h"
+#include "tests/support/filetrouble.h"
 #include "tests/support/testclass.h"
 #include "update/qtupdatenetwork.h"
 
@@ -15,7 +16,7 @@ const QByteArray Good = "[ALEMBRA]\r\nVersion=1.1.0\r\n";
 QByteArray answer(const QByteArray &content, const QByteArray &status = "200 OK",
                   const QByteArray &fields = {})
 {
-    return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(content.size()) +
+    return "HTTP/1.1 " + status + "\r\nContent-Length:" + QByteArray::number(content.size()) +
            "\r\nConnection: close\r\n" + fields + "\r\n" + content;
 }
 
@@ -120,6 +121,11 @@ private Q_SLOTS:
         const Server server;
         QtUpdateNetwork().download(server.address("good"), m_target);
         QVERIFY2(server.request.contains("Cache-Control: no-cache"), server.request.constData());
+        {
+            const FullDisk disk(4); // half a file is none
+            QtUpdateNetwork().download(server.address("good"), m_target);
+        }
+        QVERIFY(!QFile::exists(m_target));
         // A path that cannot be written stays as it is.
         const QString folder = m_folder.filePath("folder");
         writeFile(folder + "/inside", "");
