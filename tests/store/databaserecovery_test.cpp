@@ -27,40 +27,24 @@ private Q_SLOTS:
     {
         using Lock = LockElsewhere;
         std::unique_ptr<Lock> lock;
-        const struct
-        {
-            std::function<void()> spoil;
-            Desktop::Answer answer;
-        } rows[] = {
-            {[&] { QFile::remove(database()); }, Desktop::Yes},
-            {[&] { writeFile(database(), "no database"); }, Desktop::Yes},
-            {[&] { writeFile(database(), "no database"); }, Desktop::No},
-            {[&] { lock = std::make_unique<Lock>(database(), Lock::Record); }, Desktop::No},
-            {[&] { lock = std::make_unique<Lock>(database(), Lock::WholeFile); }, Desktop::No},
-        };
-        for (const auto &row : rows) {
+        for (const auto &[spoil, answer] :
+             {std::pair<std::function<void()>, Desktop::Answer>{[&] { QFile::remove(database()); },
+                                                                Desktop::Yes},
+              {[&] { writeFile(database(), "no database"); }, Desktop::Yes},
+              {[&] { writeFile(database(), "no database"); }, Desktop::No},
+              {[&] { lock = std::make_unique<Lock>(database(), Lock::Record); }, Desktop::No},
+              {[&] { lock = std::make_unique<Lock>(database(), Lock::WholeFile); }, Desktop::No}}) {
             init();
-            row.spoil();
-            const bool yes = row.answer == Desktop::Yes;
+            spoil();
+            const bool yes = answer == Desktop::Yes;
             const QByteArray before = yes ? QByteArray("original") : readFile(database());
-            m_desktop.answers = {row.answer};
+            m_desktop.answers = {answer};
             QCOMPARE(endOf([&] { m_recovery->ConnectDatabase(); }), 0);
             lock.reset();
             QCOMPARE(m_desktop.boxes.mid(0, 1), (Boxes{{Question, 20}}));
             QCOMPARE(m_desktop.boxes.mid(1), (yes ? Boxes{{Success, 64}} : Boxes{}));
             QVERIFY(readFile(database()) == before);
         }
-    }
-
-    void aCopyThatFailsAfterTheQuestionIsReported()
-    {
-        QVERIFY(QFile::remove(path("Backup/Database_uk_origin.rbk")));
-        writeFile(database(), "no database");
-        m_desktop.answers = {Desktop::Yes, Desktop::Yes};
-        QCOMPARE(errorOf([&] { m_recovery->ConnectDatabase(); }), ErrorNumber::FileNotFound);
-        QCOMPARE(m_desktop.boxes.size(), 1);
-        QCOMPARE(readFile(database()), QByteArray("no database"));
-        m_desktop.answers.clear();
     }
 
     void aMissingTableCopiesToTheFileNobodyOpens()

@@ -1,19 +1,12 @@
 #include "jetfilebuilder.h"
 
-#include <QtEndian>
 #include <algorithm>
 
 using namespace Jet;
 
 namespace {
 
-template<class T>
-QByteArray little(T value)
-{
-    QByteArray bytes(sizeof value, '\0');
-    qToLittleEndian(value, bytes.data());
-    return bytes;
-}
+constexpr auto little = [](auto value) { return JetFileBuilder::little(value); };
 
 QByteArray filled(QByteArray page)
 {
@@ -53,16 +46,6 @@ void encode(QByteArray *file, quint32 pageKey)
 }
 
 } // namespace
-
-QByteArray JetFileBuilder::u16(quint16 value)
-{
-    return little(value);
-}
-
-QByteArray JetFileBuilder::u32(quint32 value)
-{
-    return little(value);
-}
 
 QByteArray JetFileBuilder::utf16(const QString &text)
 {
@@ -133,15 +116,9 @@ void JetFileBuilder::addTable(const QString &name, const QList<Column> &columns,
     const auto second = page + 1 + quint32(pages.size());
     for (qsizetype part = 0; part < parts; ++part) {
         const quint32 next = part + 1 < parts ? second + quint32(part) : 0;
-        const QByteArray bytes =
-            filled(QByteArray("\2\1\0\0", 4) + little(next) + whole.mid(part * room, room));
-        if (part == 0) {
-            m_pages.append(bytes);
-            for (const Page &rows : pages)
-                addDataPage(page, rows);
-        } else {
-            m_pages.append(bytes);
-        }
+        m_pages.append(filled(QByteArray("\2\1\0\0", 4) + little(next) + whole.mid(part * room, room)));
+        for (qsizetype data = 0; part == 0 && data < pages.size(); ++data)
+            addDataPage(page, pages[data]);
     }
 
     QByteArray bitmap(64, '\0');

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QtEndian>
 #include <initializer_list>
 #include <optional>
 
@@ -41,9 +42,16 @@ public:
     /// A row without a variable part.
     static QByteArray fixedRow(int columns, const QByteArray &fixed, const QList<int> &present);
 
+    template<class T>
+    static QByteArray little(T value)
+    {
+        QByteArray bytes(sizeof value, '\0');
+        qToLittleEndian(value, bytes.data());
+        return bytes;
+    }
+    static QByteArray u16(quint16 value) { return little(value); }
+    static QByteArray u32(quint32 value) { return little(value); }
     static QByteArray utf16(const QString &text);
-    static QByteArray u16(quint16 value);
-    static QByteArray u32(quint32 value);
     static quint32 pointer(quint32 page, quint32 slot) { return page << 8 | slot; }
 
     /// The number of the page that is added next.

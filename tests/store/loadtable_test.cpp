@@ -1,6 +1,5 @@
 #include "core/runtimeerror.h"
 #include "store/datastore.h"
-#include "store/gridlines.h"
 #include "store/loadtable.h"
 #include "store/tablecatalog.h"
 #include "tests/support/testclass.h"
@@ -199,19 +198,6 @@ private Q_SLOTS:
                          "47 31 159 89 200 %2 192 96 0 59")
                      .arg(rows[12])
                      .arg(rows[31]));
-    }
-
-    // List 5 is left as it is when they go on, but switched off with the others.
-    void gridLinesAreSwitchedAsymmetrically()
-    {
-        RowLists &lists = m_store->lists;
-        ApplyGridLines(lists, true);
-        QVERIFY(lists.ListView3[27].gridLines() && !lists.ListView3[5].gridLines());
-        lists.ListView3[5].setGridLines(true);
-        ApplyGridLines(lists, true);
-        QVERIFY(lists.ListView3[5].gridLines());
-        ApplyGridLines(lists, false);
-        QVERIFY(!lists.ListView3[5].gridLines() && !lists.ListView1.gridLines());
     }
 
 private:

@@ -4,8 +4,6 @@
 #include "store/databasepassword.h"
 #include "store/tablecatalog.h"
 
-#include <QtEndian>
-
 using Jet::Type;
 using Builder = JetFileBuilder;
 
@@ -17,11 +15,8 @@ QByteArray SampleDatabases::varied()
         builder.addLongValuePage({{Builder::u32(Builder::pointer(tail, 0)) + QByteArray(3000, 'b')}});
     const QByteArray memo = Builder::u32(6000) + Builder::u32(Builder::pointer(head, 0)) + Builder::u32(0);
     const QByteArray packed("\xFF\xFE\x61\x62\0\xB1\x03\0c", 9);
-    QByteArray number(8, '\0');
-    qToLittleEndian(0.25, number.data());
-
     const auto row = [&](bool withMemo) {
-        return Builder::row(4, number + Builder::u32(7),
+        return Builder::row(4, Builder::little(0.25) + Builder::u32(7),
                             {packed, withMemo ? std::optional(memo) : std::nullopt},
                             withMemo ? QList<int>{0, 1, 2, 3} : QList<int>{0, 1, 2});
     };
@@ -66,8 +61,7 @@ void addTable(Builder *builder, int step, const SampleDatabases::Edit &edit)
         for (const int column : std::as_const(present)) {
             const QString text = QStringLiteral("%1.%2").arg(row).arg(column - first);
             cells.append(Builder::utf16(column < first ? QStringLiteral("mine") : text));
-            numbers.resize(numbers.size() + 8);
-            qToLittleEndian(text.toDouble(), numbers.data() + numbers.size() - 8);
+            numbers += Builder::little(text.toDouble());
         }
         const int count = int(columns.size());
         page.append({edit.asNumbers ? Builder::fixedRow(count, numbers, present)
