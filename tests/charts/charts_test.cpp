@@ -55,15 +55,6 @@ private Q_SLOTS:
         QCOMPARE(ReactionCharts::left(10000, 10000), 2000.0);
         QVERIFY(ReactionCharts::left(6000, 20000) < 0);
     }
-
-    void onlyTheSixGroupsHaveATitle()
-    {
-        QCOMPARE(IrCharts::title(QString("1")), "Aliphatics, aliphatics halide");
-        QCOMPARE(IrCharts::title(QString("4")), "Sulfur, Phosphorous, Silicium");
-        QCOMPARE(IrCharts::title(QString("6")), "Functionalized aromatics");
-        for (const char *other : {"0", "7", "01", ""})
-            QVERIFY2(!IrCharts::title(QString(other)), other);
-    }
 };
 
 const TestClass<ChartsTest> chartsTest;
