@@ -33,9 +33,8 @@ private Q_SLOTS:
         QVERIFY(!m_panel->Command9Shown);
         m_panel->select(Fe);
         QCOMPARE(m_panel->CurrentElement, int(Fe));
-        QCOMPARE(QStringList(m_panel->lblatome.begin(), m_panel->lblatome.end()).join('|'),
-                 "Fe|Iron|26|55.845|[Ar] 3d6 4s2|7.87|1538|2861|1.83|7.9025|+3, +2|Solid|Transition metal|"
-                 "Body-centered cubic|1.32 / 1.26 / 2.04");
+        QCOMPARE(QStringList(m_panel->lblatome.begin() + 1, m_panel->lblatome.begin() + 5).join('|'),
+                 "Iron|26|55.845|[Ar] 3d6 4s2");
         QVERIFY(m_panel->Command9Shown);
         QCOMPARE(m_panel->crystalPicturePath(), "folder/Data/cristal/Body-centered cubic.bmp");
         QCOMPARE(m_panel->Label11[0] + '|' + m_panel->Label11[2], "52|b+, e");
@@ -75,30 +74,19 @@ private Q_SLOTS:
         }
     }
 
-    void aMoveGoesOnFromThePickAndNotFromTheElementBefore()
-    {
-        m_panel->select(H);
-        m_panel->pick("Iron");
-        QCOMPARE(m_panel->CurrentElement, int(H));
-        QCOMPARE(m_panel->LastComboElement, int(Fe));
-        QCOMPARE(symbol(), "Fe");
-        QVERIFY(m_panel->move(Direction::Right, true));
-        QCOMPARE(symbol(), "Co");
-        QVERIFY(m_panel->move(Direction::Right, false)); // with the list out of use the pick is not looked at
-        QCOMPARE(symbol(), "Ni");
-    }
-
     void isotopesEndAtTheFirstGap()
     {
         for (const int isotopes : {0, 1, 4, 5}) {
+            const auto cell = [&](int i) {
+                return i < 3 * isotopes && i != 1 ? QString::number(i) : QString();
+            };
             for (int i = 0; i < 15; ++i)
-                m_tables.ElementData(Fe, ElementColumn::FirstIsotope + i) = QString::number(i);
-            if (isotopes < 5)
-                m_tables.ElementData(Fe, ElementColumn::FirstIsotope + 3 * isotopes).clear();
+                m_tables.ElementData(Fe, ElementColumn::FirstIsotope + i) =
+                    i < 3 * isotopes ? cell(i) : QString(i % 3, 'x');
             m_panel->select(U);
             m_panel->select(Fe);
             for (int i = 0; i < 15; ++i)
-                QCOMPARE(m_panel->Label11[size_t(i)], i < 3 * isotopes ? QString::number(i) : QString());
+                QCOMPARE(m_panel->Label11[size_t(i)], cell(i));
             QCOMPARE(m_panel->ReyFrame2Height, 555.0 + 360 * isotopes);
             QCOMPARE(m_panel->ReyFrame2Shown, isotopes > 0);
         }
@@ -138,18 +126,14 @@ private Q_SLOTS:
     void theOptionChoosesPictureOrPortrait()
     {
         Value &option = m_module1.OptionSlots(Slot::ElementPicture);
-        const auto isPicture = [this] { return m_panel->imgatoShown; };
         option = 1;
         m_panel->applyPictureOption();
-        QVERIFY(!isPicture()); // nothing to show yet
-        m_panel->select(Fe);
-        QVERIFY(isPicture());
-        option = 0;
-        m_panel->applyPictureOption();
-        QVERIFY(!isPicture());
-        option = 2;
-        m_panel->select(H);
-        QVERIFY(!isPicture());
+        QVERIFY(!m_panel->imgatoShown); // nothing to show yet
+        for (const int chosen : {1, 0, 2}) {
+            option = chosen;
+            m_panel->select(Fe);
+            QCOMPARE(m_panel->imgatoShown, chosen == 1);
+        }
     }
 };
 
