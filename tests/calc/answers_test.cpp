@@ -31,40 +31,33 @@ private Q_SLOTS:
 
     void formulasAreWeighed()
     {
-        const struct
-        {
-            const char *typed;
-            const char *hill;
-            const char *mass;
-            int charge;
-        } Rows[]{
-            {"C6H12O6·H2O", "C6H14O7", "198.171", 0},
-            {"CuSO4.5H2O", "CuH10O9S", "249.68", 0},
-            {"Na2CO3*1.5H2O", "CH3Na2O4.5", "133.010", 0},
-            {"Fe0.95O", "Fe0.95O", "69.052", 0},
-            {"K4[Fe(CN)6]", "C6FeK4N6", "368.346", 0},
-            {"SO4 2-", "O4S", "96.06", -2},
-            {"SO₄²⁻", "O4S", "96.06", -2},
-            {"NH4+", "H4N", "18.039", 1},
-            {"Ca2+", "Ca", "40.078", 2},
-            {"Fe+++", "Fe", "55.845", 3},
-            {"CDCl3", "CDCl3", "120.38", 0},
-            {"D2O", "D2O", "20.027", 0},
-            {"CH3-CH=CH2", "C3H6", "42.081", 0},
-            {"tBuOH", "C4H10O", "74.123", 0},
-            {"Ac2O", "C4H6O3", "102.089", 0},
-            {"Ac", "Ac", "227", 0},
-            {"PrCl3", "Cl3Pr", "247.26", 0},
-            {"2H2O", "H4O2", "36.030", 0},
-            {"HCo(CO)4", "C4HCoO4", "171.981", 0},
-        };
-        for (const auto &row : Rows) {
-            const auto parsed = parse(row.typed);
+        for (const auto &[typed, hill, mass, charge] :
+             {std::tuple<const char *, const char *, const char *, int>{"C6H12O6·H2O", "C6H14O7", "198.171",
+                                                                        0},
+              {"CuSO4.5H2O", "CuH10O9S", "249.68", 0},
+              {"Na2CO3*1.5H2O", "CH3Na2O4.5", "133.010", 0},
+              {"Fe0.95O", "Fe0.95O", "69.052", 0},
+              {"K4[Fe(CN)6]", "C6FeK4N6", "368.346", 0},
+              {"SO4 2-", "O4S", "96.06", -2},
+              {"SO₄²⁻", "O4S", "96.06", -2},
+              {"NH4+", "H4N", "18.039", 1},
+              {"Ca2+", "Ca", "40.078", 2},
+              {"Fe+++", "Fe", "55.845", 3},
+              {"CDCl3", "CDCl3", "120.38", 0},
+              {"D2O", "D2O", "20.027", 0},
+              {"CH3-CH=CH2", "C3H6", "42.081", 0},
+              {"tBuOH", "C4H10O", "74.123", 0},
+              {"Ac2O", "C4H6O3", "102.089", 0},
+              {"Ac", "Ac", "227", 0},
+              {"PrCl3", "Cl3Pr", "247.26", 0},
+              {"2H2O", "H4O2", "36.030", 0},
+              {"HCo(CO)4", "C4HCoO4", "171.981", 0}}) {
+            const auto parsed = parse(typed);
             const auto *formula = std::get_if<Formula>(&parsed);
-            QVERIFY2(formula, row.typed);
+            QVERIFY2(formula, typed);
             const QString found = formula->hill() + ' ' + MolarMass::of(*formula, m_masses).text() + ' ' +
                                   QString::number(formula->charge);
-            QCOMPARE(found, QStringLiteral("%1 %2 %3").arg(row.hill, row.mass).arg(row.charge));
+            QCOMPARE(found, QStringLiteral("%1 %2 %3").arg(hill, mass).arg(charge));
         }
         const MolarMass water = MolarMass::of(std::get<Formula>(parse("H2O")), m_masses);
         QCOMPARE(water.shares[0].symbol, "H");
@@ -74,28 +67,21 @@ private Q_SLOTS:
 
     void anErrorSaysWhereItIs()
     {
-        const struct
-        {
-            const char *typed;
-            int position;
-            const char *reason;
-        } Rows[]{
-            {"NaXy", 2, "neither an element nor a group"},
-            {"C6H12(", 6, "missing here"},
-            {"C6(H5", 2, "not closed"},
-            {"C6H5)", 4, "not opened"},
-            {"h2o", 0, "begin with a capital"},
-            {"CuSO4·", 6, "missing here"},
-            {"SO42-", 2, "blank before the charge"},
-            {"O2-", 0, "blank before the charge"},
-            {"NaCl2000000", 4, "between 0 and a million"},
-            {"C0", 1, "between 0 and a million"},
-        };
-        for (const auto &row : Rows) {
-            const auto parsed = parse(row.typed);
+        for (const auto &[typed, position, reason] :
+             {std::tuple<const char *, int, const char *>{"NaXy", 2, "neither an element nor a group"},
+              {"C6H12(", 6, "missing here"},
+              {"C6(H5", 2, "not closed"},
+              {"C6H5)", 4, "not opened"},
+              {"h2o", 0, "begin with a capital"},
+              {"CuSO4·", 6, "missing here"},
+              {"SO42-", 2, "blank before the charge"},
+              {"O2-", 0, "blank before the charge"},
+              {"NaCl2000000", 4, "between 0 and a million"},
+              {"C0", 1, "between 0 and a million"}}) {
+            const auto parsed = parse(typed);
             const auto *error = std::get_if<FormulaError>(&parsed);
-            QVERIFY2(error && error->reason.contains(row.reason), row.typed);
-            QVERIFY2(error->position == row.position, row.typed);
+            QVERIFY2(error && error->reason.contains(reason), typed);
+            QVERIFY2(error->position == position, typed);
         }
         QVERIFY(std::holds_alternative<FormulaError>(parse(QByteArray(30000, '('))));
     }

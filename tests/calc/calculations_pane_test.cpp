@@ -1,6 +1,5 @@
 #include "calc/calctabs.h"
 #include "calc/calculationspane.h"
-#include "calc/units.h"
 #include "core/module1.h"
 #include "store/rowlists.h"
 #include "tests/support/files.h"
@@ -12,11 +11,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QTreeView>
 
 /// The pane in a window, with units of the delivered names.
@@ -209,17 +206,6 @@ private Q_SLOTS:
         QCOMPARE(message(), QString());
         // 1000 exp(-K / 8.314 (373.15 / 253.15 - 1)) for K = 85, 73 and 109
         QCOMPARE(pressures.join(' '), "7.857 15.57 1.999");
-
-        // The delta stands in the gap of its formula.
-        const auto &delta = get<QLabel>(*m_window, "lbln(0)");
-        const auto &formula = get<QLabel>(*m_window, "lbln(3)");
-        const auto width = [&](const char *part) { return formula.fontMetrics().horizontalAdvance(part); };
-        QCOMPARE(delta.text(), "Δ");
-        const int left = formula.mapTo(m_window.get(), formula.contentsRect().topLeft()).x() +
-                         width(CalcTabs::BeforeDelta);
-        const int middle = delta.mapTo(m_window.get(), delta.rect().center()).x();
-        QVERIFY(middle > left && middle < left + width(CalcTabs::DeltaGap));
-        QVERIFY(!delta.visibleRegion().isEmpty());
     }
 
     void conversionsFollowTheKeysAndTheLists()
@@ -258,42 +244,6 @@ private Q_SLOTS:
         }
         clickTab("TabStrip3", 1);
         QCOMPARE(get<QListWidget>(*m_window, "List1").currentRow(), 12);
-    }
-
-    void aNameThatSaysHowMuchOneIsSaysWhatTheConversionGives()
-    {
-        static const QRegularExpression Form(" of ([0-9.E-]+) (\\w+) \\(");
-        int found = 0;
-        for (int tab = 1; tab <= 8; ++tab) {
-            clickTab("TabStrip3", tab);
-            type("TextBoxM1", "1");
-            const auto [input, result] =
-                std::pair(Units::quantity(tab).inputList, Units::quantity(tab).resultList);
-            const QStringList names = Units::names(Units::quantity(tab), m_window->module.OptionSlots);
-            for (const QString &name : names) {
-                const QRegularExpressionMatch match = Form.match(name);
-                if (!match.hasMatch())
-                    continue;
-                const auto of = names.indexOf(names.filter(QString("(%1)").arg(match.captured(2))).value(0));
-                QVERIFY2(of >= 0, qPrintable(name));
-                clickUnit(input, int(names.indexOf(name)));
-                clickUnit(result, int(of));
-                const double one = text("TextBoxM2").toDouble();
-                QVERIFY2(std::abs(one / match.captured(1).toDouble() - 1) < 1E-7, qPrintable(name));
-                ++found;
-            }
-        }
-        QCOMPARE(found, 12);
-    }
-
-    void aUnitWithoutItsSymbolEndsInTheReport()
-    {
-        clickTab("TabStrip3", 2);
-        type("TextBoxM1", "1");
-        get<QListWidget>(*m_window, "List1").currentItem()->setText("kilometer");
-        QVERIFY_THROWS_EXCEPTION(ProcessEnded, get<TabStrip>(*m_window, "TabStrip3").selectTab(1));
-        QVERIFY(m_window->desktop.boxes.constFirst().first.startsWith("Run-time error '9'"));
-        QCOMPARE(text("TextBoxM1"), "1");
     }
 };
 
