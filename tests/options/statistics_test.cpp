@@ -25,8 +25,8 @@ private Q_SLOTS:
         store.tallies.acidBaseIndicators = 60;
         store.tallies.fluorescentIndicators = 70;
         store.tallies.irBonds = 80;
-        store.lists.ListView1.append(u"a");
-        store.lists.ListView1.append(u"b");
+        for (const QStringView row : {u"a", u"b"})
+            store.lists.ListView1.append(row);
         Module1 module;
         module.UnitItemCount = 85;
         const StatisticsTab tab(store, module, nullptr);
