@@ -19,8 +19,6 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QTemporaryDir>
-#include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -59,24 +57,20 @@ private Q_SLOTS:
     // Some of each kind, drawn here, against those in golden/, which somebody has looked at.
     void picturesLookAsTheyDid()
     {
-        const struct
-        {
-            Draw draw;
-            const char *folder;
-            QStringList names;
-        } kinds[] = {
-            {drawElements, "elements/", {"6b.jpg", "92b.jpg", "26.jpg", "106.jpg", "106b.jpg"}},
-            {drawCrystals, "cristal/", {"Double hexagonal.bmp", "Diamond cubic.bmp", "Monoclinic.bmp"}},
-            {drawStructures, "chemicals/", {"3.bmp", "30.bmp"}},
-            {drawIrCharts, "ir/", {"5.gif"}},
-            {drawNmrCharts, "nmr/", {"1h/1001.gif", "1h/13.gif", "1h/28.gif", "13c/1000.gif", "13c/16.gif"}},
-            {drawReactions, "orga/", {"2.gif", "2m.gif", "3.gif", "3m.gif"}},
-            {drawPolarity, "img/", {"polarite_c.jpg", "polarite_ng.jpg"}},
-            {drawGeneticCode, "img/", {"gene_c.jpg"}},
-        };
         const QTemporaryDir data;
         copyData(data.path());
-        for (const auto &[draw, kind, names] : kinds) {
+        for (const auto &[draw, kind, names] :
+             {std::tuple<Draw, const char *, QStringList>{
+                  drawElements, "elements/", {"6b.jpg", "92b.jpg", "26.jpg", "106.jpg", "106b.jpg"}},
+              {drawCrystals, "cristal/", {"Double hexagonal.bmp", "Diamond cubic.bmp", "Monoclinic.bmp"}},
+              {drawStructures, "chemicals/", {"3.bmp", "30.bmp"}},
+              {drawIrCharts, "ir/", {"5.gif"}},
+              {drawNmrCharts,
+               "nmr/",
+               {"1h/1001.gif", "1h/13.gif", "1h/28.gif", "13c/1000.gif", "13c/16.gif"}},
+              {drawReactions, "orga/", {"2.gif", "2m.gif", "3.gif", "3m.gif"}},
+              {drawPolarity, "img/", {"polarite_c.jpg", "polarite_ng.jpg"}},
+              {drawGeneticCode, "img/", {"gene_c.jpg"}}}) {
             QTemporaryDir folder;
             draw(data.path(), PictureFolder(folder.path()));
             if (draw == drawCrystals) { // not again: the date of a file is that of its last change
@@ -99,39 +93,6 @@ private Q_SLOTS:
         }
     }
 
-    void bandsStandAtTheirWaveNumbersInTheColourOfTheirBond()
-    {
-        struct
-        {
-            const char *chart;
-            QRgb colour;
-            double from;
-            double to;                                           ///< cm-1, of the widest bar of that colour
-        } const rows[] = {{"ir/2.gif", 0xffff0000, 3300, 2500},  // O-H of the carboxylic acids
-                          {"ir/1.gif", 0xffc0c000, 1400, 1000}}; // C-F
-        for (const auto &[chart, colour, from, to] : rows) {
-            const auto [left, right] = longestRun(QImage(Delivered + QLatin1StringView(chart)), colour);
-            QVERIFY2(std::abs(left - ChartGeometry::irAbscissa(from)) <= 1, chart);
-            QVERIFY2(std::abs(right + 1 - ChartGeometry::irAbscissa(to)) <= 1, chart);
-        }
-    }
-
-    void tallInfraredChartsCanBeScrolledToTheirEnd()
-    {
-        for (int group = 1; group <= 6; ++group) {
-            const QImage chart = QImage(Delivered + u"ir/%1.gif"_s.arg(group));
-            int end = chart.height();
-            while (end > 0 && longestRun(chart.copy(0, end - 1, chart.width(), 1), 0xffffffff) ==
-                                  std::pair(0, chart.width() - 1))
-                --end;
-            // The scroll bar moves the picture by (H x 1.01 - 10700) / 2 + 1 - 100 twips, H in hundredths of
-            // a millimetre; 448 pixels of the frame show it.
-            const double highest = chart.height() * 2540 / 96.0;
-            const double moved = highest < 12500 ? 0 : ((highest * 1.01 - 10700) / 2 - 99) / 15;
-            QVERIFY2(end <= moved + 448, qPrintable(QString::number(group)));
-        }
-    }
-
     void shiftsFallFromLeftToRightOnRoundedScales()
     {
         const ShiftAxis axis(10, 0, 100, 300);
@@ -144,22 +105,6 @@ private Q_SLOTS:
             const ShiftAxis around = ShiftAxis::around(from, to, 0, 100);
             QCOMPARE(around.low(), low);
             QCOMPARE(around.high(), high);
-        }
-    }
-
-    void barsNeedTwentyObservations()
-    {
-        // On the whole scale: R-CH2-S-R has 43 values, R-CH2-SO2-R 12.
-        for (const auto &[chart, isBar] : {std::pair(u"86"_s, true), {u"88"_s, false}}) {
-            const QImage scale =
-                QImage(Delivered + u"nmr/1h/%1.gif"_s.arg(chart)).copy(0, 170, ChartGeometry::Width, 16);
-            int lines = 0;
-            for (int y = 0; y < scale.height(); ++y) {
-                const auto [first, last] = longestRun(scale.copy(0, y, scale.width(), 1),
-                                                      classColour(u"CH2 next to sulfur"_s).rgb());
-                lines += last - first >= 10;
-            }
-            QVERIFY2(isBar ? lines >= 6 : lines == 1, qPrintable(chart));
         }
     }
 
@@ -240,36 +185,29 @@ private Q_SLOTS:
         const char *const protons = "drawing/nmr_1h.tsv";
         const char *const bands = "drawing/ir_bands.tsv";
         const char *const reactions = "drawing/structures_reactions.tsv";
-        struct
-        {
-            Draw draw;
-            const char *table;
-            int line;
-            const char *before;
-            QByteArray after;
-        } const rows[] = {
-            {drawElements, elements, 4, "Lithium\tLi", "Lithium"},
-            {drawElements, elements, 27, "[Ar] 3d6 4s2", "[Ar] 3d6 4s1"},
-            {drawElements, elements, 12, "[Ne] 3s1", "[Nn] 3s1"},
-            {drawElements, elements, 4, "Alkali metal", "Alkali"},
-            {drawCrystals, elements, 85, "Simple cubic", "Plain cubic"},
-            {drawStructures, solvents, 4, "CC(C)=O\t", "CC(C=O\t"},
-            {drawStructures, solvents, 4, "CC(C)=O\t", "CC(C)(C)(C)C\t"}, // five bonds
-            {drawStructures, solvents, 1, "smiles", "structure"},
-            {drawNmrCharts, protons, 6, "0.76\t0.92", "0.76\t1.92"}, // outside its range
-            {drawNmrCharts, protons, 7, "0.73\t1.00", "0.73\tone"},
-            {drawNmrCharts, protons, 31, "\tC([H:1])([H:1])([H:1])Cl ", "\tC(Cl "},
-            {drawNmrCharts, protons, 31, "\tC([H:1])([H:1])([H:1])Cl ", "\tC([H])([H])([H])Cl "},
-            {drawIrCharts, bands, 3, "2862\t2972", "2862\t4972"}, // off the scale
-            {drawIrCharts, bands, 12, "1017\t1025\tm\tHydrogen (H),  Carbon (C)\t008000",
-             "1017\t1025\tm\tHydrogen (H),  Carbon (C)\tgreen"},
-            {drawIrCharts, "drawing/ir_charts.tsv", 4, "Allenes\t1", "Allene\t1"}, // no bands
-            {drawIrCharts, bands, 10, "C-H rock ((CH2)4 and longer)", QByteArray("many words ").repeated(12)},
-            {drawReactions, reactions, 4, "1\tAldol addition\tstep\t2", "1\tAldol addition\tstep\t3"},
-            {drawReactions, reactions, 6, "2\tAppel reaction\tequation", "3\tAppel reaction\tequation"},
-            {drawReactions, reactions, 3, "CC=O.[OH-]>>", "CC(=O.[OH-]>>"},
-        };
-        for (const auto &[draw, table, line, before, after] : rows) {
+        for (const auto &[draw, table, line, before, after] :
+             {std::tuple<Draw, const char *, int, const char *, QByteArray>{drawElements, elements, 4,
+                                                                            "Lithium\tLi", "Lithium"},
+              {drawElements, elements, 27, "[Ar] 3d6 4s2", "[Ar] 3d6 4s1"},
+              {drawElements, elements, 12, "[Ne] 3s1", "[Nn] 3s1"},
+              {drawElements, elements, 4, "Alkali metal", "Alkali"},
+              {drawCrystals, elements, 85, "Simple cubic", "Plain cubic"},
+              {drawStructures, solvents, 4, "CC(C)=O\t", "CC(C=O\t"},
+              {drawStructures, solvents, 4, "CC(C)=O\t", "CC(C)(C)(C)C\t"}, // five bonds
+              {drawStructures, solvents, 1, "smiles", "structure"},
+              {drawNmrCharts, protons, 6, "0.76\t0.92", "0.76\t1.92"}, // outside its range
+              {drawNmrCharts, protons, 7, "0.73\t1.00", "0.73\tone"},
+              {drawNmrCharts, protons, 31, "\tC([H:1])([H:1])([H:1])Cl ", "\tC(Cl "},
+              {drawNmrCharts, protons, 31, "\tC([H:1])([H:1])([H:1])Cl ", "\tC([H])([H])([H])Cl "},
+              {drawIrCharts, bands, 3, "2862\t2972", "2862\t4972"}, // off the scale
+              {drawIrCharts, bands, 12, "1017\t1025\tm\tHydrogen (H),  Carbon (C)\t008000",
+               "1017\t1025\tm\tHydrogen (H),  Carbon (C)\tgreen"},
+              {drawIrCharts, "drawing/ir_charts.tsv", 4, "Allenes\t1", "Allene\t1"}, // no bands
+              {drawIrCharts, bands, 10, "C-H rock ((CH2)4 and longer)",
+               QByteArray("many words ").repeated(12)},
+              {drawReactions, reactions, 4, "1\tAldol addition\tstep\t2", "1\tAldol addition\tstep\t3"},
+              {drawReactions, reactions, 6, "2\tAppel reaction\tequation", "3\tAppel reaction\tequation"},
+              {drawReactions, reactions, 3, "CC=O.[OH-]>>", "CC(=O.[OH-]>>"}}) {
             const QTemporaryDir folder;
             copyData(folder.path());
             const QString path = folder.filePath(QLatin1StringView(table));
@@ -284,30 +222,6 @@ private Q_SLOTS:
             }
             const QString place = u"%1:%2:"_s.arg(QLatin1StringView(table)).arg(line);
             QVERIFY2(refusal.contains(place), qPrintable(place + refusal));
-        }
-    }
-
-    void theToolSaysWhyItEnds()
-    {
-        const QString file = QStringLiteral(ALEMBRA_SOURCE "/LICENSE");
-        struct
-        {
-            QStringList arguments;
-            int status;
-            const char *message;
-        } const rows[] = {
-            {{}, 2, "usage: "},
-            {{Data, file, u"paintings"_s}, 2, "usage: "},
-            {{u"/nonexistent"_s, u"/nonexistent"_s}, 1, "/nonexistent/tables/Elements.tsv"},
-            {{Data, file, u"polarity"_s}, 1, "LICENSE/img"},
-        };
-        for (const auto &[arguments, status, message] : rows) {
-            QProcess tool;
-            tool.start(QStringLiteral(MAKE_PICTURES), arguments);
-            QVERIFY(tool.waitForFinished(-1));
-            QCOMPARE(tool.exitCode(), status);
-            const QByteArray output = tool.readAllStandardError();
-            QVERIFY2(output.contains(message), output.constData());
         }
     }
 
@@ -337,22 +251,6 @@ private:
     static QSizeF sizeOf(const char *smiles)
     {
         return Formula::fromSmiles(QLatin1StringView(smiles), Scale)->size();
-    }
-
-    /// The longest run of @p colour on one line of the picture, as first and last abscissa.
-    static std::pair<int, int> longestRun(const QImage &picture, QRgb colour)
-    {
-        std::pair<int, int> longest{0, -1};
-        for (int y = 0; y < picture.height(); ++y) {
-            int start = 0;
-            for (int x = 0; x < picture.width(); ++x) {
-                if (picture.pixel(x, y) != colour)
-                    start = x + 1;
-                else if (x - start > longest.second - longest.first)
-                    longest = {start, x};
-            }
-        }
-        return longest;
     }
 };
 
