@@ -40,39 +40,25 @@ private Q_SLOTS:
         m_desktop.boxes.clear();
     }
 
-    void whatIsMissingIsDelivered()
+    void whatIsMissingIsDeliveredAndTheDatabaseFollowsUnlessTheUserChangedIt()
     {
-        QVERIFY(!UserFolder::renew(user(), shipped("one")));
-        for (const char *file : {Options, Database, Original})
-            QCOMPARE(readFile(user(file)), "one");
-
-        writeFile(user(Options), "mine");
-        QVERIFY(QFile::remove(user(Database)));
-        QVERIFY(!UserFolder::renew(user(), shipped("one")));
-        QCOMPARE(readFile(user(Options)), "mine");
-        QCOMPARE(readFile(user(Database)), "one");
-    }
-
-    void theDatabaseFollowsUnlessTheUserChangedIt()
-    {
-        const struct
-        {
-            const char *mine, *release, *afterwards;
-            bool kept;
-        } Rows[]{
-            {"one", "two", "two", false},  // as it came
-            {"mine", "two", "mine", true}, //
-            {"mine", "one", "mine", false},
-            {"two", "two", "two", false}, // renewed by an interrupted call
-        };
-        for (const auto &row : Rows) {
+        for (const auto &[mine, release, afterwards, kept] :
+             {std::tuple<const char *, const char *, const char *, bool>{"one", "two", "two",
+                                                                         false}, // as it came
+              {"mine", "two", "mine", true},                                     //
+              {"mine", "one", "mine", false},
+              {"two", "two", "two", false}, // renewed by an interrupted call
+              {nullptr, "one", "one", false}}) {
             init();
-            UserFolder::renew(user(), shipped("one"));
-            writeFile(user(Database), row.mine);
-            QCOMPARE(UserFolder::renew(user(), shipped(row.release)), row.kept);
-            QCOMPARE(readFile(user(Database)), row.afterwards);
-            QCOMPARE(readFile(user(Original)), row.release);
-            QVERIFY2(!UserFolder::renew(user(), shipped(row.release)), "reported more than once");
+            QVERIFY(!UserFolder::renew(user(), shipped("one")));
+            QCOMPARE(readFile(user(Options)), "one");
+            writeFile(user(Options), "mine");
+            mine ? writeFile(user(Database), mine) : void(QFile::remove(user(Database)));
+            QCOMPARE(UserFolder::renew(user(), shipped(release)), kept);
+            QCOMPARE(readFile(user(Database)), afterwards);
+            QCOMPARE(readFile(user(Original)), release);
+            QCOMPARE(readFile(user(Options)), "mine");
+            QVERIFY2(!UserFolder::renew(user(), shipped(release)), "reported more than once");
         }
     }
 
@@ -130,37 +116,30 @@ private Q_SLOTS:
 
     void databaseOfAnotherRelease()
     {
-        const struct
-        {
-            QString gone; ///< a name that the database does not have
-            bool news;    ///< an upgrade has brought a new original
-            Desktop::Answer answer;
-            QString named;
-        } Rows[]{
-            {"indicerefrac", false, Desktop::No, "The table Solvants has no column indicerefrac."},
-            {"Refrigeration", false, Desktop::Yes, "There is no table Refrigeration."},
-            {"none", true, Desktop::No, "The table Constantes has 2 rows instead of 45."}, // named once
-            {"none", false, Desktop::No, {}},
-        };
-        for (const auto &row : Rows) {
+        for (const auto &[gone, news, answer, named] :
+             {std::tuple<QString, bool, Desktop::Answer, QString>{
+                  "indicerefrac", false, Desktop::No, "The table Solvants has no column indicerefrac."},
+              {"Refrigeration", false, Desktop::Yes, "There is no table Refrigeration."},
+              {"none", true, Desktop::No, "The table Constantes has 2 rows instead of 45."}, // named once
+              {"none", false, Desktop::No, {}}}) {
             init();
             const ProgramFolder release;
             const QByteArray original = release.read(Original);
             const auto inFile = [](const QString &name) {
                 return QByteArray(reinterpret_cast<const char *>(name.utf16()), 2 * name.size());
             };
-            const QByteArray mine = SampleDatabases::catalogued(2).replace(
-                inFile(row.gone), inFile(QString(row.gone.size(), 'x')));
+            const QByteArray mine =
+                SampleDatabases::catalogued(2).replace(inFile(gone), inFile(QString(gone.size(), 'x')));
             writeFile(user(Database), mine);
-            writeFile(user(Original), row.news ? mine + mine : original);
-            m_desktop.answers = {row.answer};
+            writeFile(user(Original), news ? mine + mine : original);
+            m_desktop.answers = {answer};
 
             run(user(), release.root(), m_desktop, [](const Form1 &) {});
 
-            QCOMPARE(m_desktop.boxes.size(), row.named.isEmpty() ? 0 : 1);
-            QVERIFY(row.named.isEmpty() || m_desktop.boxes.constFirst().first.contains(row.named));
+            QCOMPARE(m_desktop.boxes.size(), named.isEmpty() ? 0 : 1);
+            QVERIFY(named.isEmpty() || m_desktop.boxes.constFirst().first.contains(named));
             const QString old = user("Data/Database_uk_old.mdb");
-            const bool replaced = row.answer == Desktop::Yes;
+            const bool replaced = answer == Desktop::Yes;
             QCOMPARE(readFile(user(Database)), replaced ? original : mine);
             QCOMPARE(QFile::exists(old), replaced);
             QVERIFY(!replaced || readFile(old) == mine);

@@ -4,9 +4,6 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QXmlStreamReader>
-
-using namespace Qt::StringLiterals;
 
 /// The text files of the program folder: what the program would stumble over, or show wrongly, if an edit
 /// broke it.
@@ -43,37 +40,6 @@ private Q_SLOTS:
         QCOMPARE(QSet<QString>(tips.cbegin(), tips.cend()).size(), tips.size());
         for (const QString &tip : tips)
             QVERIFY2(!tip.isEmpty() && tip == tip.trimmed(), qPrintable(tip));
-    }
-
-    // Which commands there are is tested with the table of commands.
-    void everyCommandHasItsOwnCaptionShortcutAndAnIcon()
-    {
-        QXmlStreamReader xml(readFile(ALEMBRA_FOLDER "/menuc_uk.xcb"));
-        QSet<QString> once; // ids and shortcuts
-        bool inBar = false;
-        int barCommands = 0;
-        while (!xml.atEnd()) {
-            xml.readNext();
-            if (xml.name() == u"toolbar")
-                inBar = xml.isStartElement();
-            if (!xml.isStartElement() || xml.name() != u"command")
-                continue;
-            const QXmlStreamAttributes command = xml.attributes();
-            const QString id = command.value("id"_L1).toString();
-            if (inBar) {
-                ++barCommands;
-                QVERIFY2(once.contains(id), qPrintable(id)); // the menu comes first
-                continue;
-            }
-            QVERIFY2(!command.value("caption"_L1).isEmpty(), qPrintable(id));
-            const QString icon = command.value("icon"_L1).toString();
-            QVERIFY2(QFile::exists(ALEMBRA_SOURCE "/data/icons/" + icon + ".svg"), qPrintable(icon));
-            for (const QString &text : {id, command.value("shortcut"_L1).toString()}) {
-                QVERIFY2(text.isEmpty() || !once.contains(text), qPrintable(text));
-                once << text;
-            }
-        }
-        QVERIFY(!xml.hasError() && barCommands > 0);
     }
 
 private:

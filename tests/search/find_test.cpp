@@ -119,19 +119,17 @@ private Q_SLOTS:
         Bar bar;
         bar.findBar.open(true);
         QCOMPARE(bar.panel3.text(), QString("           Find :"));
-        QVERIFY(Controls::isShown(bar.Combo2_3) && Controls::isShown(bar.Picture2));
-        QVERIFY(!bar.findBar.isSearching());
+        QVERIFY(Controls::isShown(bar.Combo2_3) && !bar.findBar.isSearching());
         bar.findBar.ResetSearchPanel();
         QVERIFY(bar.panel3.text().isEmpty() && !Controls::isShown(bar.Combo2_3));
 
         const QList<QWidget *> controls{&bar.TextBoxM6, &bar.previous, &bar.next, &bar.case1, &bar.Picture2};
         bar.findBar.open(false);
-        for (const QWidget *control : controls)
-            QVERIFY(Controls::isShown(*control));
+        const auto isShown = [](const QWidget *control) { return Controls::isShown(*control); };
+        QVERIFY(std::all_of(controls.begin(), controls.end(), isShown));
         bar.type("ace");
         bar.Picture2.click();
-        for (const QWidget *control : controls)
-            QVERIFY(!Controls::isShown(*control));
+        QVERIFY(std::none_of(controls.begin(), controls.end(), isShown));
         QCOMPARE(bar.hitCount(), 0);
         QVERIFY(bar.TextBoxM6.text().isEmpty());
     }
