@@ -70,7 +70,9 @@ private Q_SLOTS:
         QCOMPARE(offered(), (QStringList{"", path("mine.htm")}));
         QVERIFY(!QFile::exists(path("mine.htm")) && !QFile::exists(path("other.htm")));
 
-        save({path()}, {true, true, true, true, true, true, "Pane", 7, "Tab"});
+        const ReportContext noTab{true, true, true, true, true, true, "Pane", 7, "Tab"};
+        QVERIFY(!m_save->forPaper(noTab));
+        save({path()}, noTab);
         QVERIFY(!QFile::exists(path()));
     }
 
