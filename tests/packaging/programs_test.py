@@ -117,9 +117,15 @@ class Installation(InFolder):
         self.install("there")
         self.assertEqual([path.name for path in (self.folder / "there").iterdir()], ["alembra"])
         moved = (self.folder / "there/alembra").rename(self.folder / "a moved folder")
-        self.assertEqual(files(moved), assembled_files() | {"LICENSE", "LICENSES.md", "README.txt", "SOURCES.md"})
+        carried = {name for name in files(moved) if name.split("/")[0] in ("lib", "licences", "plugins")}
+        self.assertEqual(files(moved) - carried,
+                         assembled_files() | {"LICENSE", "LICENSES.md", "README.txt", "SOURCES.md", "qt.conf"})
+        self.assertIn("licences/libqt6core6.txt", carried)
         program = self.start(moved / "Alembra_uk")
         self.assert_answers(program)
+        used = re.findall("/.*libQt6.*", Path(f"/proc/{program.pid}/maps").read_text())
+        self.assertEqual([path for path in used if not path.startswith(str(moved))], [])
+        self.assertIn(str(moved / "lib/libQt6Core.so"), str(used))
         program.kill()
         self.assertEqual(program.communicate()[1], b"")
 
