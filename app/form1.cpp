@@ -1,10 +1,12 @@
 #include "app/form1.h"
 
 #include "app/frmload.h"
+#include "app/history.h"
 #include "app/menulayout.h"
 #include "app/optionshost.h"
 #include "app/panescroll.h"
 #include "app/placeswitch.h"
+#include "app/searchactions.h"
 #include "app/sourceaction.h"
 #include "browsers/biochemistrypane.h"
 #include "browsers/references.h"
@@ -61,6 +63,9 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     });
     buildPaneArea();
     m_places = new PlaceSwitch(*this, *m_panes, [this](int id) { executeCommand(id); });
+    connect(m_places, &PlaceSwitch::helpPageWanted, &m_help, &HelpOpener::openPage);
+    m_history = std::make_unique<History>(m_ownActions, *m_places);
+    m_searchActions = std::make_unique<SearchActions>(m_ownActions, module, store, *m_history, *this);
     m_options = std::make_unique<OptionsHost>(
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
@@ -236,7 +241,7 @@ void Form1::restoreAndRaise()
 void Form1::executeCommand(int id)
 {
     if (const Command *command = findCommand(id))
-        ignoringErrors([&] { run(*command); });
+        m_history->follow([&] { ignoringErrors([&] { run(*command); }); });
     updateCommands();
 }
 

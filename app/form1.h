@@ -22,10 +22,12 @@
 class CalculationsPane;
 class Desktop;
 class ElementsPane;
+class History;
 class LaterTables;
 class OptionsHost;
 class PlaceSwitch;
 class ReactionsPane;
+class SearchActions;
 class SourceAction;
 class SolventsPane;
 class SpectroscopyPane;
@@ -110,6 +112,8 @@ private:
     ReactionsPane *m_reactions = nullptr;
     std::unique_ptr<PaneSwitch> m_panes;
     PlaceSwitch *m_places;
+    std::unique_ptr<History> m_history;
+    std::unique_ptr<SearchActions> m_searchActions;
     std::unique_ptr<SourceAction> m_sourceAction;
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;

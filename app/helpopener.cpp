@@ -2,6 +2,7 @@
 
 #include "core/desktop.h"
 #include "core/module1.h"
+#include "sidewindows/helpbook.h"
 #include "sidewindows/helppages.h"
 
 #include <QAction>
@@ -22,6 +23,12 @@ void HelpOpener::open()
         m_desktop.openTarget(file);
     if (viewer != Desktop::Viewer::Known)
         showPages();
+}
+
+void HelpOpener::openPage(int number)
+{
+    showPages();
+    m_pages->open(HelpBook::contents().value(number).page);
 }
 
 void HelpOpener::showPages()

@@ -21,6 +21,9 @@ public:
     /// pages in the program's own window.
     void open();
 
+    /// Shows the program's own window, with page @p number in the order of the book.
+    void openPage(int number);
+
 private:
     void showPages();
 

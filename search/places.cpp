@@ -18,7 +18,7 @@ constexpr AnswerColumn Miscibilities[]{{3, "non-miscible:"}, {1, "polarity index
 constexpr AnswerColumn Peaks[]{{1, "m/z"}, {2, "m/z"}, {3, "m/z"}, {4, "m/z"}, {5, "m/z"},
                                {6, "m/z"}, {7, "m/z"}, {8, "m/z"}, {9, "m/z"}, {10, "m/z"}};
 constexpr AnswerColumn DryingAgents[]{{1, "dried with", "", Searched}};
-constexpr AnswerColumn Temperatures[]{{1, "", "°C", Searched}};
+constexpr AnswerColumn Temperatures[]{{1, "cools to", "°C", Searched}};
 constexpr AnswerColumn AcidCouples[]{
     {1, "", "", Searched}, {2, "pKa1"}, {3, "pKa2"}, {4, "pKa3"}, {5, "pKa4"}};
 constexpr AnswerColumn RedoxCouples[]{{1, "E°", "V"}};
@@ -64,11 +64,19 @@ struct QuantityName
     const char *words;
 };
 
-constexpr QuantityName Quantities[]{
-    {"bp", "boiling point"},        {"mp", "melting point"},      {"M", "molar mass"},
-    {"d", "density, volumic mass"}, {"n", "refractive index"},    {"E°", "standard potential"},
-    {"Ks", "solubility product"},   {"Kf", "formation constant"}, {"pI", "isoelectric point"},
-    {"ex", "excitation"},           {"em", "emission"},           {"in water", "solubility"}};
+constexpr QuantityName Quantities[]{{"bp", "boiling point"},
+                                    {"mp", "melting point"},
+                                    {"M", "molar mass"},
+                                    {"d", "density, volumic mass"},
+                                    {"n", "refractive index"},
+                                    {"E°", "standard potential"},
+                                    {"Ks", "solubility product"},
+                                    {"Kf", "formation constant"},
+                                    {"pI", "isoelectric point"},
+                                    {"ex", "excitation"},
+                                    {"em", "emission"},
+                                    {"in water", "solubility"},
+                                    {"cools to", "salt bath, temperature"}};
 
 // Commands of the panes that choose no tab.
 constexpr int SolutionsPane = 1113;

@@ -67,7 +67,7 @@ SearchEverything::SearchEverything(const DataStore &store, const QList<NamedPlac
             add({&where, where.rows(store.lists).rowCount(),
                  [&rows = where.rows(store.lists)](int row, int cell) { return rows.subItem(row, cell); }});
         for (const NamedPlaces &names : others) {
-            if (list == QLatin1StringView(names.list))
+            if (list == names.list)
                 add({&where, int(names.names.size()),
                      [names = names.names](int row, int) { return names[row]; }});
         }

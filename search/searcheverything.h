@@ -26,7 +26,7 @@ struct SearchResult
 /// Names that are in no list of the store: units, titles of help pages.
 struct NamedPlaces
 {
-    const char *list; ///< in the table of places; row n is name n
+    QString list; ///< in the table of places; row n is name n
     QStringList names;
 };
 

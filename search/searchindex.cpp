@@ -46,36 +46,36 @@ Rank rankAt(std::string_view text, size_t at, size_t length)
     const bool begins = !Folding::isOfWord(before) || !Folding::isOfWord(text[at]);
     const bool ends = !Folding::isOfWord(after) || !Folding::isOfWord(text[at + length - 1]);
     if (before == '\n')
-        return after == '\t' ? Rank::WholeName : ends ? Rank::WholeWord : Rank::BeginOfName;
+        return after == '\t' ? Rank::WholeName : ends ? Rank::FirstWord : Rank::BeginOfName;
     if (begins)
         return ends ? Rank::WholeWord : Rank::BeginOfWord;
     return length > 1 ? Rank::Anywhere : Rank::None;
 }
 
-struct Found
+struct Fit
 {
     Rank rank = Rank::None;
     size_t at = 0;
+    size_t length = 0;
 };
 
-/// Where @p spelling fits best into @p text.
-Found bestIn(std::string_view text, std::string_view spelling)
+/// Where @p word fits best into @p text.
+Fit bestFit(std::string_view text, const Word &word)
 {
-    Found best;
-    for (size_t at = text.find(spelling, 1); at != text.npos; at = text.find(spelling, at + 1)) {
-        const Rank rank = rankAt(text, at, spelling.size());
-        if (rank < best.rank)
-            best = {rank, at};
+    Fit best;
+    for (const std::string &spelling : word) {
+        for (size_t at = text.find(spelling, 1); at != text.npos; at = text.find(spelling, at + 1)) {
+            const Rank rank = rankAt(text, at, spelling.size());
+            if (rank < best.rank)
+                best = {rank, at, spelling.size()};
+        }
     }
     return best;
 }
 
 Rank rankIn(std::string_view text, const Word &word)
 {
-    Rank best = Rank::None;
-    for (const std::string &spelling : word)
-        best = std::min(best, bestIn(text, spelling).rank);
-    return best;
+    return bestFit(text, word).rank;
 }
 
 bool isTopic(std::string_view topic, const Word &word)
@@ -102,15 +102,15 @@ Needed neededIn(std::string_view topic, const std::vector<Word> &words)
     return needed;
 }
 
-/// The lower the better; nothing if a word is missing.
-std::optional<size_t> scoreOf(std::string_view row, const Needed &needed)
+/// The lower the better; nothing if a word is missing. The first word has @p rank.
+std::optional<size_t> scoreOf(std::string_view row, const Needed &needed, Rank rank)
 {
-    size_t score = 0;
-    for (const Word *word : needed.inRow) {
-        const Rank rank = rankIn(row, *word);
-        if (rank == Rank::None)
+    size_t score = rank;
+    for (size_t number = 1; number < needed.inRow.size(); ++number) {
+        const Rank next = rankIn(row, *needed.inRow[number]);
+        if (next == Rank::None)
             return {};
-        score += rank;
+        score += next;
     }
     for (const Word *word : needed.ofTopic)
         score += std::min(rankIn(row, *word), Rank::OfTopic);
@@ -122,16 +122,25 @@ std::optional<size_t> scoreOf(std::string_view row, const Needed &needed)
 // In a text, '\n' and '\t' surround every name, so there is a character before and after each word.
 void SearchIndex::addTable(const QString &topic)
 {
-    m_tables.push_back({'\n' + Folding::fold(topic) + '\n', "\n", {}});
+    m_tables.push_back({'\n' + Folding::fold(topic) + '\n', "\n", {}, {}});
 }
 
 void SearchIndex::addRow(const QStringList &texts)
 {
-    Table &table = m_tables.back();
-    table.starts.push_back(table.text.size() - 1);
-    for (const QString &text : texts)
-        table.text += Folding::fold(text) + '\t';
-    table.text += '\n';
+    m_tables.back().add(texts);
+}
+
+void SearchIndex::Table::add(const QStringList &texts)
+{
+    size_t at = text.size();
+    starts.push_back(at - 1);
+    for (const QString &each : texts)
+        text += Folding::fold(each) + '\t';
+    for (; at < text.size(); ++at) {
+        if (!Folding::isOfWord(text[at - 1]) || !Folding::isOfWord(text[at]))
+            words.push_back(at);
+    }
+    text += '\n';
 }
 
 std::string_view SearchIndex::Table::row(size_t number) const
@@ -140,24 +149,36 @@ std::string_view SearchIndex::Table::row(size_t number) const
     return std::string_view(text).substr(starts[number], end - starts[number]);
 }
 
-// One pass over the text for each spelling, however many rows it has.
-std::vector<size_t> SearchIndex::Table::rowsWith(const Word &word) const
+// One pass for each spelling, however many rows it has.
+std::vector<std::pair<size_t, Rank>> SearchIndex::Table::rowsWith(const Word &word) const
 {
-    std::vector<size_t> rows;
+    std::vector<std::pair<size_t, Rank>> rows;
     for (const std::string &spelling : word) {
         size_t row = 0;
-        for (size_t at = text.find(spelling, 1); at != text.npos; at = text.find(spelling, at + 1)) {
-            if (rankAt(text, at, spelling.size()) == Rank::None)
-                continue;
+        const auto addRowOf = [&](size_t at) {
+            const Rank rank = rankAt(text, at, spelling.size());
             while (row + 1 < starts.size() && starts[row + 1] < at)
                 ++row;
-            if (rows.empty() || rows.back() != row)
-                rows.push_back(row);
+            if (rows.empty() || rows.back().first != row)
+                rows.emplace_back(row, rank);
+            else
+                rows.back().second = std::min(rows.back().second, rank);
+        };
+        if (spelling.size() == 1) {
+            for (const size_t at : words) {
+                if (text[at] == spelling[0])
+                    addRowOf(at);
+            }
+        } else {
+            for (size_t at = text.find(spelling, 1); at != text.npos; at = text.find(spelling, at + 1))
+                addRowOf(at);
         }
     }
-    if (word.size() > 1)
+    if (word.size() > 1) {
         std::ranges::sort(rows);
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        const auto twice = std::ranges::unique(rows, {}, &std::pair<size_t, Rank>::first);
+        rows.erase(twice.begin(), twice.end());
+    }
     return rows;
 }
 
@@ -172,9 +193,9 @@ SearchIndex::Hits SearchIndex::find(const QString &query, int limit) const
     for (size_t number = 0; number < m_tables.size(); ++number) {
         const Table &table = m_tables[number];
         const Needed needed = neededIn(table.topic, words);
-        for (const size_t row : table.rowsWith(*needed.inRow[0])) {
+        for (const auto &[row, rank] : table.rowsWith(*needed.inRow[0])) {
             const std::string_view text = table.row(row);
-            const auto score = text.starts_with(wholeName) ? 0 : scoreOf(text, needed);
+            const auto score = text.starts_with(wholeName) ? 0 : scoreOf(text, needed, rank);
             if (!score)
                 continue;
             ++hits.count;
@@ -191,17 +212,18 @@ QList<SearchIndex::Range> SearchIndex::marks(const QString &name, const QString 
 {
     QList<qsizetype> origins;
     const std::string folded = '\n' + Folding::fold(name, &origins) + '\t';
-    QList<Range> found;
+    std::vector<bool> marked(size_t(name.size()) + 1);
     for (const Word &word : wordsOf(query)) {
-        for (const std::string &spelling : word) {
-            const Found best = bestIn(folded, spelling);
-            if (best.rank == Rank::None)
-                continue;
-            const qsizetype first = qsizetype(best.at) - 1; // without the '\n'
-            const qsizetype last = first + qsizetype(spelling.size()) - 1;
-            found << Range{origins[first], origins[last] + 1 - origins[first]};
-        }
+        const Fit fit = bestFit(folded, word);
+        for (size_t at = fit.at; at < fit.at + fit.length; ++at)
+            marked[size_t(origins[qsizetype(at) - 1])] = true; // without the '\n'
     }
-    std::ranges::sort(found, {}, &Range::begin);
-    return found;
+    QList<Range> ranges;
+    for (size_t at = 0; at < marked.size(); ++at) {
+        if (marked[at] && (at == 0 || !marked[at - 1]))
+            ranges << Range{qsizetype(at), 0};
+        if (marked[at])
+            ++ranges.last().length;
+    }
+    return ranges;
 }

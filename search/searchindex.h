@@ -14,7 +14,7 @@ class SearchIndex final
 {
 public:
     /// How well a word fits, the best first.
-    enum Rank { WholeName, WholeWord, BeginOfName, BeginOfWord, Anywhere, OfTopic, None };
+    enum Rank { WholeName, FirstWord, WholeWord, BeginOfName, BeginOfWord, Anywhere, OfTopic, None };
 
     struct Hit
     {
@@ -42,18 +42,20 @@ public:
     /// The rows with all words of @p query, in any order; at most @p limit of them.
     Hits find(const QString &query, int limit) const;
 
-    /// The parts of @p name that the words of @p query match, in order.
+    /// The parts of @p name that the words of @p query match, in order and apart.
     static QList<Range> marks(const QString &name, const QString &query);
 
 private:
     struct Table
     {
+        void add(const QStringList &texts);
         std::string_view row(size_t number) const;
-        std::vector<size_t> rowsWith(const std::vector<std::string> &spellings) const;
+        std::vector<std::pair<size_t, Rank>> rowsWith(const std::vector<std::string> &spellings) const;
 
         std::string topic;
         std::string text;           ///< of each row: '\n', the name, '\t', the other texts, each with a '\t'
         std::vector<size_t> starts; ///< of the rows in the text
+        std::vector<size_t> words;  ///< begins of words in the text, for words of one character
     };
 
     std::vector<Table> m_tables;

@@ -17,6 +17,9 @@ class HelpPages final : public QWidget
 public:
     HelpPages();
 
+    /// Shows @p page, a file name.
+    void open(const QString &page);
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -26,7 +29,6 @@ private:
     QWidget *buildSearch();
     QWidget *buildPage();
     QListWidget *makeList(const QString &name, const QString &accessibleName, QLineEdit &field);
-    void open(const QString &page);
     void markInContents();
 
     QTextBrowser *m_page;

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTreeWidget>
 
 /// What answers a question of the bench in a few steps, and paper, in whole runs of the program.
 class AnswersRunTest final : public WholeRun
@@ -58,6 +59,48 @@ private Q_SLOTS:
                              QVERIFY2(Places::find(list->objectName()), qPrintable(list->objectName()));
                      }),
                  0);
+    }
+
+    void anythingIsFoundAndTheWayBackToo()
+    {
+        const ProgramFolder folder;
+        folder.setOption(56, "0");
+        const auto steps = [](Form1 &form) {
+            const auto &places = get<PlaceSwitch>(form, QString());
+            const auto searchFor = [&form](const QString &text) -> QWidget & {
+                QTest::keyClick(form.focusWidget(), Qt::Key_K, Qt::ControlModifier);
+                QWidget &window = get(form, "frmSearch");
+                QTest::keyClicks(&get(window, "txtSearch"), text);
+                return window;
+            };
+            form.executeCommand(1120);
+            get(form, "TextBoxM7(0)").setFocus(); // a field has Ctrl+K for itself
+            QWidget &window = searchFor("bp acetonitrile");
+            const auto &answers = get<QTreeWidget>(window, "lstSearch");
+            const auto cell = [&](int column) { return answers.topLevelItem(0)->text(column); };
+            QCOMPARE(cell(0) + " | " + cell(1), "Acetonitrile | Solvents, properties");
+            QVERIFY2(cell(2).startsWith("bp 81.6, "), qPrintable(cell(2)));
+            QTest::keyClick(&get(window, "txtSearch"), Qt::Key_Down);
+            QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+            const Place row{"ListView1", 3};
+            QCOMPARE(places.current().list, row.list);
+            QTest::keyClick(&searchFor("a-pinene"), Qt::Key_Escape);
+            QVERIFY(places.current() == row);
+
+            searchFor("codons of tryptophan");
+            QTest::keyClick(form.findChild<QWidget *>("txtSearch"), Qt::Key_Return);
+            QCOMPARE(get<QLineEdit>(form, "tbm(1)").text(), "UGG");
+            QTest::keyClick(&form, Qt::Key_Left, Qt::AltModifier);
+            QVERIFY(places.current() == row);
+            form.executeCommand(1113);
+            QVERIFY(!get<QAction>(form, "actForward").isEnabled());
+            for (int step = 0; step < 2; ++step)
+                QTest::keyClick(&form, Qt::Key_Left, Qt::AltModifier);
+            QVERIFY(Controls::isShown(get(form, "Frame2")));
+            QTest::keyClick(&form, Qt::Key_Right, Qt::AltModifier);
+            QVERIFY(places.current() == row);
+        };
+        QCOMPARE(run(folder, steps), 0);
     }
 
     void molarMassOfAFormula()

@@ -1,5 +1,6 @@
 #include "search/find.h"
 #include "search/findbar.h"
+#include "search/searchindex.h"
 #include "store/datastore.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
@@ -82,6 +83,41 @@ class FindTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everythingIsFoundByItsWords_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("found");
+        const auto add = [](const char *query, const char *found) { QTest::newRow(query) << query << found; };
+        add("acid", "[acid]|formic [acid]|[acid]ity|\u03b1-[Acid]oic (CO2)|vit[acid]ol");
+        add("ACID formic", "[formic] [acid]");
+        add("alpha", "[\u03b1]-Acidoic (CO2)");
+        add("a-acidoic", "[\u03b1-Acidoic] (CO2)");
+        add("CO\u2082", "\u03b1-Acidoic ([CO2])");
+        add("vitacidol strength", "[vitacidol]"); // the topic
+        add("cafe", "[Caf\u00e9]ine");
+        add("58-08-2", "Caf\u00e9ine");
+        add("o", ""); // in the middle of words
+    }
+
+    void everythingIsFoundByItsWords()
+    {
+        QFETCH(QString, query);
+        SearchIndex index;
+        const QList<QStringList> rows{{"vitacidol"}, {"\u03b1-Acidoic (CO2)"},   {"formic acid"}, {"acidity"},
+                                      {"acid"},      {"Caf\u00e9ine", "58-08-2"}};
+        index.addTable("Strengths of acids");
+        for (const QStringList &row : rows)
+            index.addRow(row);
+        QStringList found;
+        for (const SearchIndex::Hit &hit : index.find(query, 5).best) {
+            found << rows[hit.row][0];
+            const auto marks = SearchIndex::marks(found.last(), query);
+            for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark)
+                found.last().insert(mark->begin + mark->length, ']').insert(mark->begin, '[');
+        }
+        QTEST(found.join('|'), "found");
+    }
+
     // A step forward looks from the row with the number of the hit on.
     void ofEqualTextsTheSecondSelectsTheFirst()
     {
