@@ -45,7 +45,7 @@ constexpr AnswerColumn FattyAcids[]{
     {1, "", "", Searched}, {2, "", "", Searched}, {3, "M", "g/mol"}, {4, "mp", "°C"}, {5, "in water", "%"}};
 constexpr AnswerColumn Codons[]{{1, "", "", Searched}, {2, "", "", Searched}, {3, "", "", Searched},
                                 {4, "", "", Searched}, {5, "", "", Searched}, {6, "", "", Searched}};
-constexpr AnswerColumn Standards[]{{1, "", "", Searched}, {2, ""}};
+constexpr AnswerColumn Standards[]{{1, "", "", Searched}, {2, "mass"}};
 constexpr AnswerColumn Separations[]{{1, "acrylamide"}};
 constexpr AnswerColumn Recipe[]{{1, ""}, {2, ""}};
 constexpr AnswerColumn ResolvingGels[]{

@@ -46,6 +46,30 @@ QString withUnit(const QString &cell, const QString &unit)
     return unit.isEmpty() || !isNumber || cell.endsWith(unit) ? cell : cell + u' ' + unit;
 }
 
+QString counted(int answers)
+{
+    if (answers > SearchEverything::Limit)
+        return u"the best %1 of %2 answers"_s.arg(SearchEverything::Limit).arg(answers);
+    return answers == 1 ? u"1 answer"_s : u"%1 answers"_s.arg(answers);
+}
+
+// The columns of @p where with those of @p cells, which were looked for, before the other values. Of shifts
+// the other solvents are left out.
+QList<AnswerColumn> arranged(const ListPlace &where, const QList<int> &cells)
+{
+    QList<AnswerColumn> columns(where.columns.begin(), where.columns.end());
+    columns.removeIf([&](const AnswerColumn &each) {
+        return qstrcmp(each.unit, "ppm") == 0 && !cells.contains(each.cell);
+    });
+    const auto place = [&](const AnswerColumn &each) {
+        const qsizetype found = cells.indexOf(each.cell);
+        const bool isName = each.use == AnswerColumn::Searched && *each.label == '\0';
+        return found >= 0 ? found : isName ? -1 : cells.size();
+    };
+    std::ranges::stable_sort(columns, {}, place);
+    return columns;
+}
+
 QString nameOf(const ListPlace &where)
 {
     return QString::fromUtf8(where.table);
@@ -54,6 +78,7 @@ QString nameOf(const ListPlace &where)
 } // namespace
 
 SearchEverything::SearchEverything(const DataStore &store, const QList<NamedPlaces> &others)
+    : m_numbers(store)
 {
     for (const ListPlace &where : Places::all()) {
         const QString list = QLatin1StringView(where.list);
@@ -95,30 +120,69 @@ void SearchEverything::add(Source source)
 
 SearchResult SearchEverything::find(const QString &text) const
 {
-    if (text.trimmed().isEmpty())
-        return {};
+    if (const std::optional<NumberQuery> query = NumberQuery::parse(text)) {
+        const SearchResult result = findNumbers(*query);
+        if (!result.answers.isEmpty())
+            return result;
+    }
+    return text.trimmed().isEmpty() ? SearchResult() : findText(text);
+}
+
+SearchResult SearchEverything::findNumbers(const NumberQuery &query) const
+{
+    const NumberAnswers::Answers found = m_numbers.find(query, Limit);
+    SearchResult result{u"Looked for "_s + query.understood() + u": "_s + counted(found.count), {}};
+    for (const NumberAnswers::Answer &each : found.best)
+        result.answers << answer(each);
+    return result;
+}
+
+SearchResult SearchEverything::findText(const QString &text) const
+{
     const SearchIndex::Hits hits = m_index.find(text, Limit);
     SearchResult result;
     for (const SearchIndex::Hit &hit : hits.best) {
         result.answers << answer(m_sources[hit.table], hit.row);
         result.answers.last().marks = SearchIndex::marks(result.answers.last().name, text);
     }
-    if (hits.count == 0)
-        result.understood = u"Nothing found for \"%1\""_s.arg(text.trimmed());
-    else if (hits.count > Limit)
-        result.understood = u"The best %1 of %2 answers"_s.arg(Limit).arg(hits.count);
-    else
-        result.understood = hits.count == 1 ? u"1 answer"_s : u"%1 answers"_s.arg(hits.count);
+    result.understood =
+        hits.count == 0 ? u"Nothing found for \"%1\""_s.arg(text.trimmed()) : counted(hits.count);
+    result.understood.front() = result.understood.front().toUpper();
     return result;
 }
 
 SearchAnswer SearchEverything::answer(const ListPlace &where, int row) const
 {
-    for (const Source &source : m_sources) {
-        if (source.where == &where)
-            return answer(source, row);
+    const Source *source = sourceOf(where);
+    return source ? answer(*source, row) : SearchAnswer();
+}
+
+const SearchEverything::Source *SearchEverything::sourceOf(const ListPlace &where) const
+{
+    const auto source = std::ranges::find(m_sources, &where, &Source::where);
+    return source == m_sources.end() ? nullptr : &*source;
+}
+
+// Of a compound with several shifts each has its row.
+SearchAnswer SearchEverything::answer(const NumberAnswers::Answer &found) const
+{
+    const Source &source = *sourceOf(*found.place);
+    SearchAnswer made = answer(source, found.matches.constFirst().row);
+    QList<int> rows;
+    QStringList texts;
+    for (const auto &[row, cell] : found.matches) {
+        if (rows.contains(row))
+            continue;
+        rows << row;
+        QList<int> cells;
+        for (const NumberAnswers::Match &match : found.matches) {
+            if (match.row == row)
+                cells << match.cell;
+        }
+        texts << values(source, row, arranged(*found.place, cells));
     }
-    return {};
+    made.values = texts.join(u"; "_s);
+    return made;
 }
 
 SearchAnswer SearchEverything::answer(const Source &source, int row)
@@ -138,10 +202,14 @@ SearchAnswer SearchEverything::answer(const Source &source, int row)
     return answer;
 }
 
-// Values that follow each other share label and unit: "m/z 43 (100), 58 (30)", "ex 492, em 518 nm".
 QString SearchEverything::values(const Source &source, int row)
 {
-    QList<AnswerColumn> columns(source.where->columns.begin(), source.where->columns.end());
+    return values(source, row, {source.where->columns.begin(), source.where->columns.end()});
+}
+
+// Values that follow each other share label and unit: "m/z 43 (100), 58 (30)", "ex 492, em 518 nm".
+QString SearchEverything::values(const Source &source, int row, QList<AnswerColumn> columns)
+{
     columns.removeIf([&](const AnswerColumn &column) {
         const QString cell = source.cell(row, column.cell);
         return cell.isEmpty() || cell == u"-";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "search/numberanswers.h"
 #include "search/places.h"
 #include "search/searchindex.h"
 
@@ -30,8 +31,8 @@ struct NamedPlaces
     QStringList names;
 };
 
-/// Search over all data in memory. Reads the store again for each answer, but keeps the folded texts: make a
-/// new one when the data change.
+/// Search over all data in memory, by words or by numbers. Reads the store again for each answer, but keeps
+/// the folded texts and the numbers: make a new one when the data change.
 class SearchEverything final
 {
 public:
@@ -41,6 +42,7 @@ public:
     /// @p store outlives it.
     SearchEverything(const DataStore &store, const QList<NamedPlaces> &others);
 
+    /// What is no query for numbers, or has no answer as one, is searched as text.
     SearchResult find(const QString &text) const;
 
     /// The answer for one row: name, table, values and place.
@@ -57,12 +59,18 @@ private:
     };
 
     void add(Source source);
+    SearchResult findNumbers(const NumberQuery &query) const;
+    SearchResult findText(const QString &text) const;
+    SearchAnswer answer(const NumberAnswers::Answer &found) const;
+    const Source *sourceOf(const ListPlace &where) const;
     static SearchAnswer answer(const Source &source, int row);
     static QString values(const Source &source, int row);
+    static QString values(const Source &source, int row, QList<AnswerColumn> columns);
     static bool isTitle(const Source &source, int row);
     static int titleOf(const Source &source, int row);
     static QString ingredients(const Source &source, int title);
 
     QList<Source> m_sources; ///< in the order of the index
     SearchIndex m_index;
+    NumberAnswers m_numbers;
 };
