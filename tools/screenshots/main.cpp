@@ -6,9 +6,11 @@
 #include "widgets/sidewindow.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QTabBar>
 #include <QTimer>
 
@@ -21,18 +23,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A picture: the command that shows the pane or window, and the control that is clicked or, with a tab,
-/// selected there. If that opens a side window, the picture is of the window.
+/// selected there, or the entry of the menu. If that opens a side window, the picture is of the window.
 struct Shot
 {
     const char *file;
     int command;
     const char *control = nullptr;
     int item = 0;
+    const char *typed = nullptr; ///< into the field with the focus of the side window
 };
 
 constexpr Shot Shots[] = {
     {"elements", 1108, "Command7(25)"},
     {"elements-find", 1121},
+    {"search", 1108, "actSearchAll", 0, "acetic acid"},
     {"captions", 1108, "cmdhelp"},
     {"crystal", 1108, "Command9"},
     {"zoom", 1108, "imgato"},
@@ -103,7 +107,9 @@ void touch(const QWidget &window, const Shot &shot)
         list->selectRow(shot.item - 1);
         Q_EMIT list->rowClicked(shot.item - 1);
         Q_EMIT list->rowDoubleClicked(shot.item - 1);
-    } else
+    } else if (auto *entry = window.findChild<QAction *>(name))
+        entry->trigger();
+    else
         qFatal("no control %s", shot.control);
 }
 
@@ -128,6 +134,8 @@ void walk(Form1 &form, const QDir &pictures)
         };
         if (shot.control)
             touch(shown(), shot);
+        if (auto *field = qobject_cast<QLineEdit *>(shown().focusWidget()); field && shot.typed)
+            field->setText(QLatin1StringView(shot.typed));
         take(shown(), pictures.filePath(QLatin1StringView(shot.file) + u".png"_s));
         if (SideWindow *window = sideWindow(form))
             window->close();
