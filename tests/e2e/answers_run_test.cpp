@@ -68,13 +68,15 @@ private Q_SLOTS:
         const auto steps = [](Form1 &form) {
             const auto &places = get<PlaceSwitch>(form, QString());
             const auto searchFor = [&form](const QString &text) -> QWidget & {
+                if (!QTest::qWaitFor([&] { return form.isActiveWindow() && form.focusWidget(); }))
+                    qFatal("the main window has no focus");
                 QTest::keyClick(form.focusWidget(), Qt::Key_K, Qt::ControlModifier);
                 QWidget &window = get(form, "frmSearch");
                 QTest::keyClicks(&get(window, "txtSearch"), text);
                 return window;
             };
             form.executeCommand(1120);
-            get(form, "TextBoxM7(0)").setFocus(); // a field has Ctrl+K for itself
+            get(form, "TextBoxM3").setFocus(); // a field has Ctrl+K for itself
             QWidget &window = searchFor("bp acetonitrile");
             const auto &answers = get<QTreeWidget>(window, "lstSearch");
             const auto cell = [&](int column) { return answers.topLevelItem(0)->text(column); };
