@@ -7,7 +7,6 @@
 #include "app/traydoubleclick.h"
 #include "store/rowlist.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "widgets/rowlistview.h"
 
 #include <QAction>
@@ -123,8 +122,8 @@ private Q_SLOTS:
     {
         const struct
         {
-            QByteArray
-                told; ///< c is a click, d a double click, a digit the hundreds of milliseconds that pass
+            // c is a click, d a double click, a digit the hundreds of milliseconds that pass.
+            QByteArray told;
             int counted;
         } Rows[]{
             {"c", 0},    {"c3c", 1}, {"c5c", 0},     {"c5c3c", 1},   {"c1d", 1},

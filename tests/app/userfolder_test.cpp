@@ -2,7 +2,6 @@
 #include "options/filefigures.h"
 #include "tests/store/sampledatabases.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "tests/support/wholerun.h"
 
 #include <QLabel>

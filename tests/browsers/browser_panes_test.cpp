@@ -10,7 +10,6 @@
 #include "search/findbar.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
 #include "widgets/linklabel.h"
 

@@ -4,7 +4,6 @@
 #include "store/rowlists.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "widgets/controls.h"
 #include "widgets/tabstrip.h"
 #include "widgets/textboxm.h"
@@ -12,7 +11,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTreeView>
 

@@ -1,7 +1,6 @@
 #include "calc/changewatcher.h"
 #include "calc/solver.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 using namespace CalcFields;
 

@@ -2,7 +2,6 @@
 #include "calc/units.h"
 #include "core/optionslots.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QRegularExpression>
 

@@ -3,7 +3,6 @@
 #include "core/module1.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "tests/support/unreadtables.h"
 
 #include <QPushButton>

@@ -1,12 +1,10 @@
 #include "core/codepage.h"
-#include "core/filecopy.h"
 #include "core/numbers.h"
 #include "core/optionslots.h"
 #include "core/scale.h"
 #include "core/symboltext.h"
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
-#include "tests/support/testclass.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -70,21 +68,6 @@ private Q_SLOTS:
                 QCOMPARE(Numbers::formatLocal(-1.5E-20), "-1" + Numbers::decimalPoint() + "5E-20");
             });
         }
-    }
-
-    void copyReplacesWholeOrNotAtAll()
-    {
-        const QString source = m_folder.filePath("source");
-        const QString destination = m_folder.filePath("destination");
-        writeFile(source, "new");
-        writeFile(destination, "something old");
-        copyFileOver(source, destination);
-        QCOMPARE(readFile(destination), "new");
-        copyFileOver(source, source);
-        QCOMPARE(readFile(source), "new");
-        QVERIFY_THROWS_EXCEPTION(RuntimeError, copyFileOver(m_folder.filePath("none"), destination));
-        QVERIFY_THROWS_EXCEPTION(RuntimeError, copyFileOver(source, m_folder.path()));
-        QCOMPARE(readFile(destination), "new");
     }
 
     void aFileKeepsEveryByteAndItsLength()

@@ -1,6 +1,5 @@
 #include "calc/units.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QRegularExpression>
 #include <QSet>

@@ -5,7 +5,6 @@
 #include "core/optionslots.h"
 #include "sidewindows/helpbook.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

@@ -1,4 +1,3 @@
-#include "core/runtimeerror.h"
 #include "electronics/eia96.h"
 #include "electronics/electronicspane.h"
 #include "tests/support/files.h"

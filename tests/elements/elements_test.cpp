@@ -2,7 +2,6 @@
 #include "search/findbar.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
 #include "widgets/picturewindow.h"
 #include "widgets/tooltips.h"
@@ -11,7 +10,6 @@
 #include <QComboBox>
 #include <QPointer>
 #include <QTemporaryDir>
-#include <QToolButton>
 
 /// What the panel shows, and the pane with the Find bar in `Form1`.
 class ElementsTest final : public QObject

@@ -3,7 +3,6 @@
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 
 #include <QTemporaryDir>
 #include <sys/stat.h>

@@ -3,7 +3,6 @@
 #include "store/datastore.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "widgets/tabstrip.h"
 
 #include <QCheckBox>
@@ -11,8 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTemporaryDir>
 
 namespace {

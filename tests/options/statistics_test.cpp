@@ -4,7 +4,6 @@
 #include "options/statisticstab.h"
 #include "store/datastore.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -4,7 +4,6 @@
 #include "store/datastore.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "widgets/rowlistview.h"
 #include "widgets/statusline.h"
 

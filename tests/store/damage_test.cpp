@@ -3,7 +3,6 @@
 #include "store/databasepassword.h"
 #include "store/jet/jetfile.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QRandomGenerator>
 #include <QtEndian>

@@ -4,7 +4,6 @@
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 
 #include <QTemporaryDir>
 
@@ -59,14 +58,6 @@ private Q_SLOTS:
         QCOMPARE(readFile(path("Data/Database.mdb")), QByteArray("original"));
         QVERIFY(readFile(database()) == before);
         QCOMPARE(m_desktop.boxes, (Boxes{{Question, 20}, {Success, 64}}));
-    }
-
-    void aGoodDatabaseIsDisconnectedOnce()
-    {
-        m_recovery->ConnectDatabase();
-        m_recovery->DisconnectDatabase();
-        QCOMPARE(m_connection->State(), DatabaseConnection::StateClosed);
-        QCOMPARE(errorOf([&] { m_recovery->DisconnectDatabase(); }), ErrorNumber::ObjectClosed);
     }
 
 private:

@@ -2,7 +2,6 @@
 #include "store/recordset.h"
 #include "store/tablecatalog.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -17,7 +17,6 @@
 
 #include <QFontMetricsF>
 #include <QImageReader>
-#include <QPainter>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;

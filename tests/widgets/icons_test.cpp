@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPixmap>
 #include <QSignalSpy>
 #include <QSvgRenderer>
 

@@ -1,6 +1,5 @@
 #include "core/module1.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "widgets/picturewindow.h"
 #include "widgets/structurewindow.h"
 

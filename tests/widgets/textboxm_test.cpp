@@ -1,5 +1,4 @@
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "widgets/fieldhint.h"
 #include "widgets/textboxm.h"
 
