@@ -1,7 +1,10 @@
 #include "app/frmload.h"
+#include "sidewindows/helpbook.h"
 #include "sidewindows/tips.h"
 #include "tests/e2e/judge.h"
+#include "tests/e2e/paintedtexts.h"
 #include "tests/e2e/walk.h"
+#include "tests/support/files.h"
 #include "tests/support/wholerun.h"
 #include "widgets/modulepanel.h"
 #include "widgets/rowlistview.h"
@@ -14,6 +17,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+#include <QXmlStreamReader>
 
 /// Nothing is clipped, covered or hard to read, in every pane and window as it stands in the running program.
 ///
@@ -36,6 +40,7 @@ private Q_SLOTS:
     void focusIsSeen_data() { addLooks(); }
     void focusIsSeen();
     void smallDisplay();
+    void theHelpNamesWhatIsThere();
     void cleanup();
 
 private:
@@ -225,6 +230,88 @@ void LooksTest::smallDisplay()
         };
         throughSideWindows(form);
     });
+}
+
+static QString plainCaption(QString text)
+{
+    static const QRegularExpression ending(QStringLiteral("(\\.\\.\\.| ?:)$"));
+    return text.remove(QLatin1Char('&')).simplified().remove(ending);
+}
+
+/// What one can read in @p window, also where lines are broken or a list is closed.
+static QStringList captionsOf(QWidget &window)
+{
+    QStringList found;
+    for (const PaintedText &painted : PaintedTexts::of(window))
+        found << painted.text;
+    for (const QObject *each : window.findChildren<QObject *>()) {
+        found << each->property("text").toString();
+        if (const auto *list = qobject_cast<const RowListView *>(each)) {
+            for (const ListColumn &column : list->columns())
+                found << column.title;
+        }
+        if (const auto *choice = qobject_cast<const QComboBox *>(each)) {
+            for (int item = 0; item < choice->count(); ++item)
+                found << choice->itemText(item);
+        }
+        if (const auto *tabs = qobject_cast<const QTabBar *>(each)) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                found << tabs->tabText(tab);
+        }
+    }
+    std::transform(found.begin(), found.end(), found.begin(), plainCaption);
+    return found;
+}
+
+// The captions that the help has in bold type exist, and it names every command and every key.
+void LooksTest::theHelpNamesWhatIsThere()
+{
+    const ProgramFolder folder;
+    folder.setOption(56, "1");    // the tip
+    QMap<QString, QString> named; // captions and, on the page of the keys, cells: with their page
+    for (const HelpBook::Topic &topic : HelpBook::contents()) {
+        QXmlStreamReader page(readFile(QLatin1Char(':') + HelpBook::address(topic.page).path()));
+        while (!page.atEnd()) {
+            page.readNextStartElement();
+            const bool isCaption = page.isStartElement() && page.attributes().hasAttribute("class");
+            const bool isKey = page.isStartElement() && page.name() == u"td" && topic.page == "keyboard.html";
+            if (isCaption || isKey) {
+                const QString text = page.readElementText(QXmlStreamReader::IncludeChildElements);
+                for (const QString &part : text.split(QLatin1String(isKey ? ", " : " > ")))
+                    named[plainCaption(part)] = isKey ? QString() : topic.page;
+            }
+        }
+    }
+    QStringList found;
+    QStringList missing;
+    walk(folder, [&](Form1 &form) {
+        const auto look = [&](QWidget &window) { found << captionsOf(window); };
+        look(*Walk::sideWindow(form));
+        Walk::sideWindow(form)->close();
+        for (const QAction *action : form.findChildren<QAction *>()) {
+            QStringList texts{plainCaption(action->text())};
+            for (const QKeySequence &key : action->shortcuts())
+                texts << key.toString();
+            for (const QString &text : texts) {
+                if (!action->objectName().isEmpty() && !text.isEmpty() && !named.contains(text))
+                    missing << text;
+            }
+        }
+        control(form, "Command7(25)").click();
+        Walk::throughPanes(
+            form, [&] { look(form); }, true);
+        m_lookAt = look;
+        throughSideWindows(form);
+        for (const char *action : {"actMolarMass", "actStock"})
+            openAndLook(form, [&] { form.findChild<QAction *>(QLatin1String(action))->trigger(); });
+        for (QWidget *window : QApplication::topLevelWidgets()) // the menu of the tray
+            look(*window);
+    });
+    for (auto caption = named.cbegin(); caption != named.cend(); ++caption) {
+        if (!caption->isEmpty() && !found.contains(caption.key()))
+            missing << *caption + ": " + caption.key();
+    }
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
 }
 
 void LooksTest::tipAndSplash()
