@@ -84,27 +84,6 @@ private Q_SLOTS:
         QCOMPARE(message(), "Please leave 1 empty field to perform calculation");
     }
 
-    void tabLeadsThroughTheFieldsOfATabInReadingOrder()
-    {
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-        const char *const orders[]{
-            "3 4 5",
-            "3 4 5",
-            "3 4 5",
-            "7(6) 7(7) 7(8) 7(9) 7(10)",
-            "7(0) 7(1) 7(4) 7(2) 7(3) 7(5)",
-            "Option10(3) 7(11) 7(12) 7(13) 7(14)", // a choice of the liquid empties the fields
-        };
-        for (int tab = 6; tab >= 1; --tab) {
-            clickTab("TabStrip4", tab);
-            QCOMPARE(focused(), "TabStrip4");
-            for (const QString &next : QString(orders[tab - 1]).split(' ')) {
-                press(Qt::Key_Tab);
-                QCOMPARE(focused().remove("TextBoxM"), next);
-            }
-        }
-    }
-
     void noUnitsAreShownWithoutTheirTitle()
     {
         for (int tab = 7; tab >= 1; --tab) {
@@ -236,10 +215,6 @@ private Q_SLOTS:
         field("TextBoxM1").selectAll();
         press(Qt::Key_Delete);
         QCOMPARE(text("TextBoxM2"), "0");
-        for (const char *next : {"List7", "TextBoxM2", "List8"}) {
-            press(Qt::Key_Tab);
-            QCOMPARE(focused(), next);
-        }
         clickTab("TabStrip3", 1);
         QCOMPARE(get<QListWidget>(*m_window, "List1").currentRow(), 12);
     }
