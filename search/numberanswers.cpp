@@ -73,7 +73,7 @@ NumberAnswers::NumberAnswers(const DataStore &store) : m_compounds(Places::all()
 
 void NumberAnswers::addColumns(size_t number, size_t position, const DataStore &store)
 {
-    const Quantity &quantity = NumberGrammar::quantities()[number];
+    const SoughtQuantity &quantity = NumberGrammar::quantities()[number];
     const ListPlace &place = Places::all()[position];
     int solvent = 0;
     for (const AnswerColumn &each : place.columns) {
@@ -90,12 +90,12 @@ void NumberAnswers::addColumns(size_t number, size_t position, const DataStore &
 
 void NumberAnswers::addNumbers(int row, const ListPlace &place, const DataStore &store, Column &column)
 {
-    const Quantity &quantity = NumberGrammar::quantities()[column.quantity];
+    const SoughtQuantity &quantity = NumberGrammar::quantities()[column.quantity];
     const QLatin1StringView only(quantity.only);
     if (!only.isEmpty() && !text(place, store, row, 0).contains(only, Qt::CaseInsensitive))
         return;
     const QString cell = text(place, store, row, column.cell);
-    const double strength = quantity.match == Quantity::Peak ? strengthOf(cell) : 0;
+    const double strength = quantity.match == SoughtQuantity::Peak ? strengthOf(cell) : 0;
     for (const NumberSpan &span : NumberSpan::inCell(cell))
         column.numbers.push_back({span, strength, row});
 }
@@ -105,14 +105,14 @@ void NumberAnswers::addHits(const NumberQuery &query, int number, std::vector<Hi
     const NumberQuery::Term &term = query.terms[number];
     double scale = 0;
     for (const Column &column : m_columns) {
-        const Quantity &quantity = NumberGrammar::quantities()[column.quantity];
+        const SoughtQuantity &quantity = NumberGrammar::quantities()[column.quantity];
         if (!term.quantities.test(column.quantity) || (query.solvent >= 0 && column.solvent != query.solvent))
             continue;
         scale = scale > 0 ? scale : quantity.tolerance > 0 ? quantity.tolerance : 1;
         for (const Number &each : column.numbers) {
             if (each.span.gapTo(term.span) > quantity.tolerance + RoundingError)
                 continue;
-            const double distance = quantity.match == Quantity::Peak
+            const double distance = quantity.match == SoughtQuantity::Peak
                                         ? -each.strength
                                         : std::abs(each.span.middle() - term.span.middle()) / scale;
             const int compound =

@@ -8,10 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using enum Quantity::Match;
+using enum SoughtQuantity::Match;
 
 // clang-format off
-constexpr Quantity Quantities[]{
+constexpr SoughtQuantity Quantities[]{
     {"1H shift", "2.05 CDCl3", "1H; H1; proton; NMR; shift; δ", "ppm", 0.05, Near, "", "ListView4"},
     {"13C shift", "13C 29.9 acetone", "13C; C13; carbon; NMR; shift; δ", "ppm", 0.5, Near, "", "ListView5"},
     {"m/z", "m/z 58 43", "m/z; mz; m/e; e/m", "", 0.4, Peak, "m/z"},
@@ -50,17 +50,17 @@ constexpr UnitMultiple Multiples[]{{"kDa", 1000}, {"mV", 0.001}};
 
 } // namespace
 
-bool Quantity::hasSolvents() const
+bool SoughtQuantity::hasSolvents() const
 {
     return unit() == u"ppm";
 }
 
-QString Quantity::unit() const
+QString SoughtQuantity::unit() const
 {
     return QString::fromUtf8(units).section(u"; "_s, 0, 0);
 }
 
-bool Quantity::isIn(const ListPlace &place, const AnswerColumn &column) const
+bool SoughtQuantity::isIn(const ListPlace &place, const AnswerColumn &column) const
 {
     const std::string_view onlyList = list;
     if (!onlyList.empty() && onlyList != place.list)
@@ -70,7 +70,7 @@ bool Quantity::isIn(const ListPlace &place, const AnswerColumn &column) const
                        : ("; " + all + ";").find("; " + std::string(column.label) + ";") != std::string::npos;
 }
 
-QString Quantity::scope() const
+QString SoughtQuantity::scope() const
 {
     switch (match) {
     case Inside:
@@ -83,14 +83,14 @@ QString Quantity::scope() const
     return (u"within "_s + Numbers::formatLocal(tolerance) + u' ' + unit()).trimmed();
 }
 
-QString Quantity::order() const
+QString SoughtQuantity::order() const
 {
     return match == Near   ? u"nearest first"_s
            : match == Peak ? u"strongest first"_s
                            : u"nearest middle first"_s;
 }
 
-std::span<const Quantity> NumberGrammar::quantities()
+std::span<const SoughtQuantity> NumberGrammar::quantities()
 {
     return Quantities;
 }

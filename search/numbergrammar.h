@@ -6,7 +6,7 @@
 #include <span>
 
 /// A quantity that is looked up by its number: one line of the grammar.
-struct Quantity
+struct SoughtQuantity
 {
     enum Match {
         Near,   ///< within the tolerance, the nearest first
@@ -55,7 +55,7 @@ struct UnitMultiple
 namespace NumberGrammar {
 
 /// At most 32.
-std::span<const Quantity> quantities();
+std::span<const SoughtQuantity> quantities();
 std::span<const NmrSolvent> solvents();
 std::span<const UnitMultiple> multiples();
 

@@ -53,7 +53,7 @@ QHash<QString, Token> makeVocabulary()
     QHash<QString, Token> vocabulary;
     for (const QString &filler : phrases(NumberGrammar::Fillers))
         vocabulary[filler] = {};
-    for (size_t index = 0; const Quantity &quantity : NumberGrammar::quantities()) {
+    for (size_t index = 0; const SoughtQuantity &quantity : NumberGrammar::quantities()) {
         for (const QString &unit : phrases(quantity.units)) {
             Token &token = vocabulary[folded(unit)];
             token.quantities.set(index);
@@ -142,10 +142,10 @@ void moveWordsToFront(QList<Token> &tokens)
     std::rotate(tokens.begin(), first, std::find_if_not(first, tokens.end(), isWord));
 }
 
-Quantities quantitiesThat(bool (*has)(const Quantity &))
+Quantities quantitiesThat(bool (*has)(const SoughtQuantity &))
 {
     Quantities found;
-    for (size_t index = 0; const Quantity &quantity : NumberGrammar::quantities())
+    for (size_t index = 0; const SoughtQuantity &quantity : NumberGrammar::quantities())
         found.set(index++, has(quantity));
     return found;
 }
@@ -153,12 +153,12 @@ Quantities quantitiesThat(bool (*has)(const Quantity &))
 // What a number without a word may be, as far as a unit says so.
 Quantities withoutWord()
 {
-    return quantitiesThat([](const Quantity &quantity) { return *quantity.only == '\0'; });
+    return quantitiesThat([](const SoughtQuantity &quantity) { return *quantity.only == '\0'; });
 }
 
 Quantities shifts()
 {
-    return quantitiesThat([](const Quantity &quantity) { return quantity.hasSolvents(); });
+    return quantitiesThat([](const SoughtQuantity &quantity) { return quantity.hasSolvents(); });
 }
 
 /// Builds the query from its tokens.
@@ -235,7 +235,7 @@ template<class Text>
 QStringList each(Quantities quantities, Text text)
 {
     QStringList texts;
-    for (size_t index = 0; const Quantity &quantity : NumberGrammar::quantities()) {
+    for (size_t index = 0; const SoughtQuantity &quantity : NumberGrammar::quantities()) {
         if (quantities.test(index++))
             texts << std::invoke(text, quantity);
     }
@@ -246,8 +246,8 @@ QStringList each(Quantities quantities, Text text)
 QString wordsOf(const QList<Term> &terms, const QString &solvent)
 {
     const Quantities quantities = terms.constFirst().quantities;
-    QStringList names = each(quantities, &Quantity::name);
-    QStringList scopes = each(quantities, &Quantity::scope);
+    QStringList names = each(quantities, &SoughtQuantity::name);
+    QStringList scopes = each(quantities, &SoughtQuantity::scope);
     if (scopes.count(scopes.constFirst()) == scopes.size()) {
         names = {joined(names, u" or "_s)};
         scopes.resize(1);
@@ -256,11 +256,11 @@ QString wordsOf(const QList<Term> &terms, const QString &solvent)
     for (const Term &term : terms)
         numbers << term.number;
     const QString typed = terms.constLast().unit;
-    const QString unit = typed.isEmpty() ? each(quantities, &Quantity::unit).constFirst() : typed;
+    const QString unit = typed.isEmpty() ? each(quantities, &SoughtQuantity::unit).constFirst() : typed;
     names.first() += u' ' + (joined(numbers, u" and "_s) + u' ' + unit).trimmed() + solvent;
     for (qsizetype index = 0; index < names.size(); ++index)
         names[index] += u", "_s + scopes[index];
-    return names.join(u", or "_s) + u", "_s + each(quantities, &Quantity::order).constFirst();
+    return names.join(u", or "_s) + u", "_s + each(quantities, &SoughtQuantity::order).constFirst();
 }
 
 } // namespace

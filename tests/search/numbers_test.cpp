@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         const QString page =
             QString::fromUtf8(readFile(QStringLiteral(ALEMBRA_SOURCE "/data/help/search.html")));
-        for (const Quantity &quantity : NumberGrammar::quantities()) {
+        for (const SoughtQuantity &quantity : NumberGrammar::quantities()) {
             QString row = QString("<tr><td>%1</td><td>%2</td><td>%3</td><td>%4</td><td>%5, %6</td></tr>")
                               .arg(quantity.name, quantity.example, quantity.words, quantity.units,
                                    quantity.scope(), quantity.order());
