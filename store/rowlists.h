@@ -47,17 +47,17 @@ struct RowLists final
 
 /// Functions that pick a list by index, for tables of lists: `ListView3<7>`.
 template<int Index, class Lists>
-auto &ListView2(Lists &lists)
+auto ListView2(Lists &lists) -> decltype((lists.ListView2[Index]))
 {
     return lists.ListView2[Index];
 }
 template<int Index, class Lists>
-auto &ListView3(Lists &lists)
+auto ListView3(Lists &lists) -> decltype((lists.ListView3[Index]))
 {
     return lists.ListView3[Index];
 }
 template<int Index, class Lists>
-auto &ListView7(Lists &lists)
+auto ListView7(Lists &lists) -> decltype((lists.ListView7[Index]))
 {
     return lists.ListView7[Index];
 }
