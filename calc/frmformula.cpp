@@ -9,7 +9,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -121,8 +120,9 @@ void frmFormula::show(const Formula &formula, const MolarMass &mass)
         hill += u", %1 is %2"_s.arg(group, FormulaGroups::formula(group));
     lblHill->setText(hill);
     for (const MassShare &share : mass.shares) {
-        auto *row = new QTreeWidgetItem(lstShares, {share.symbol, Numbers::formatLocal(share.count),
-                                                    QLocale().toString(share.percent, 'f', 2)});
+        auto *row = new QTreeWidgetItem(
+            lstShares, {share.symbol, Numbers::formatLocal(share.count),
+                        QString::number(share.percent, 'f', 2).replace(u'.', Numbers::decimalPoint())});
         row->setTextAlignment(1, Qt::AlignRight);
         row->setTextAlignment(2, Qt::AlignRight);
     }

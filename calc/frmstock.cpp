@@ -44,11 +44,6 @@ double numberIn(const TextBoxM &field)
     return Numbers::parseLocal(field.text()).value_or(0);
 }
 
-QString fourDigits(double number)
-{
-    return Numbers::formatLocal(QString::number(number, 'g', 4).toDouble());
-}
-
 QLayout *line(std::initializer_list<QWidget *> widgets)
 {
     auto *row = new QHBoxLayout;
@@ -180,7 +175,7 @@ void frmStock::answer()
     const Stock stock{numberIn(*txtPercent), numberIn(*txtDensity), numberIn(*txtMolarMass)};
     if (!stock.isPossible())
         return;
-    lblMolarity->setText(fourDigits(stock.molarity()) + u" mol/L"_s);
+    lblMolarity->setText(Numbers::formatLocal(stock.molarity(), 4) + u" mol/L"_s);
     if (volume() <= 0)
         return;
     answerWish(stock);
@@ -212,7 +207,7 @@ void frmStock::answerOffer(const Stock &stock)
         lblMade->setText(u"more is taken than the volume holds"_s);
         return;
     }
-    lblMade->setText(u"%1 mol/L in %2"_s.arg(fourDigits(stock.concentrationOf(taken, volume())),
+    lblMade->setText(u"%1 mol/L in %2"_s.arg(Numbers::formatLocal(stock.concentrationOf(taken, volume()), 4),
                                              Glassware::exactVolume(volume())));
 }
 

@@ -43,22 +43,18 @@ const Step &stepFor(double amount, std::span<const Step> steps)
     return steps[i];
 }
 
-QString text(double number, const Step &step)
-{
-    return Numbers::formatLocal(number) + u' ' + QString::fromUtf8(step.name);
-}
-
 QString rounded(double amount, std::span<const Step> steps)
 {
     const Step &step = stepFor(amount, steps);
     const double times = step.unit / step.rounding; // whole, so that no binary remainder shows
-    return text(std::round(amount / step.rounding) / times, step);
+    return Numbers::formatLocal(std::round(amount / step.rounding) / times) + u' ' +
+           QString::fromUtf8(step.name);
 }
 
 QString exact(double amount, std::span<const Step> steps)
 {
     const Step &step = stepFor(amount, steps);
-    return text(QString::number(amount / step.unit, 'g', 4).toDouble(), step);
+    return Numbers::formatLocal(amount / step.unit, 4) + u' ' + QString::fromUtf8(step.name);
 }
 
 } // namespace

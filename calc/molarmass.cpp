@@ -1,6 +1,7 @@
 #include "calc/molarmass.h"
 
-#include <QLocale>
+#include "core/numbers.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,5 @@ MolarMass MolarMass::of(const Formula &formula, const AtomicMasses &masses)
 
 QString MolarMass::text() const
 {
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(value, 'f', decimals);
+    return QString::number(value, 'f', decimals).replace(u'.', Numbers::decimalPoint());
 }

@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Numbers::formatLocal;
+
 constexpr double MillilitresPerLitre = 1000;
 
 /// The positive numbers of the fields.
@@ -38,11 +40,6 @@ QString litres(double volume)
     return Glassware::volume(volume * MillilitresPerLitre);
 }
 
-QString digits(double number, int significant)
-{
-    return Numbers::formatLocal(QString::number(number, 'g', significant).toDouble());
-}
-
 // "83.3 mmol/L": the unit that leaves at least one digit before the point.
 QString withPrefix(double number, const QString &unit)
 {
@@ -55,7 +52,7 @@ QString withPrefix(double number, const QString &unit)
     const auto *prefix = std::begin(Prefixes);
     while (number < prefix->factor && prefix + 1 != std::end(Prefixes))
         ++prefix;
-    return digits(number / prefix->factor, 4) + u' ' + prefix->text.toString() + unit;
+    return formatLocal(number / prefix->factor, 4) + u' ' + prefix->text.toString() + unit;
 }
 
 } // namespace
@@ -80,12 +77,12 @@ QString PlainAnswer::dilution(const FieldTexts &texts)
     if (!figures.has({Vi, Vf}) || figures[Vi] > figures[Vf])
         return {};
     const QString amounts = u"%1, made up to %2; 1 in %3"_s.arg(litres(figures[Vi]), litres(figures[Vf]),
-                                                                digits(figures[Vf] / figures[Vi], 3));
+                                                                formatLocal(figures[Vf] / figures[Vi], 3));
     const double before = figures[Ci] * figures[Vi];
     const double after = figures[Cf] * figures[Vf];
     if (figures.has({Ci, Cf}) && std::abs(before - after) > Tolerance * after)
-        return amounts + u". Attention: Ci · Vi is %1 mol, Cf · Vf is %2 mol"_s.arg(digits(before, 4),
-                                                                                    digits(after, 4));
+        return amounts + u". Attention: Ci · Vi is %1 mol, Cf · Vf is %2 mol"_s.arg(formatLocal(before, 4),
+                                                                                    formatLocal(after, 4));
     return amounts;
 }
 
@@ -95,7 +92,7 @@ QString PlainAnswer::fractions(const FieldTexts &texts)
     if (!figures.has({Xn1, Xm1}) || figures[Xn1] > 1 || figures[Xm1] > 1)
         return {};
     const auto both = [](double share) {
-        return u"%1 % and %2 %"_s.arg(digits(100 * share, 3), digits(100 * (1 - share), 3));
+        return u"%1 % and %2 %"_s.arg(formatLocal(100 * share, 3), formatLocal(100 * (1 - share), 3));
     };
     return u"By amount %1, by mass %2"_s.arg(both(figures[Xn1]), both(figures[Xm1]));
 }

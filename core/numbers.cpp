@@ -58,6 +58,11 @@ QString Numbers::formatLocal(double number)
     return formatInvariant(number).replace(u'.', decimalPoint());
 }
 
+QString Numbers::formatLocal(double number, int significantDigits)
+{
+    return formatLocal(QString::number(number, 'g', significantDigits).toDouble());
+}
+
 std::optional<double> Numbers::parseInvariant(QStringView text)
 {
     return parse(invariantLocale(), text);

@@ -16,6 +16,7 @@ namespace Numbers {
 /// blanks are rejected, as is a number beyond the range of a double.
 std::optional<double> parseLocal(QStringView text);
 QString formatLocal(double number);
+QString formatLocal(double number, int significantDigits);
 
 /// RuntimeError 13 if @p text is not a number.
 double requireLocal(const QString &text);

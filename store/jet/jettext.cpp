@@ -105,7 +105,7 @@ QString singleText(float number)
 {
     if (!std::isfinite(number))
         jetDamage("a number is not finite");
-    return Numbers::formatLocal(QByteArray::number(double(number), 'g', 7).toDouble());
+    return Numbers::formatLocal(double(number), 7);
 }
 
 // On day 0 only the time, at midnight only the date, else both. Before day 0 the time of day still counts
