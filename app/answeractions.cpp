@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A user's own database may hold anything: an element without a mass is none for formulas.
+// In a user's own database an element may have no mass; formulas cannot contain it then.
 AtomicMasses atomicMasses(const MemoryTables &tables)
 {
     AtomicMasses masses;

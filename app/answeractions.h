@@ -15,7 +15,7 @@ class AnswerActions final : public QObject
     Q_OBJECT
 
 public:
-    /// Everything given outlives it; @p form1 is the main window.
+    /// All references outlive this; @p form1 is the main window.
     AnswerActions(const OwnActions &actions, const Module1 &module, const DataStore &store, QWidget &form1);
 
     /// The pane whose fields take a molar mass, and whose buttons open the windows too.

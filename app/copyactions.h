@@ -27,5 +27,5 @@ private:
     QWidget &m_window;
     QAction &m_copyRow;
     QAction &m_copyTable;
-    QPointer<RowListView> m_focused; ///< or was before the menu bar
+    QPointer<RowListView> m_focused; ///< or had it before the menu bar
 };

@@ -33,7 +33,7 @@ void repeatTitles(const QTextFrame &frame)
 
 PaperReport::PaperReport(const QByteArray &page)
 {
-    // Browsers take the widths of columns as wishes. This layout obeys them and breaks words.
+    // Browsers treat column widths as a hint. This layout obeys them and breaks words.
     static const QRegularExpression columnWidth(uR"((?<=<td) width="\d+%")"_s);
     setDefaultFont(QFont(QGuiApplication::font().family(), PointSize));
     setHtml(CodePage::decode(page).remove(columnWidth));

@@ -3,8 +3,8 @@
 #include <QPageLayout>
 #include <QTextDocument>
 
-/// A report for paper, from the page that the export writes: columns as wide as their texts need, their
-/// titles on each sheet, and small pictures in the rows.
+/// A report for printing, made from the exported page: columns as wide as their texts, titles repeated on
+/// each sheet, and small pictures in the rows.
 class PaperReport final : public QTextDocument
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class PaperReport final : public QTextDocument
 public:
     explicit PaperReport(const QByteArray &page);
 
-    /// A4 across.
+    /// A4, landscape.
     static QPageLayout pageLayout();
 
     /// @p page as a PDF file.

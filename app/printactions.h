@@ -16,7 +16,7 @@ class PrintActions final : public QObject
 public:
     using Context = std::function<ReportContext()>;
 
-    /// @p onShow tells what the main window @p form1 shows. Everything else outlives it.
+    /// @p onShow returns what the main window @p form1 shows. All references outlive this.
     PrintActions(const OwnActions &actions, ReportSave &reports, Context onShow, QWidget &form1);
 
     /// Enables both if there is a report for @p shown.

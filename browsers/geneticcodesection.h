@@ -21,7 +21,7 @@ class GeneticCodeSection final : public QWidget
 public:
     GeneticCodeSection(DataStore &store, Desktop &desktop, QWidget *parent);
 
-    /// The amino acid on show, chosen or found.
+    /// The amino acid shown, chosen or found.
     TableRow currentRow() const;
 
 private:

@@ -5,14 +5,14 @@
 #include <QStringList>
 #include <variant>
 
-/// A place in a formula that cannot be read, and why.
+/// The position at which a formula cannot be read, and the reason.
 struct FormulaError
 {
     int position = 0; ///< index into the typed text; its length if something is missing at the end
     QString reason;
 };
 
-/// A chemical formula, taken apart.
+/// A parsed chemical formula.
 struct Formula
 {
     QMap<QString, double> atoms; ///< by symbol, "D" and "T" for the isotopes of hydrogen; never 0

@@ -16,14 +16,14 @@ struct MassShare
     double percent; ///< of the mass
 };
 
-/// What a formula weighs.
+/// The molar mass of a formula.
 struct MolarMass
 {
-    double value;            ///< g/mol; the mass of the electrons that a charge adds or takes is left out
-    int decimals;            ///< as many as the least exact atomic mass in it carries
+    double value;            ///< g/mol; without the mass of the electrons of a charge
+    int decimals;            ///< those of the least exact atomic mass
     QList<MassShare> shares; ///< in Hill order
 
-    /// Of a formula whose elements all have a mass in @p masses; D and T have theirs in any case.
+    /// @p masses must have all elements of the formula, except D and T.
     static MolarMass of(const Formula &formula, const AtomicMasses &masses);
 
     /// "198.17", with the decimal separator of the user's locale.

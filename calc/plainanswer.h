@@ -2,8 +2,8 @@
 
 #include "calc/calcfields.h"
 
-/// What the fields of a tab say, in the amounts of the bench: the line under them. Empty where they do not
-/// say enough.
+/// The line under the fields of a tab: their values in amounts that can be measured at the bench. Empty if
+/// values are missing.
 namespace PlainAnswer {
 
 /// "20.8 mmol in 250 mL: 83.3 mmol/L"

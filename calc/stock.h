@@ -4,7 +4,7 @@
 #include <QString>
 #include <optional>
 
-/// A concentrated reagent as its bottle says.
+/// A concentrated reagent, with the figures on its bottle.
 struct Stock
 {
     double percent = 0;   ///< by mass
@@ -23,7 +23,7 @@ struct Stock
     /// mol/L of @p taken mL of it in @p volume mL.
     double concentrationOf(double taken, double volume) const { return molarity() * taken / volume; }
 
-    /// Every figure above 0, and at most 100 per cent.
+    /// All figures are above 0, and the per cent at most 100.
     bool isPossible() const { return percent > 0 && percent <= 100 && density > 0 && molarMass > 0; }
 };
 

@@ -4,14 +4,14 @@
 
 class JetFile;
 
-/// What the load steps miss in a database of another release, in words for a message.
+/// What the load steps do not find in a database of another release, worded for a message.
 namespace DatabaseGaps {
 
-/// Tables and columns that are not there: their lists stay empty.
+/// Missing tables and columns: their lists stay empty.
 QStringList missing(const JetFile &database);
 
-/// Tables that are cut into groups by row number and have another number of rows: some rows are then in the
-/// list of a neighbouring group.
+/// Tables that are cut into groups by row number and have a different number of rows, so that some rows are
+/// in the list of a neighbouring group.
 QStringList otherRowCounts(const JetFile &database);
 
 } // namespace DatabaseGaps

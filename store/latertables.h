@@ -6,8 +6,8 @@ class DatabaseRecovery;
 class TableLoader;
 struct DataStore;
 
-/// The four tables that a start leaves unread, resistors and reactions (load steps 32 to 35). They are read
-/// when the user asks for them.
+/// The four tables that are not read at start-up, of resistors and reactions (load steps 32 to 35). They are
+/// read when the user asks for them.
 class LaterTables final : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     void forget();
 
 Q_SIGNALS:
-    /// What areRead() says has changed.
+    /// The result of areRead() has changed.
     void changed();
 
 private:

@@ -48,7 +48,7 @@ std::optional<RowRemarks::Document> RowRemarks::document(const QString &key)
 {
     static const QJsonObject sources = remarks()["sources"_L1].toObject();
     for (auto source = sources.begin(); source != sources.end(); ++source) {
-        // "MSBNK-*" stands for all keys that begin so.
+        // "MSBNK-*" matches all keys that begin with it.
         const QString name = source.key();
         if (key != name && !(name.endsWith(u'*') && key.startsWith(name.chopped(1))))
             continue;

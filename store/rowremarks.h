@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// What is known of the delivered rows and their sources beside the tables: made by the build from
+/// What is known about the delivered rows and their sources apart from the tables. The build makes it from
 /// data/sources.tsv, the tables and their notes.
 namespace RowRemarks {
 
@@ -15,13 +15,13 @@ struct Document
     QString clause;  ///< what the licence asks for, or "general", "unnamed", "own": see data/sources.tsv
 };
 
-/// The document that @p key of a `source` cell stands for.
+/// The document of the @p key of a `source` cell.
 std::optional<Document> document(const QString &key);
 
-/// Whether no value of the row has a document. False for a row that is not as delivered, here and below.
+/// Whether no value of the row has a document. False for a row that was added or changed.
 bool isGeneralKnowledge(const TableRow &row);
 
-/// Why somebody doubts the row; empty where nobody does.
+/// Why the row is in doubt; empty if it is not, or if it was added or changed.
 QString doubt(const TableRow &row);
 
 } // namespace RowRemarks

@@ -172,7 +172,7 @@ const QList<Step> &steps()
     return table;
 }
 
-// Where row @p row of the list of group @p group is in the table: behind the groups before it, or among the
+// Where row @p row of the list of group @p group is in the table: after the groups before it, or among the
 // rows that are left over after the last group.
 int placeInTable(const Step &step, int group, int row)
 {

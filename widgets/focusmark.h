@@ -5,8 +5,8 @@
 
 class QWidget;
 
-/// A ring around the control with the focus, which styles mark faintly or not at all. Push buttons have a
-/// mark of their own.
+/// A ring around the control with the focus, because styles mark it faintly or not at all. Push buttons have
+/// their own mark.
 ///
 /// One object serves all windows.
 class FocusMark final : public QObject

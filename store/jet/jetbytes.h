@@ -30,7 +30,7 @@ public:
     JetBytes mid(qsizetype at, qsizetype size) const
     {
         if (at < 0 || size < 0 || at > m_bytes.size() || size > m_bytes.size() - at)
-            jetDamage("a value lies outside its page or row");
+            jetDamage("a value is outside its page or row");
         return JetBytes(m_bytes.sliced(at, size));
     }
 

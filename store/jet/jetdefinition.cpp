@@ -85,7 +85,7 @@ void checkApart(const QList<JetColumn> &columns)
             if (one.number == other.number || one.name.compare(other.name, Qt::CaseInsensitive) == 0)
                 jetDamage("two columns of a table are the same");
             if (!one.isFixed && !other.isFixed && one.variableIndex == other.variableIndex)
-                jetDamage("two columns of a table stand in one place");
+                jetDamage("two columns of a table have the same place");
         }
     }
 }

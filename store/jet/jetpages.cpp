@@ -84,7 +84,7 @@ QString JetPages::password() const
 JetBytes JetPages::page(quint32 number, PageType type) const
 {
     if (number == 0 || number >= count())
-        jetDamage("a page number lies outside the file");
+        jetDamage("a page number is outside the file");
     const JetBytes page = JetBytes(m_file).mid(qsizetype(number) * PageSize, PageSize);
     if (page.u8(0) != type || page.u8(1) != 1)
         jetDamage("a page is not of the type that is expected");

@@ -46,7 +46,7 @@ std::optional<JetBytes> JetRow::cell(const JetColumn &column) const
     if (column.isFixed) {
         const int at = FixedAt + column.fixedOffset;
         if (at + column.length > m_fixedEnd)
-            jetDamage("a value lies outside the fixed part of its row");
+            jetDamage("a value is outside the fixed part of its row");
         return m_bytes.mid(at, column.length);
     }
     if (column.variableIndex >= m_variable)

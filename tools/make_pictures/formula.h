@@ -27,7 +27,7 @@ public:
     {
         double pixelsPerAngstrom;
         int fontPixels;
-        QColor mark = QColor(0xff, 0xd2, 0x66); ///< of the discs behind marked atoms
+        QColor mark = QColor(0xff, 0xd2, 0x66); ///< of the discs under marked atoms
     };
 
     /// Nothing if @p smiles is not a structure. It may bring labels and coordinates as CXSMILES; atoms with a
