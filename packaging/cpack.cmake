@@ -13,8 +13,8 @@ biochemistry laboratory: the periodic table with data and isotopes, tables on
 solvents, solutions and biomolecules, NMR and infrared charts, named reactions,
 solution calculators, unit conversions, physical constants and SI units.
 
-Tables can be searched and written as HTML reports. Every user has options and
-a copy of the database of their own.")
+Tables can be searched, saved as HTML or PDF and printed. Each user has their
+own options and their own copy of the database.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
