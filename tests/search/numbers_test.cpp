@@ -56,8 +56,8 @@ private Q_SLOTS:
             {"Carboxylic acids|C=O stretch (dimer), 1720-1680 cm-1; O-H stretch, 3300-2500 cm-1"});
         row("Mw 145", {"Promethium|Pm, M [145] g/mol"});
         row("66 kDa", {"High range, 29,000 - 200,000 Da|Serum albumin (bovine), mass 66,000 Da"});
-        row("−20 °C", {"Methanol + water (30:70) + dry ice|-20 °C", "Propionic acid|mp -20.5"});
-        row("ice -20", {"Ice + sodium chloride (3:1)|-21 °C"});
+        row("−20 °C", {"Methanol + water (30:70) + dry ice|cools to -20 °C", "Propionic acid|mp -20.5"});
+        row("ice -20", {"Ice + sodium chloride (3:1)|cools to -21 °C"});
     }
 
     void answersInTheirOrder()
