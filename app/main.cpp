@@ -1,13 +1,13 @@
 #include "app/program.h"
 #include "app/startagain.h"
 #include "core/desktop.h"
+#include "core/platform.h"
 #include "widgets/qtdesktop.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFont>
 #include <cstdio>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -68,7 +68,7 @@ int run(int &argc, char **argv)
     setFont(scale);
 
     const QString executables = QApplication::applicationDirPath();
-    const QString appFolder = QDir(arguments.value(1, executables)).absolutePath();
+    const QString appFolder = QDir(arguments.value(1, Platform::defaultFolder(executables))).absolutePath();
     const QString shippedFolder = appFolder == executables ? QString() : executables;
     QtDesktop desktop;
     int status = 1;
@@ -82,6 +82,6 @@ int main(int argc, char *argv[])
 {
     const int status = run(argc, argv);
     if (StartAgain::isWanted())
-        ::execv("/proc/self/exe", argv);
+        Platform::startAgain(argv);
     return status;
 }

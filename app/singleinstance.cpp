@@ -1,5 +1,7 @@
 #include "app/singleinstance.h"
 
+#include "core/platform.h"
+
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -12,19 +14,16 @@ namespace {
 constexpr int AnswerMilliseconds = 3000;
 constexpr char Answer = 1;
 
-QString socketPath(const QString &appFolder)
+QString nameFor(const QString &appFolder)
 {
     const QString whose = QDir::homePath() + u'\n' + QFileInfo(appFolder).canonicalFilePath();
     const QByteArray hash = QCryptographicHash::hash(whose.toUtf8(), QCryptographicHash::Sha256).toHex();
-    // No other user can put a socket into the session's folder.
-    const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const QDir place(QFileInfo(session).isDir() ? session : QDir::tempPath());
-    return place.absoluteFilePath(u"alembra-"_s + QLatin1StringView(hash.first(16)));
+    return u"alembra-"_s + QLatin1StringView(hash.first(16));
 }
 
 } // namespace
 
-SingleInstance::SingleInstance(const QString &appFolder) : m_socket(socketPath(appFolder))
+SingleInstance::SingleInstance(const QString &appFolder) : m_socket(Platform::socketPath(nameFor(appFolder)))
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);

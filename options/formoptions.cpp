@@ -1,5 +1,6 @@
 #include "options/formoptions.h"
 
+#include "core/buildsettings.h"
 #include "core/desktop.h"
 #include "core/module1.h"
 #include "options/databasetab.h"
@@ -30,7 +31,7 @@ Formoptions::Formoptions(Module1 &module, DataStore &store, Desktop &desktop, QW
 {
     setWindowTitle(u"Options"_s);
     applyGridLines();
-    for (const char *file : {"Data/Database_uk.mdb", "Alembra_uk"}) // the tabs need these files
+    for (const char *file : {"Data/Database_uk.mdb", BuildSettings::Executable}) // the tabs need these files
         FileFigures::fileLength(m_module.shippedFile(file));
 }
 

@@ -1,5 +1,6 @@
 #include "options/statisticstab.h"
 
+#include "core/buildsettings.h"
 #include "core/module1.h"
 #include "options/filefigures.h"
 #include "options/statistics.h"
@@ -119,7 +120,7 @@ void StatisticsTab::load()
         dataSize += folderSize(folder + u"/Data"_s);
     }
     Label27->setText(megabytes(size));
-    Label28->setText(kilobytes(fileLength(m_module.shippedFile(u"Alembra_uk"_s))));
+    Label28->setText(kilobytes(fileLength(m_module.shippedFile(BuildSettings::Executable))));
     Label29->setText(megabytes(dataSize));
     Label26->setText(kilobytes(fileLength(m_module.AppFolder + u"/Data/Database_uk.mdb"_s)));
 }

@@ -3,14 +3,11 @@
 #include "core/filelock.h"
 #include "core/module1.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 int FileAttributes::of(const QString &path)
 {
-    if (FileLock::forbids(FileLock::Access::Write, path))
-        return 0;
-    return QFile::permissions(path).testFlag(QFile::WriteOwner) ? Archive : Archive + ReadOnly;
+    return FileLock::forbids(FileLock::Access::Write, path) ? 0 : Platform::fileAttributes(path);
 }
 
 void ProbeFileLength(const QString &path, Module1 &module)

@@ -1,17 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "core/platform.h"
 
 struct Module1;
 
 /// Attributes of a file that a save would replace.
 namespace FileAttributes {
 
-inline constexpr int ReadOnly = 1;
-inline constexpr int Archive = 32;
+using Platform::Archive;
+using Platform::ReadOnly;
 
-/// `Archive`, plus `ReadOnly` if the permission bits do not let the owner write, whoever the user is. 0 if
-/// another process has locked the file.
+/// Platform::fileAttributes, but 0 if another process has locked the file.
 int of(const QString &path);
 
 } // namespace FileAttributes
