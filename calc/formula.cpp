@@ -44,6 +44,9 @@ QString plain(QString text)
     return text;
 }
 
+constexpr QStringView Opening = u"([{";
+constexpr QStringView Closing = u")]}";
+
 struct Charge
 {
     qsizetype start; ///< where its text begins
@@ -167,7 +170,7 @@ Parser::Atoms Parser::readUnits(QChar closing)
 
 Parser::Atoms Parser::readUnit()
 {
-    if (u"([{"_s.contains(peek()))
+    if (Opening.contains(peek()))
         return readBracket();
     if (const QString group = takeGroup(); !group.isEmpty()) {
         if (!m_formula.groups.contains(group))
@@ -176,7 +179,7 @@ Parser::Atoms Parser::readUnit()
     }
     if (!peek().isUpper())
         fail(m_at, peek().isDigit() ? u"a number needs an element before it"_s
-                   : u")]}"_s.contains(peek())
+                   : Closing.contains(peek())
                        ? u"this bracket was not opened"_s
                        : u"\"%1\" is no element; symbols begin with a capital"_s.arg(peek()));
     const qsizetype start = m_at++;
@@ -193,7 +196,7 @@ Parser::Atoms Parser::readBracket()
     const qsizetype opened = m_at;
     if (++m_depth > Deepest)
         fail(opened, u"more than %1 brackets in one another"_s.arg(Deepest));
-    const QChar closing = u")]}"_s[u"([{"_s.indexOf(m_text[m_at++])];
+    const QChar closing = Closing[Opening.indexOf(m_text[m_at++])];
     const Atoms atoms = readUnits(closing);
     if (m_at == m_end)
         fail(opened, u"this bracket is not closed"_s);

@@ -141,8 +141,10 @@ QWidget *HelpPages::buildSearch()
     QListWidget *list = makeList(u"lstHelpHits"_s, u"Pages with these words"_s, *m_words);
     connect(m_words, &QLineEdit::textChanged, list, [list](const QString &words) {
         showTopics(*list, HelpBook::search(words));
-        if (list->count() == 0 && !words.trimmed().isEmpty())
-            (new QListWidgetItem(u"No page has these words."_s, list))->setFlags(Qt::NoItemFlags);
+        if (list->count() == 0 && !words.trimmed().isEmpty()) {
+            auto *none = new QListWidgetItem(u"No page has these words."_s, list);
+            none->setFlags(Qt::NoItemFlags);
+        }
     });
     connect(list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem *item) {
         if (item)

@@ -34,7 +34,7 @@ public:
     void add(QWidget *part) { m_column->addWidget(part); }
     void add(QLayout *part) { m_column->addLayout(part); }
 
-    void open()
+    void showWithOk()
     {
         m_column->addWidget(makeOkButton(u"cmdOK"_s), 0, Qt::AlignRight);
         showAboveOwner();
@@ -326,12 +326,12 @@ void openCaptions(QWidget &form1)
         if (auto *Form2 = form1.findChild<QWidget *>(u"Form2"_s))
             Form2->close();
     });
-    legend->open();
+    legend->showWithOk();
 }
 
 void openJournals(const MemoryTables &tables, QWidget &form1)
 {
-    (new Journals(tables, form1))->open();
+    (new Journals(tables, form1))->showWithOk();
 }
 
 void openColourCode(QWidget &form1)
@@ -340,7 +340,7 @@ void openColourCode(QWidget &form1)
     legend->add(Controls::heading(u"Label3"_s, u"Color code"_s, legend));
     legend->add(Controls::label(u"Label2(3)"_s, u"Bond between Carbon (C) or Hydrogen (H) and:"_s, legend));
     legend->add(makeBonds(legend));
-    legend->open();
+    legend->showWithOk();
 }
 
 void openMnemonic(QWidget &form1)
@@ -348,5 +348,5 @@ void openMnemonic(QWidget &form1)
     auto *legend = new Legend("Formhelp4", u"Form3"_s, form1); // this caption is intended
     legend->add(Controls::heading(u"Label3"_s, u"Mnemonic:"_s, legend));
     legend->add(Controls::named(makeMnemonic(legend), u"Image3"_s));
-    legend->open();
+    legend->showWithOk();
 }
