@@ -78,7 +78,7 @@ private Q_SLOTS:
         QProcess extract;
         extract.start("extract_chmLib", {help, folder.path()});
         QVERIFY(extract.waitForFinished() && extract.exitCode() == 0);
-        for (const QString &file : filesIn(Source, {"*.html", "*.css", "*.hhc", "*.hhk"}))
+        for (const QString &file : filesIn(Source, {"*.html", "*.png", "*.css", "*.hhc", "*.hhk"}))
             QVERIFY2(readFile(folder.filePath(file)) == readFile(Source + file), qPrintable(file));
         // No time: the same pages give the same bytes.
         QCOMPARE(readFile(help).mid(16, 4), QByteArray(4, '\0'));
@@ -100,7 +100,7 @@ private Q_SLOTS:
             QVERIFY(std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte > 0; }));
         }
         for (const QString &link : links + values(m_index, Local))
-            QVERIFY2(m_pages.contains(link), qPrintable(link));
+            QVERIFY2((m_pages + m_pictures).contains(link), qPrintable(link));
         QStringList contents = values("alembra_help_uk.hhc", Local);
         for (const QString &page : contents)
             QVERIFY2(Page(page).title == values("alembra_help_uk.hhc", Name)[contents.indexOf(page)],
@@ -121,9 +121,9 @@ private Q_SLOTS:
         QCOMPARE(HelpBook::index().size(), values(m_index, Local).size());
         const QList<HelpBook::Topic> contents = HelpBook::contents();
         QCOMPARE(contents.size(), m_pages.size());
-        for (const HelpBook::Topic &topic : contents)
-            QVERIFY2(readFile(':' + HelpBook::address(topic.page).path()) == readFile(Source + topic.page),
-                     qPrintable(topic.page));
+        for (const QString &file : m_pages + m_pictures)
+            QVERIFY2(readFile(':' + HelpBook::address(file).path()) == readFile(Source + file),
+                     qPrintable(file));
         const QList<HelpBook::Topic> found = HelpBook::search("tryptophan UGG");
         QCOMPARE(found.size(), 1);
         QCOMPARE(found.constFirst().page, QString("geneticcode.html"));
@@ -222,6 +222,7 @@ private Q_SLOTS:
 
 private:
     const QStringList m_pages = filesIn(Source, {"*.html"});
+    const QStringList m_pictures = filesIn(Source, {"*.png"});
     const QString m_index = "alembra_help_uk.hhk";
 };
 

@@ -1,8 +1,8 @@
 #include "tests/support/pictures.h"
 #include "tests/support/programfolder.h"
 
-/// Whether the panes and windows look as on the pictures in docs/screenshots, which people look at: take
-/// those anew (take_screenshots) after each change that can be seen, and look what has changed.
+/// Whether the panes and windows look as on the pictures in docs/screenshots and in the help, which people
+/// look at: take those anew (take_screenshots) after each change that can be seen, and look what has changed.
 class ScreenshotsTest final : public QObject
 {
     Q_OBJECT
@@ -10,7 +10,6 @@ class ScreenshotsTest final : public QObject
 private Q_SLOTS:
     void everyWindowLooksAsInTheDocumentation()
     {
-        const QString kept = QStringLiteral(ALEMBRA_SOURCE "/docs/screenshots/");
         const ProgramFolder program;
         program.setOption(56, "1"); // with the tip of the start, as it is delivered
         QTemporaryDir folder;
@@ -20,10 +19,13 @@ private Q_SLOTS:
         QVERIFY(screenshots.waitForFinished(-1)); // the test's own time is limited
         QCOMPARE(screenshots.exitCode(), 0);
         QStringList others;
-        for (const QString &name : QDir(kept).entryList({QStringLiteral("*.png")})) {
-            const int levels = difference(QImage(folder.filePath(name)), QImage(kept + name));
-            if (levels > Tolerance)
-                others << QStringLiteral("%1 by %2 levels").arg(name).arg(levels);
+        for (const char *pictures : {"/docs/screenshots", "/data/help"}) {
+            const QDir kept(ALEMBRA_SOURCE + QString(pictures));
+            for (const QString &name : kept.entryList({QStringLiteral("*.png")})) {
+                const int levels = difference(QImage(folder.filePath(name)), QImage(kept.filePath(name)));
+                if (levels > Tolerance)
+                    others << QStringLiteral("%1 by %2 levels").arg(name).arg(levels);
+            }
         }
         folder.setAutoRemove(others.isEmpty());
         QVERIFY2(others.isEmpty(), qPrintable(folder.path() + QStringLiteral(" differs in ") +
