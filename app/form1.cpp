@@ -7,6 +7,7 @@
 #include "app/panescroll.h"
 #include "app/placeswitch.h"
 #include "app/searchactions.h"
+#include "app/showinaction.h"
 #include "app/sourceaction.h"
 #include "browsers/biochemistrypane.h"
 #include "browsers/references.h"
@@ -45,6 +46,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
              const Scale &scale)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
       m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
+      m_csvAction(m_ownActions, m_listActions, module, desktop),
       m_scaleActions(m_ownActions, scale, laterTables, *this),
       m_answerActions(m_ownActions, module, store, *this),
       m_printActions(
@@ -65,13 +67,16 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     m_places = new PlaceSwitch(*this, *m_panes, [this](int id) { executeCommand(id); });
     connect(m_places, &PlaceSwitch::helpPageWanted, &m_help, &HelpOpener::openPage);
     m_history = std::make_unique<History>(m_ownActions, *m_places);
-    m_searchActions = std::make_unique<SearchActions>(m_ownActions, module, store, *m_history, *this);
+    m_searchActions =
+        std::make_unique<SearchActions>(m_ownActions, m_listActions, module, store, *m_history, *this);
     m_options = std::make_unique<OptionsHost>(
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
         *this);
     m_sourceAction =
-        std::make_unique<SourceAction>(m_ownActions, m_copyActions, *m_panes, module, desktop, *this);
+        std::make_unique<SourceAction>(m_ownActions, m_listActions, *m_panes, module, desktop, *this);
+    m_showInAction = std::make_unique<ShowInAction>(m_ownActions, m_listActions, *m_history, store.lists,
+                                                    module, desktop, *this);
     m_focusKeeper = std::make_unique<FocusKeeper>(*this, *m_panes);
     connect(&m_tray, &TrayIcon::commandWanted, this, &Form1::executeCommand);
     connect(&m_tray, &TrayIcon::donationPageWanted, this,
@@ -321,7 +326,7 @@ void Form1::updateCommands()
     const ReportContext shown = reportContext();
     m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(shown));
     m_commandBars.action(CommandId::Print).setEnabled(false);
-    m_copyActions.update();
+    m_listActions.update();
     m_printActions.update(shown);
 }
 

@@ -2,9 +2,10 @@
 
 #include "app/answeractions.h"
 #include "app/commandbars.h"
-#include "app/copyactions.h"
+#include "app/csvaction.h"
 #include "app/focuskeeper.h"
 #include "app/helpopener.h"
+#include "app/listactions.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
 #include "app/printactions.h"
@@ -28,6 +29,7 @@ class OptionsHost;
 class PlaceSwitch;
 class ReactionsPane;
 class SearchActions;
+class ShowInAction;
 class SourceAction;
 class SolventsPane;
 class SpectroscopyPane;
@@ -95,7 +97,8 @@ private:
 
     CommandBars m_commandBars{*this};
     OwnActions m_ownActions{*this};
-    CopyActions m_copyActions{m_ownActions, *this};
+    ListActions m_listActions{m_ownActions, *this};
+    CsvAction m_csvAction;
     HelpOpener m_help{m_module, m_desktop, m_ownActions.action(OwnAction::HelpPages)};
     ScaleActions m_scaleActions;
     AnswerActions m_answerActions;
@@ -115,6 +118,7 @@ private:
     std::unique_ptr<History> m_history;
     std::unique_ptr<SearchActions> m_searchActions;
     std::unique_ptr<SourceAction> m_sourceAction;
+    std::unique_ptr<ShowInAction> m_showInAction;
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;
     std::unique_ptr<OptionsHost> m_options;

@@ -1,6 +1,7 @@
 #include "app/searchactions.h"
 
 #include "app/history.h"
+#include "app/listactions.h"
 #include "app/ownactions.h"
 #include "calc/units.h"
 #include "core/module1.h"
@@ -8,6 +9,7 @@
 #include "sidewindows/frmsearch.h"
 #include "sidewindows/helpbook.h"
 #include "store/datastore.h"
+#include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QApplication>
@@ -28,14 +30,25 @@ QList<NamedPlaces> namesOutsideTheStore(const OptionSlots &slots)
     return all << pages;
 }
 
+QString selectedName(const ListActions &lists)
+{
+    const RowListView *list = lists.list();
+    return list && list->selectedRow() >= 0 ? list->tableRow(list->selectedRow()).texts.value(0) : QString();
+}
+
 } // namespace
 
-SearchActions::SearchActions(const OwnActions &actions, const Module1 &module, const DataStore &store,
-                             History &history, QWidget &form1)
+SearchActions::SearchActions(const OwnActions &actions, const ListActions &lists, const Module1 &module,
+                             const DataStore &store, History &history, QWidget &form1)
     : m_module(module), m_store(store), m_history(history), m_form1(form1),
       m_searchAll(actions.action(OwnAction::SearchAll))
 {
     connect(&m_searchAll, &QAction::triggered, this, [this] { open({}); });
+    QAction &searchThis = actions.action(OwnAction::SearchThis);
+    connect(&searchThis, &QAction::triggered, this, [this, &lists] { open(selectedName(lists)); });
+    connect(&lists, &ListActions::changed, &searchThis, [this, &lists, &searchThis] {
+        searchThis.setEnabled(m_form1.isEnabled() && !selectedName(lists).isEmpty());
+    });
     for (const ListPlace &where : Places::all()) {
         if (where.rows)
             connect(&where.rows(store.lists), &RowList::reset, this, [this] { m_search.reset(); });

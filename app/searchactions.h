@@ -4,6 +4,7 @@
 #include <memory>
 
 class History;
+class ListActions;
 class OwnActions;
 class SearchEverything;
 class QAction;
@@ -11,7 +12,8 @@ class QWidget;
 struct DataStore;
 struct Module1;
 
-/// "Search everything" of the menu bar, with its window.
+/// "Search everything" of the menu bar, with its window, and "Search everything for this" of the menu Edit
+/// and of the lists' context menus, for the name of the selected row.
 ///
 /// The texts for it are prepared when the window is first opened, and again after the data have changed.
 class SearchActions final : public QObject
@@ -20,8 +22,8 @@ class SearchActions final : public QObject
 
 public:
     /// Everything given outlives it; @p form1 is the main window.
-    SearchActions(const OwnActions &actions, const Module1 &module, const DataStore &store, History &history,
-                  QWidget &form1);
+    SearchActions(const OwnActions &actions, const ListActions &lists, const Module1 &module,
+                  const DataStore &store, History &history, QWidget &form1);
 
     /// Opens the window with @p text in its field.
     void open(const QString &text);

@@ -1,6 +1,6 @@
 #include "app/sourceaction.h"
 
-#include "app/copyactions.h"
+#include "app/listactions.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
 #include "core/module1.h"
@@ -10,21 +10,12 @@
 #include "widgets/rowlistview.h"
 
 #include <QAction>
-#include <QApplication>
 
-SourceAction::SourceAction(const OwnActions &actions, const CopyActions &lists, const PaneSwitch &panes,
+SourceAction::SourceAction(const OwnActions &actions, const ListActions &lists, const PaneSwitch &panes,
                            const Module1 &module, Desktop &desktop, QWidget &form)
     : m_lists(lists), m_panes(panes), m_module(module), m_desktop(desktop), m_form(form)
 {
-    QAction &action = actions.action(OwnAction::WhereFrom);
-    action.setShortcutVisibleInContextMenu(true);
-    connect(&action, &QAction::triggered, this, &SourceAction::open);
-    // Lists are made when their pane is first shown. A right click gives the list the focus before its menu.
-    connect(qApp, &QApplication::focusChanged, this, [&action](QWidget *, QWidget *now) {
-        auto *list = qobject_cast<RowListView *>(now);
-        if (list && !list->actions().contains(&action))
-            list->addAction(&action);
-    });
+    connect(&actions.action(OwnAction::WhereFrom), &QAction::triggered, this, &SourceAction::open);
 }
 
 void SourceAction::open()

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-class CopyActions;
+class ListActions;
 class Desktop;
 class OwnActions;
 class PaneSwitch;
@@ -19,14 +19,14 @@ class SourceAction final : public QObject
 
 public:
     /// @p form is the main window.
-    SourceAction(const OwnActions &actions, const CopyActions &lists, const PaneSwitch &panes,
+    SourceAction(const OwnActions &actions, const ListActions &lists, const PaneSwitch &panes,
                  const Module1 &module, Desktop &desktop, QWidget &form);
 
 private:
     void open();
     TableRow rowInQuestion() const;
 
-    const CopyActions &m_lists;
+    const ListActions &m_lists;
     const PaneSwitch &m_panes;
     const Module1 &m_module;
     Desktop &m_desktop;

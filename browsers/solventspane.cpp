@@ -122,9 +122,10 @@ void SolventsPane::buildMiscibility()
 void SolventsPane::buildNmr()
 {
     const QList<ListColumn> shifts{
-        {"Chloroform", 90, Kind::Number}, {"Acetone", 68, Kind::Number},      {"DMSO", 60, Kind::Number},
-        {"Benzene", 74, Kind::Number},    {"Acetonitrile", 94, Kind::Number}, {"Methanol", 79, Kind::Number},
-        {"Water", 58, Kind::Number},
+        {"Chloroform", 90, Kind::Number, "ppm"},   {"Acetone", 68, Kind::Number, "ppm"},
+        {"DMSO", 60, Kind::Number, "ppm"},         {"Benzene", 74, Kind::Number, "ppm"},
+        {"Acetonitrile", 94, Kind::Number, "ppm"}, {"Methanol", 79, Kind::Number, "ppm"},
+        {"Water", 58, Kind::Number, "ppm"},
     };
     const QList<ListColumn> proton{{"Name", 264}, {"Proton", 98}, {"Peak", 50}};
     const QList<ListColumn> carbon{{"Name", 264}, {"Carbon", 148}};

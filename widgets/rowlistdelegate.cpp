@@ -105,6 +105,11 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         painter->drawLine(item.rect.bottomLeft(), item.rect.bottomRight());
         painter->drawLine(item.rect.topRight(), item.rect.bottomRight());
     }
+    // The cell that is copied. In the first column it needs no mark.
+    if (selected && item.state.testFlag(QStyle::State_HasFocus) && index.column() > 0) {
+        painter->setPen(item.palette.color(QPalette::HighlightedText));
+        painter->drawRect(item.rect.adjusted(1, 1, -2, -2));
+    }
     painter->restore();
 }
 

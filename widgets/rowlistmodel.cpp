@@ -6,11 +6,20 @@
 
 using namespace Qt::StringLiterals;
 
-QString ListColumn::shown(QString stored) const
+QString ListColumn::shown(const QString &stored) const
 {
-    if (!unit.isEmpty())
-        stored.remove(u' ' + unit);
-    return stored.isEmpty() ? whenEmpty : stored;
+    const QString text = withoutUnit(stored);
+    return text.isEmpty() ? whenEmpty : text;
+}
+
+QString ListColumn::withoutUnit(QString stored) const
+{
+    return unit.isEmpty() ? stored : stored.remove(u' ' + unit);
+}
+
+QString ListColumn::heading() const
+{
+    return unit.isEmpty() || title.contains(unit) ? title : u"%1 (%2)"_s.arg(title, unit);
 }
 
 RowListModel::RowListModel(const RowList &list, QList<ListColumn> columns, QObject *parent)

@@ -17,11 +17,16 @@ struct ListColumn
     QString title;
     int width; ///< logical pixels
     Kind kind = Kind::Text;
-    QString unit = {};      ///< left out of the cells: the title has it
+    QString unit = {};      ///< left out of the cells, which the title or the pane has
     QString whenEmpty = {}; ///< shown in an empty cell
 
     /// What a cell shows for the text @p stored.
-    QString shown(QString stored) const;
+    QString shown(const QString &stored) const;
+
+    QString withoutUnit(QString stored) const;
+
+    /// The title, with the unit.
+    QString heading() const;
 };
 
 /// One RowList as a model. Column 0 is the row's text, column n its sub-item n, as stored; views and screen

@@ -4,7 +4,6 @@
 #include "widgets/listnames.h"
 #include "widgets/rowlistdelegate.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -56,7 +55,6 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     setItemsExpandable(false);
     setUniformRowHeights(!anyWrapped(m_model->columns()));
     setAlternatingRowColors(true);
-    setAllColumnsShowFocus(true);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
@@ -68,29 +66,12 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     for (int column = 0; column < m_model->columnCount(); ++column)
         header()->resizeSection(column, m_model->columns()[column].width);
 
-    buildActions();
+    setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(&list, &RowList::gridLinesChanged, viewport(), qOverload<>(&QWidget::update));
     connect(this, &QTreeView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT rowClicked(index.row()); });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT rowDoubleClicked(index.row()); });
-}
-
-// The actions of the context menu; the shortcuts work while the list has the focus.
-void RowListView::buildActions()
-{
-    const auto add = [this](const QString &caption, const QKeySequence &shortcut,
-                            void (RowListView::*copy)()) {
-        auto *action = new QAction(caption, this);
-        action->setShortcut(shortcut);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        action->setShortcutVisibleInContextMenu(true);
-        connect(action, &QAction::triggered, this, copy);
-        addAction(action);
-    };
-    add(u"Copy &row"_s, QKeySequence(Qt::CTRL | Qt::Key_C), &RowListView::copyRow);
-    add(u"Copy &table"_s, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &RowListView::copyTable);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void RowListView::showAsRecipes()
@@ -127,13 +108,38 @@ QString RowListView::rowText(int row) const
     return cells.join(u'\t');
 }
 
-void RowListView::copyRow()
+QString RowListView::cellText() const
+{
+    return selectedRow() >= 0 ? currentIndex().data().toString() : QString();
+}
+
+QList<QStringList> RowListView::cells() const
+{
+    QStringList titles;
+    for (const ListColumn &column : columns())
+        titles << column.heading();
+    QList<QStringList> lines{titles};
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        QStringList &line = lines.emplace_back();
+        for (int column = 0; column < columns().size(); ++column)
+            line << columns()[column].withoutUnit(m_model->index(row, column).data().toString());
+    }
+    return lines;
+}
+
+void RowListView::copyCell() const
+{
+    if (selectedRow() >= 0)
+        QGuiApplication::clipboard()->setText(cellText());
+}
+
+void RowListView::copyRow() const
 {
     if (selectedRow() >= 0)
         copy(rowText(selectedRow()));
 }
 
-void RowListView::copyTable()
+void RowListView::copyTable() const
 {
     QStringList titles;
     for (const ListColumn &column : columns())
@@ -144,6 +150,19 @@ void RowListView::copyTable()
     copy(lines.join(u'\n') + u'\n');
 }
 
+void RowListView::keyboardSearch(const QString &search)
+{
+    setCurrentIndex(currentIndex().siblingAtColumn(0));
+    QTreeView::keyboardSearch(search);
+}
+
+void RowListView::moveInRow(int columns)
+{
+    const QModelIndex next = currentIndex().siblingAtColumn(currentIndex().column() + columns);
+    if (next.isValid())
+        setCurrentIndex(next);
+}
+
 void RowListView::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -151,6 +170,13 @@ void RowListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowDoubleClicked(selectedRow());
         return;
     }
+    const bool alone = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (alone && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
+        moveInRow(event->key() == Qt::Key_Left ? -1 : 1);
+        return;
+    }
+    if (event->matches(QKeySequence::Copy))
+        return; // the base class would copy from the row that is current but not selected
     const int before = selectedRow();
     QTreeView::keyPressEvent(event);
     if (selectedRow() >= 0 && selectedRow() != before)

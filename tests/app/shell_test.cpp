@@ -1,12 +1,15 @@
 #include "app/commandbars.h"
 #include "app/commands.h"
-#include "app/copyactions.h"
+#include "app/csvaction.h"
 #include "app/frmload.h"
+#include "app/listactions.h"
 #include "app/menulayout.h"
 #include "app/ownactions.h"
 #include "app/traydoubleclick.h"
+#include "core/module1.h"
 #include "store/rowlist.h"
 #include "tests/support/files.h"
+#include "tests/support/scripteddesktop.h"
 #include "widgets/rowlistview.h"
 
 #include <QAction>
@@ -78,15 +81,21 @@ private Q_SLOTS:
             QMainWindow window;
             CommandBars bars(window);
             OwnActions own(window);
-            CopyActions copyActions(own, window);
-            connect(&bars, &CommandBars::updateWanted, &copyActions, &CopyActions::update);
+            ListActions listActions(own, window);
+            connect(&bars, &CommandBars::updateWanted, &listActions, &ListActions::update);
             bars.load({{{menu, {{1121, "&Find...", {}, {}, {}}}}}, {}});
             own.place(bars);
             RowList rows;
             rows.append(u"Acetone");
-            rows.append(u"Water");
+            rows.appendSubItem(u"58.08 g");
+            rows.append(u"say \"water\"");
+            rows.appendSubItem(u"75-05-8");
             rows.filled();
-            window.setCentralWidget(new RowListView("ListView1", rows, {{"Name", 100}}, &window));
+            window.setCentralWidget(
+                new RowListView("ListView1", rows, {{"Name", 100}, {"M", 50, {}, "g"}}, &window));
+            ScriptedDesktop desktop;
+            Module1 module;
+            const CsvAction csv(own, listActions, module, desktop);
             window.show();
             QVERIFY(QTest::qWaitForWindowActive(&window));
             const auto copied = [&window](Qt::Key key) {
@@ -94,10 +103,34 @@ private Q_SLOTS:
                 QTest::keyClick(QApplication::activePopupWidget(), key);
                 return QApplication::activePopupWidget() ? "still open" : QApplication::clipboard()->text();
             };
-            QCOMPARE(copied(Qt::Key_T), "Name\nAcetone\nWater\n"); // the only list on screen
-            window.centralWidget()->setFocus();
-            QTest::keyClick(window.centralWidget(), Qt::Key_Down);
-            QCOMPARE(copied(Qt::Key_R), "Water");
+            // The only list on screen.
+            QCOMPARE(copied(Qt::Key_T), "Name\tM\nAcetone\t58.08 g\nsay \"water\"\t75-05-8\n");
+            QWidget *list = window.centralWidget();
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier); // nothing is selected
+            QVERIFY(QApplication::clipboard()->text().startsWith("Name"));
+            QTest::keyClick(list, Qt::Key_Down);
+            QCOMPARE(copied(Qt::Key_R), "say \"water\"\t75-05-8");
+            QTest::keyClick(list, Qt::Key_Right);
+            QTest::keyClick(list, Qt::Key_Right); // stays in the last column
+            QCOMPARE(copied(Qt::Key_L), "75-05-8");
+            QCOMPARE(own.action(OwnAction::CopyCell).text(), "Copy ce&ll: 75-05-8");
+            QTest::keyClick(list, Qt::Key_A); // among the names, not in the current column
+            QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+            QCOMPARE(QApplication::clipboard()->text(), "Acetone");
+
+            const QTemporaryDir folder;
+            desktop.savePaths = {folder.filePath("table")};
+            QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+            QCOMPARE(desktop.saveRequests.constFirst().fileName, "Properties of solvents");
+            QCOMPARE(readFile(folder.filePath("table.csv")),
+                     "\xEF\xBB\xBF\"Name\",\"M (g)\"\r\n\"Acetone\",58.08\r\n"
+                     "\"say \"\"water\"\"\",\"75-05-8\"\r\n");
+            desktop.savePaths = {folder.filePath("none/table.csv")};
+            QTest::keyClick(list, Qt::Key_S, Qt::ControlModifier);
+            QVERIFY(
+                desktop.boxes.constFirst().first.endsWith("cannot be written.\n\nReason: there is no such "
+                                                          "folder."));
         }
     }
 
