@@ -76,6 +76,7 @@ constexpr QuantityName Quantities[]{{"bp", "boiling point"},
                                     {"ex", "excitation"},
                                     {"em", "emission"},
                                     {"in water", "solubility"},
+                                    {"non-miscible:", "immiscible"},
                                     {"cools to", "salt bath, temperature"}};
 
 // Commands of the panes that choose no tab.

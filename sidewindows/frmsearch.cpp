@@ -24,7 +24,7 @@ constexpr int TableWidth = 190;
 constexpr int MarksRole = Qt::UserRole;
 
 constexpr char Examples[] = "For example: acetonitrile, CAS 75-05-8, pKa acetic acid, codons of tryptophan, "
-                            "running buffer, alpha, U-238";
+                            "running buffer, alpha, 2.05 CDCl3, m/z 58 43, bp 80";
 
 /// Paints the marked parts of a name in bold.
 class MarkDelegate final : public QStyledItemDelegate
