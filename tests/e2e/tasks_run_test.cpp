@@ -4,7 +4,9 @@
 #include "tests/support/wholerun.h"
 #include "widgets/rowlistview.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QTreeWidget>
 
 namespace {
@@ -106,6 +108,30 @@ private Q_SLOTS:
             const auto &list = get<RowListView>(form, place.list);
             const QString name = list.model()->index(place.row, 0).data().toString();
             QVERIFY(QString(task.answer).startsWith(name + '|'));
+        };
+        QCOMPARE(run(ProgramFolder(), steps), 0);
+    }
+
+    // Two steps: open "Show in", choose the table.
+    void fromThePropertiesOfAcetoneToItsShifts()
+    {
+        const auto steps = [](Form1 &form) {
+            form.executeCommand(1119);
+            QTest::keyClicks(&get(form, "ListView1"), "acetone");
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+            QTest::keyClick(form.focusWidget(), Qt::Key_E, Qt::AltModifier);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_I);
+            const auto &tables = get<QMenu>(form, "mnuShowIn");
+            QVERIFY(tables.isVisible());
+            for (int entry = 0; entry < tables.actions().size(); ++entry) {
+                if (tables.activeAction() && tables.activeAction()->text() == "Solvents, proton NMR")
+                    break;
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+            }
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+            const auto &shifts = get<RowListView>(form, "ListView4");
+            QVERIFY(shifts.isVisible());
+            QCOMPARE(shifts.model()->index(shifts.selectedRow(), 0).data().toString(), "Acetone");
         };
         QCOMPARE(run(ProgramFolder(), steps), 0);
     }
