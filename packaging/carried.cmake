@@ -6,6 +6,8 @@ set(QT_PLUGINS
     platforms/libqwayland-generic.so
     platforms/libqoffscreen.so
     wayland-shell-integration/libxdg-shell.so
+    # Windows have title bars by the second, which asks for the first.
+    wayland-graphics-integration-client/libqt-plugin-wayland-egl.so
     wayland-decoration-client/libbradient.so
     platforminputcontexts/libcomposeplatforminputcontextplugin.so
     platforminputcontexts/libibusplatforminputcontextplugin.so
@@ -15,9 +17,9 @@ set(QT_PLUGINS
     tls/libqopensslbackend.so)
 
 # They have to fit the kernel, the X server, the graphics driver, the fonts and the printers of the machine. What these
-# libraries need themselves is there with them.
+# libraries need themselves is there with them. Graphics drivers need the newest run-time library of C++, so it is theirs.
 set(LIBRARIES_OF_THE_SYSTEM
-    "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv)\\.so"
+    "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|stdc\\+\\+|gcc_s)\\.so"
     "^lib(X11|X11-xcb|Xau|Xdmcp|xcb|ICE|SM)\\.so" "^libwayland-"
     "^lib(GL|GLX|EGL|OpenGL|drm|gbm)\\.so"
     "^lib(fontconfig|freetype|expat|z)\\.so"
