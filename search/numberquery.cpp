@@ -280,12 +280,13 @@ std::optional<NumberQuery> NumberQuery::parse(const QString &typed)
 QString NumberQuery::understood() const
 {
     const QString where =
-        solvent < 0 ? QString() : u" in "_s + NumberGrammar::solvents()[size_t(solvent)].name;
+        u" in "_s + (solvent < 0 ? "any solvent" : NumberGrammar::solvents()[size_t(solvent)].name);
     QStringList parts;
     for (qsizetype begin = 0, end = 0; begin < terms.size(); begin = end) {
         while (end < terms.size() && terms[end].quantities == terms[begin].quantities)
             ++end;
-        parts << wordsOf(terms.sliced(begin, end - begin), where);
+        const bool hasSolvent = (terms[begin].quantities & shifts()).any();
+        parts << wordsOf(terms.sliced(begin, end - begin), hasSolvent ? where : QString());
     }
     if (terms.size() > 1)
         parts << u"what has %1 comes first"_s.arg(terms.size() == 2 ? u"both"_s : u"all"_s);

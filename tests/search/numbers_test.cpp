@@ -84,6 +84,8 @@ private Q_SLOTS:
         QCOMPARE(understood("m/z 58 43 41"),
                  "Looked for m/z 58, 43 and 41, among the ten strongest peaks, strongest "
                  "first; what has all comes first: 120 answers");
+        QVERIFY(understood("13C 30 ppm")
+                    .startsWith("Looked for 13C shift 30 ppm in any solvent, within 0.5 ppm"));
         // As text: words without a number, numbers without a word, names and numbers in them, nothing so
         // high.
         for (const char *typed :
