@@ -52,7 +52,7 @@ QAction *TrayIcon::addItem(const char *name, const QString &caption, const std::
 {
     QAction *item = m_mnuTray.addAction(caption);
     item->setObjectName(name);
-    connect(item, &QAction::triggered, this, [this, handler] {
+    connect(item, &QAction::triggered, this, [handler] {
         if (!ModalDialogs::raise())
             handler();
     });
