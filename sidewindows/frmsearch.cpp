@@ -19,6 +19,7 @@ namespace {
 
 constexpr QSize WindowSize(940, 500); // logical pixels
 constexpr int NameWidth = 230;
+constexpr int RowGap = 6;
 constexpr int AnswerLines = 3;
 constexpr int TableWidth = 190;
 constexpr int MarksRole = Qt::UserRole;
@@ -31,6 +32,11 @@ class MarkDelegate final : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, RowGap);
+    }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &given, const QModelIndex &index) const override
     {
@@ -73,7 +79,6 @@ frmSearch::frmSearch(std::shared_ptr<const SearchEverything> search, const QStri
 {
     setWindowTitle(u"Search everything"_s);
     txtSearch = Controls::named(new QLineEdit(text, this), u"txtSearch"_s);
-    txtSearch->setClearButtonEnabled(true);
     txtSearch->installEventFilter(this);
     QLabel *caption = Controls::label({}, u"&Search:"_s, this);
     caption->setBuddy(txtSearch);

@@ -1,10 +1,12 @@
 #include "tests/e2e/walk.h"
+#include "tests/support/files.h"
 #include "tests/support/wholerun.h"
 #include "widgets/modulepanel.h"
 #include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QTest>
 #include <QToolButton>
@@ -162,11 +164,11 @@ void AccessibilityTest::everyControlOfEverySideWindowHasAName()
     const ProgramFolder folder;
     QStringList found;
     run(folder, [&](Form1 &form) {
-        for (const int id : {1058, 1122}) {
-            form.executeCommand(id);
+        for (const QString action : {"Id1058", "Id1122", "actSearchAll"}) {
+            get<QAction>(form, action).trigger();
             SideWindow *window = Walk::sideWindow(form);
             QVERIFY(window);
-            if (id == 1122)
+            if (action == "Id1122")
                 QCOMPARE(window->focusWidget()->objectName(), QStringLiteral("cmdOk"));
             Walk::throughTabs(*window, [&] { found << unnamed(*window) << withoutLetter(*window); });
             QTest::keyClick(window, Qt::Key_Escape);

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
@@ -195,6 +196,10 @@ void LooksTest::throughSideWindows(Form1 &form)
     });
     control(form, "Command7(16)").click();
     openAndLook(form, [&] { form.findChild<QAction *>(QStringLiteral("actWhereFrom"))->trigger(); });
+    openAndLook(form, [&] {
+        form.findChild<QAction *>(QStringLiteral("actSearchAll"))->trigger();
+        control<QLineEdit>(form, "txtSearch").setText(QStringLiteral("sodium"));
+    });
     for (const char *opener : {"cmdhelp", "Command9"})
         openAndLook(form, [&] { control(form, opener).click(); });
     const auto openStructure = [&](int command, const char *list, int row) {
