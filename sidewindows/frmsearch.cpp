@@ -49,7 +49,10 @@ public:
         const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
         const bool chosen = option.state & QStyle::State_Selected;
 
-        QTextLayout layout(option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()), option.font);
+        QFont bold = option.font;
+        bold.setBold(true); // the widest that it can get
+        const QString fitting = QFontMetrics(bold).elidedText(text, Qt::ElideRight, room.width());
+        QTextLayout layout(fitting, option.font);
         layout.setFormats(index.data(MarksRole).value<QList<QTextLayout::FormatRange>>());
         layout.beginLayout();
         QTextLine line = layout.createLine();
@@ -103,6 +106,7 @@ frmSearch::frmSearch(std::shared_ptr<const SearchEverything> search, const QStri
     connect(txtSearch, &QLineEdit::returnPressed, this, [this] { choose(lstSearch->currentItem()); });
     connect(txtSearch, &QLineEdit::textChanged, this, &frmSearch::showAnswers);
     showAnswers(text);
+    txtSearch->setFocus();
 }
 
 void frmSearch::buildList()

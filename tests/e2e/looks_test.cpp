@@ -198,7 +198,7 @@ void LooksTest::throughSideWindows(Form1 &form)
     openAndLook(form, [&] { form.findChild<QAction *>(QStringLiteral("actWhereFrom"))->trigger(); });
     openAndLook(form, [&] {
         form.findChild<QAction *>(QStringLiteral("actSearchAll"))->trigger();
-        control<QLineEdit>(form, "txtSearch").setText(QStringLiteral("sodium"));
+        control<QLineEdit>(form, "txtSearch").setText(QStringLiteral("alanine codons"));
     });
     for (const char *opener : {"cmdhelp", "Command9"})
         openAndLook(form, [&] { control(form, opener).click(); });
