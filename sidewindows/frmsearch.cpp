@@ -60,7 +60,7 @@ public:
         painter->save();
         painter->setClipRect(room);
         painter->setPen(option.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
-        layout.draw(painter, QPointF(room.left(), room.center().y() - line.height() / 2));
+        layout.draw(painter, QPointF(room.left(), room.top() + (room.height() - line.height()) / 2));
         painter->restore();
     }
 };
