@@ -58,9 +58,11 @@ void NumberAnswers::keepTheBestOfEachTerm(std::vector<Hit> &hits)
     std::ranges::sort(hits, {}, [](const Hit &hit) {
         return std::tuple(hit.place, hit.solvent, hit.compound, hit.term, hit.distance);
     });
-    const auto surplus = std::ranges::unique(
-        hits, {}, [](const Hit &hit) { return std::tuple(hit.place, hit.solvent, hit.compound, hit.term); });
-    hits.erase(surplus.begin(), surplus.end());
+    const auto isSameTerm = [](const Hit &one, const Hit &other) {
+        return std::tie(one.place, one.solvent, one.compound, one.term) ==
+               std::tie(other.place, other.solvent, other.compound, other.term);
+    };
+    hits.erase(std::unique(hits.begin(), hits.end(), isSameTerm), hits.end());
 }
 
 NumberAnswers::NumberAnswers(const DataStore &store) : m_compounds(Places::all().size())

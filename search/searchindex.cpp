@@ -176,8 +176,8 @@ std::vector<std::pair<size_t, Rank>> SearchIndex::Table::rowsWith(const Word &wo
     }
     if (word.size() > 1) {
         std::ranges::sort(rows);
-        const auto twice = std::ranges::unique(rows, {}, &std::pair<size_t, Rank>::first);
-        rows.erase(twice.begin(), twice.end());
+        const auto isSameRow = [](const auto &one, const auto &other) { return one.first == other.first; };
+        rows.erase(std::unique(rows.begin(), rows.end(), isSameRow), rows.end());
     }
     return rows;
 }
