@@ -12,16 +12,18 @@
 
 namespace {
 
-// In a window smaller than the pane. The first column and the selected row count.
+constexpr int NameWidth = 200; // logical pixels, of the first column
+
+// In a window smaller than the pane. Of a list the name of the selected row counts.
 void scrollPaneTo(PaneScroll &area, QWidget &control)
 {
-    area.ensureWidgetVisible(&control);
     const auto *list = qobject_cast<QAbstractItemView *>(&control);
     if (!list || !list->currentIndex().isValid())
-        return;
-    const QRect row = list->visualRect(list->currentIndex());
-    const QPoint place = list->viewport()->mapTo(area.widget(), QPoint(0, row.center().y()));
-    area.ensureVisible(place.x(), place.y());
+        return area.ensureWidgetVisible(&control);
+    const int y = list->visualRect(list->currentIndex()).center().y();
+    const QPoint name = list->viewport()->mapTo(area.widget(), QPoint(0, y));
+    area.ensureVisible(name.x() + NameWidth, name.y());
+    area.ensureVisible(name.x(), name.y());
 }
 
 } // namespace
@@ -67,6 +69,7 @@ void PlaceSwitch::selectRow(QWidget &control, int row)
     if (auto *list = qobject_cast<RowListView *>(&control)) {
         if (row < list->model()->rowCount()) {
             list->selectRow(row);
+            list->scrollTo(list->currentIndex(), QAbstractItemView::PositionAtCenter);
             Q_EMIT list->rowClicked(row); // shows its chart
         }
     } else if (auto *units = qobject_cast<QListWidget *>(&control)) {
