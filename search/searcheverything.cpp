@@ -50,6 +50,8 @@ QString counted(int answers)
 {
     if (answers > SearchEverything::Limit)
         return u"the best %1 of %2 answers"_s.arg(SearchEverything::Limit).arg(answers);
+    if (answers == 0)
+        return u"no answers"_s;
     return answers == 1 ? u"1 answer"_s : u"%1 answers"_s.arg(answers);
 }
 
@@ -120,12 +122,12 @@ void SearchEverything::add(Source source)
 
 SearchResult SearchEverything::find(const QString &text) const
 {
-    if (const std::optional<NumberQuery> query = NumberQuery::parse(text)) {
-        const SearchResult result = findNumbers(*query);
-        if (!result.answers.isEmpty())
-            return result;
-    }
-    return text.trimmed().isEmpty() ? SearchResult() : findText(text);
+    const std::optional<NumberQuery> query = NumberQuery::parse(text);
+    const SearchResult byNumbers = query ? findNumbers(*query) : SearchResult();
+    if (!byNumbers.answers.isEmpty() || text.trimmed().isEmpty())
+        return byNumbers;
+    const SearchResult byText = findText(text);
+    return query && byText.answers.isEmpty() ? byNumbers : byText;
 }
 
 SearchResult SearchEverything::findNumbers(const NumberQuery &query) const

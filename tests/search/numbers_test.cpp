@@ -86,6 +86,8 @@ private Q_SLOTS:
                  "first; what has all comes first: 120 answers");
         QVERIFY(understood("13C 30 ppm")
                     .startsWith("Looked for 13C shift 30 ppm in any solvent, within 0.5 ppm"));
+        QCOMPARE(understood("n 3.5"),
+                 "Looked for refractive index 3.5, within 0.005, nearest first: no answers");
         // As text: words without a number, numbers without a word, names and numbers in them, nothing so
         // high.
         for (const char *typed :
