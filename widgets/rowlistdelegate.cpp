@@ -2,6 +2,7 @@
 
 #include "store/rowlist.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 
@@ -106,7 +107,8 @@ void RowListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         painter->drawLine(item.rect.topRight(), item.rect.bottomRight());
     }
     // The cell that is copied. In the first column it needs no mark.
-    if (selected && item.state.testFlag(QStyle::State_HasFocus) && index.column() > 0) {
+    const auto *view = qobject_cast<const QAbstractItemView *>(item.widget);
+    if (selected && index.column() > 0 && view && view->hasFocus() && view->currentIndex() == index) {
         painter->setPen(item.palette.color(QPalette::HighlightedText));
         painter->drawRect(item.rect.adjusted(1, 1, -2, -2));
     }

@@ -55,6 +55,7 @@ RowListView::RowListView(const QString &name, RowList &list, QList<ListColumn> c
     setItemsExpandable(false);
     setUniformRowHeights(!anyWrapped(m_model->columns()));
     setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
