@@ -208,6 +208,30 @@ private Q_SLOTS:
         }
     }
 
+    void figuresAreThoseOfTheTables()
+    {
+        const auto rowsWith = [](const char *table, const char *source) {
+            return readFile(ALEMBRA_SOURCE + QString("/data/tables/%1.tsv").arg(table)).count(source);
+        };
+        const struct
+        {
+            const char *page;
+            const char *words;
+            qsizetype figure;
+        } figures[] = {
+            {"conversions", "between %1 units", Units::count()},
+            {"elements", "data of %1 elements", rowsWith("Elements", "\n") - 1},
+            {"database", "<b>Solvants must not have more rows than Masse</b>, which has %1",
+             rowsWith("Masse", "\n") - 1},
+            {"data", "two numbers each of %1 of its 604 spectra",
+             rowsWith("Fluorochromes", "mcnamara-boswell")},
+        };
+        for (const auto &[page, words, figure] : figures) {
+            const QString text = readFile(Source + page + ".html");
+            QVERIFY2(text.simplified().contains(QString(words).arg(figure)), words);
+        }
+    }
+
     void sourcesOfEveryTableAreNamed()
     {
         const QStringList tables = filesIn(ALEMBRA_SOURCE "/data/tables", {"*.tsv"});
