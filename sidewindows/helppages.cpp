@@ -206,11 +206,10 @@ void HelpPages::open(const QString &page)
 }
 
 // The contents show the current page, however it was reached.
-void HelpPages::markInContents()
+void HelpPages::markInContents(const QUrl &page)
 {
-    const QString page = m_page->source().fileName();
     for (QTreeWidgetItemIterator item(m_contents); *item; ++item) {
-        if ((*item)->data(0, Page) == page) {
+        if ((*item)->data(0, Page) == page.fileName()) {
             const QSignalBlocker alreadyOpen(m_contents);
             m_contents->setCurrentItem(*item);
         }

@@ -6,6 +6,7 @@ class QLineEdit;
 class QListWidget;
 class QTextBrowser;
 class QTreeWidget;
+class QUrl;
 
 /// `frmHelpPages`: the pages of the help, with contents, index and search.
 ///
@@ -29,7 +30,7 @@ private:
     QWidget *buildSearch();
     QWidget *buildPage();
     QListWidget *makeList(const QString &name, const QString &accessibleName, QLineEdit &field);
-    void markInContents();
+    void markInContents(const QUrl &page);
 
     QTextBrowser *m_page;
     QTreeWidget *m_contents;

@@ -101,6 +101,13 @@ private Q_SLOTS:
             QVERIFY(Controls::isShown(get(form, "Frame2")));
             QTest::keyClick(&form, Qt::Key_Right, Qt::AltModifier);
             QVERIFY(places.current() == row);
+
+            searchFor("keyboard");
+            QTest::keyClick(form.findChild<QWidget *>("txtSearch"), Qt::Key_Return);
+            for (const QWidget *each : QApplication::topLevelWidgets()) {
+                if (each->objectName() == "frmHelpPages")
+                    QCOMPARE(get<QTreeWidget>(*each, "treHelpContents").currentItem()->text(0), "Keyboard");
+            }
         };
         QCOMPARE(run(folder, steps), 0);
     }
