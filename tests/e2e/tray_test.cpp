@@ -9,11 +9,10 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QSystemTrayIcon>
-#include <QTest>
 
 /// The way into the notification area and back, by mouse, on a desktop with a window manager. To be run by
 /// tools/headless.
@@ -22,325 +21,234 @@ class TrayTest final : public WholeRun
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        QVERIFY2(QSystemTrayIcon::isSystemTrayAvailable(),
+                 "there is no notification area; run this by tools/headless");
+        QVERIFY2(!QStandardPaths::findExecutable("xdotool").isEmpty(), "xdotool is missing");
+        QApplication::setDoubleClickInterval(1500); // a busy machine delivers clicks late
+        // trayer does not always come back once its last icon has gone: this one stays.
+        m_neighbour = std::make_unique<QSystemTrayIcon>(Icons::named("help"));
+        m_neighbour->show();
+        QTRY_VERIFY_WITH_TIMEOUT(m_neighbour->geometry().isValid(), Patience);
+    }
     void cleanupTestCase() { m_neighbour.reset(); }
-    void minimisingHidesAndADoubleClickBringsBack_data();
-    void minimisingHidesAndADoubleClickBringsBack();
-    void anOpenDialogComesFirst();
-    void minimisingByTheWindowManagerTellsInABalloon();
-    void popupMovesTheWindowBothWays();
-    void popupLeadsToHelpAndPages();
-    void withoutTheOptionMinimisingMinimises();
-    void secondStartRaisesOutOfTheTray();
-    void sideWindowsAreUnloadedOnTheWay();
-    void popupQuitsWithStatusZero();
+
+    void minimisingHidesAndADoubleClickBringsBack()
+    {
+        for (const bool maximised : {false, true}) {
+            runWith("1", "0", [&](Form1 &form) {
+                QCOMPARE(placeOf(form), OnScreen);
+                if (maximised) {
+                    form.showMaximized();
+                    QTRY_COMPARE_WITH_TIMEOUT(form.width(), form.screen()->availableSize().width(), Patience);
+                }
+                const QRect before = form.geometry();
+                minimise(form, InTray);
+                QVERIFY(!balloonIsShown());
+                doubleClickIcon(form, OnScreen);
+                QTRY_VERIFY_WITH_TIMEOUT(form.isActiveWindow(), Patience);
+                QTRY_COMPARE_WITH_TIMEOUT(form.geometry(), before, Patience);
+                QCOMPARE(form.isMaximized(), maximised);
+            });
+        }
+    }
+
+    // Icon and popup raise it. Minimising closes it, and the window whose handler waits for it.
+    void anOpenDialogComesFirst()
+    {
+        QtDesktop desktop;
+        const ProgramFolder folder;
+        folder.setOption(81, "1");
+        const auto inTheDialog = [](const Form1 &form, QWidget *dialog) {
+            for (const char *name : {"menuabout", "trayminimax", "trayquit"})
+                item(form, name).trigger();
+            for (int i = 0; i < 2; ++i)
+                Q_EMIT icon(form).activated(QSystemTrayIcon::Trigger);
+            QCOMPARE(placeOf(form), OnScreen);
+            QVERIFY(!form.findChild<SideWindow *>("frmAbout"));
+            hasFocus(dialog);
+            minimise(form, InTray);
+        };
+        const auto walk = [&](Form1 &form) {
+            QVERIFY(QTest::qWaitForWindowExposed(&form));
+            form.executeCommand(1058);
+            const QPointer<QWidget> Formoptions = &get(form, "Formoptions");
+            hasFocus(Formoptions);
+            QTimer::singleShot(0, this, [&] {
+                QWidget *dialog = QApplication::activeModalWidget();
+                QVERIFY(QTest::qWaitForWindowExposed(dialog));
+                inTheDialog(form, dialog);
+                if (QTest::currentTestFailed())
+                    dialog->close(); // else the run waits for it
+            });
+            get<QPushButton>(*Formoptions, "Command1").click();
+            QTRY_VERIFY_WITH_TIMEOUT(!Formoptions, Patience);
+            QVERIFY(form.isEnabled());
+        };
+        QCOMPARE(run(folder.root(), {}, desktop, walk), 0);
+    }
+
+    void theWayIntoTheTrayUnloadsWindowsAndTellsInABalloon()
+    {
+        runWith("1", "1", [](Form1 &form) {
+            form.executeCommand(1058);
+            const QPointer<QWidget> Formoptions = &get(form, "Formoptions");
+            QVERIFY(Formoptions->isVisible() && !form.isEnabled());
+            doubleClickIcon(form, InTray);
+            QTRY_VERIFY_WITH_TIMEOUT(!Formoptions && balloonIsShown(), Patience);
+            QVERIFY(form.isEnabled());
+        });
+    }
+
+    void popupLeadsEverywhere()
+    {
+        m_desktop.targets.clear();
+        runWith("1", "0", [this](Form1 &form) {
+            QCOMPARE(popup(form).defaultAction(), &item(form, "trayminimax"));
+            choose(form, "trayminimax");
+            QTRY_COMPARE_WITH_TIMEOUT(placeOf(form), InTray, Patience);
+            form.options().open(); // opening from the tray unloads nothing
+            choose(form, "trayminimax");
+            QTRY_COMPARE_WITH_TIMEOUT(placeOf(form), OnScreen, Patience);
+            QVERIFY(get(form, "Formoptions").isVisible() && get(form, "Formoptions").close());
+            for (const char *name : {"menuaide", "siteweb", "traydon"}) {
+                const auto before = m_desktop.targets.size();
+                choose(form, name);
+                QTRY_COMPARE_WITH_TIMEOUT(m_desktop.targets.size(), before + 1, Patience);
+            }
+            choose(form, "trayquit");
+            QTRY_VERIFY_WITH_TIMEOUT(form.isHidden(), Patience);
+        });
+        QVERIFY(m_desktop.targets[0].endsWith("/alembra_help_uk.chm"));
+        QCOMPARE(m_desktop.targets[2], m_desktop.targets[1] + "/uk/don.php");
+    }
+
+    void withoutTheOptionMinimisingMinimises()
+    {
+        runWith("0", "1", [](Form1 &form) {
+            QVERIFY(!item(form, "trayminimax").isEnabled());
+            doubleClickIcon(form, "shown, 0, Minimize Alembra");
+            minimise(form, "minimised, 0, Minimize Alembra");
+            QApplication::processEvents(); // what the change of state leads to
+            QVERIFY(!form.isHidden() && !balloonIsShown());
+        });
+    }
+
+    void secondStartRaisesOutOfTheTray()
+    {
+        runWith("1", "0", [this](Form1 &form) {
+            minimise(form, InTray);
+            QTRY_VERIFY_WITH_TIMEOUT(!QGuiApplication::focusWindow(),
+                                     Patience); // Qt takes its time to see that
+            tool(m_folder->executable(), {});
+            QTRY_COMPARE_WITH_TIMEOUT(placeOf(form), OnScreen, Patience);
+            QTRY_VERIFY_WITH_TIMEOUT(form.isActiveWindow(), Patience);
+            doubleClickIcon(form, InTray); // the next one goes down, not up
+        });
+    }
 
 private:
-    using Walk = std::function<void(Form1 &)>;
-
-    void runWith(const char *tray, const char *balloon, const Walk &walk)
+    void runWith(const char *tray, const char *balloon, const Steps &walk)
     {
+        m_folder = std::make_unique<ProgramFolder>();
         m_folder->setOption(81, tray);
         m_folder->setOption(80, balloon);
-        QCOMPARE(run(*m_folder,
-                     [&](Form1 &form) {
-                         QVERIFY(QTest::qWaitForWindowExposed(&form));
-                         QTRY_VERIFY2(icon(form).geometry().isValid(), "the icon did not come up");
-                         walk(form);
-                     }),
-                 0);
+        const auto steps = [&](Form1 &form) {
+            QVERIFY(QTest::qWaitForWindowExposed(&form));
+            QTRY_VERIFY_WITH_TIMEOUT(icon(form).geometry().isValid(), Patience);
+            walk(form);
+        };
+        QCOMPARE(run(*m_folder, steps), 0);
     }
 
-    static QSystemTrayIcon &icon(const Form1 &form)
-    {
-        return *form.findChild<QSystemTrayIcon *>(QStringLiteral("TrayIcon"));
-    }
-
+    static QSystemTrayIcon &icon(const Form1 &form) { return *form.findChild<QSystemTrayIcon *>("TrayIcon"); }
     static QMenu &popup(const Form1 &form) { return *icon(form).contextMenu(); }
-
-    static QAction &item(const Form1 &form, const char *name)
-    {
-        return *popup(form).findChild<QAction *>(QLatin1StringView(name));
-    }
+    static QAction &item(const Form1 &form, const char *name) { return get<QAction>(popup(form), name); }
 
     static bool balloonIsShown()
     {
-        for (const QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->inherits("QBalloonTip"))
-                return true;
-        }
-        return false;
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(), [](const QWidget *window) {
+            return window->isVisible() && window->inherits("QBalloonTip");
+        });
     }
 
-    // Mouse and keys from outside, while the program runs on. What it said, if it ended well.
-    static std::optional<QString> outcome(const QString &program, const QStringList &arguments)
+    // Mouse and keys from outside, while the program runs on. It has to end well.
+    static void tool(const QString &program, const QStringList &arguments)
     {
         QProcess process;
         process.start(program, arguments);
-        while (process.state() != QProcess::NotRunning)
-            QTest::qWait(10);
-        if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-            return {};
-        return QString::fromUtf8(process.readAllStandardOutput());
+        QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, Patience);
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+                 qPrintable(program + ' ' + arguments.join(' ')));
     }
 
-    static void tool(const QString &program, const QStringList &arguments)
+    // Again where it had no effect: the notification area may just have moved its icons.
+    static void repeatUntil(const std::function<bool()> &isDone, const std::function<void()> &act)
     {
-        QVERIFY2(outcome(program, arguments), qPrintable(program + u' ' + arguments.join(u' ')));
+        bool done = isDone();
+        for (int attempt = 0; attempt < 5 && !done && !QTest::currentTestFailed(); ++attempt) {
+            act();
+            done = QTest::qWaitFor(isDone, Patience / 6);
+        }
+        QVERIFY(done);
     }
 
     static void click(const QPoint &place, int button, int times = 1)
     {
-        tool(QStringLiteral("xdotool"),
-             {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
-              QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(times),
-              QStringLiteral("--delay"), QStringLiteral("60"), QString::number(button)});
+        tool("xdotool", {"mousemove", QString::number(place.x()), QString::number(place.y()), "click",
+                         "--repeat", QString::number(times), "--delay", "60", QString::number(button)});
     }
 
-    static void doubleClickIcon(const Form1 &form) { click(icon(form).geometry().center(), 1, 2); }
+    static void doubleClickIcon(const Form1 &form, const QString &place)
+    {
+        const QSignalSpy clicks(&icon(form), &QSystemTrayIcon::activated);
+        repeatUntil([&] { return clicks.size() > 1 && placeOf(form) == place; },
+                    [&] { click(icon(form).geometry().center(), 1, 2); });
+    }
 
     static void choose(const Form1 &form, const char *name)
     {
-        // trayer may just be moving the icons together.
-        for (int attempt = 0; attempt < 4 && !popup(form).isVisible(); ++attempt) {
-            click(icon(form).geometry().center(), 3);
-            if (QTest::qWaitFor([&] { return popup(form).isVisible(); }, 2000))
-                break;
-        }
-        QVERIFY(popup(form).isVisible());
-        QTest::qWait(100); // for the popup to take the mouse
+        repeatUntil([&] { return popup(form).isVisible(); },
+                    [&] { click(icon(form).geometry().center(), 3); });
+        QVERIFY(QTest::qWaitForWindowExposed(&popup(form)));
         click(popup(form).mapToGlobal(popup(form).actionGeometry(&item(form, name)).center()), 1);
     }
 
-    static void minimise(const Form1 &form)
+    // isActiveWindow() is also true while a parent has the focus. A focus that a blocked window gets later
+    // makes Qt activate the dialog, and the window manager would bring back all that it has just minimised.
+    static void hasFocus(const QWidget *window)
     {
-        tool(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), QString::number(form.winId())});
+        QTRY_COMPARE_WITH_TIMEOUT(QGuiApplication::focusWindow(), window->windowHandle(), Patience);
+    }
+
+    // By the window manager.
+    static void minimise(const Form1 &form, const QString &place)
+    {
+        tool("xdotool", {"windowminimize", QString::number(form.winId())});
+        QTRY_COMPARE_WITH_TIMEOUT(placeOf(form), place, Patience);
     }
 
     // Where the window is, and what the popup and the window know of it.
     static QString placeOf(const Form1 &form)
     {
-        return QStringLiteral("%1, %2, %3")
-            .arg(form.isHidden()      ? QStringLiteral("hidden")
-                 : form.isMinimized() ? QStringLiteral("minimised")
-                                      : QStringLiteral("shown"))
+        return QString("%1, %2, %3")
+            .arg(form.isHidden()      ? "hidden"
+                 : form.isMinimized() ? "minimised"
+                                      : "shown")
             .arg(form.TrayMinimized())
             .arg(item(form, "trayminimax").text());
     }
 
-    static inline const QString InTray = QStringLiteral("hidden, -1, Open Alembra");
-    static inline const QString OnScreen = QStringLiteral("shown, 0, Minimize Alembra");
+    static constexpr int Patience =
+        60000; // milliseconds: a busy machine is slow, and waits end when they can
+    static inline const QString InTray = "hidden, -1, Open Alembra";
+    static inline const QString OnScreen = "shown, 0, Minimize Alembra";
 
     std::unique_ptr<ProgramFolder> m_folder;
     std::unique_ptr<QSystemTrayIcon> m_neighbour; ///< another program's icon
 };
-
-void TrayTest::initTestCase()
-{
-    QVERIFY2(QSystemTrayIcon::isSystemTrayAvailable(),
-             "there is no notification area; run this by tools/headless");
-    QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty(), "xdotool is missing");
-    QApplication::setDoubleClickInterval(1500); // a busy machine delivers clicks late
-    // trayer does not always come back once its last icon has gone: this one stays.
-    m_neighbour = std::make_unique<QSystemTrayIcon>(Icons::named(QStringLiteral("help")));
-    m_neighbour->show();
-    QTRY_VERIFY(m_neighbour->geometry().isValid());
-}
-
-void TrayTest::init()
-{
-    m_folder = std::make_unique<ProgramFolder>();
-    m_folder->setOption(56, "0"); // no tip
-    m_desktop.targets.clear();
-}
-
-void TrayTest::minimisingHidesAndADoubleClickBringsBack_data()
-{
-    QTest::addColumn<bool>("maximised");
-    QTest::newRow("normal") << false;
-    QTest::newRow("maximised") << true;
-}
-
-void TrayTest::minimisingHidesAndADoubleClickBringsBack()
-{
-    QFETCH(const bool, maximised);
-    runWith("1", "0", [&](Form1 &form) {
-        QCOMPARE(placeOf(form), OnScreen);
-        if (maximised) {
-            form.showMaximized();
-            QTRY_COMPARE(form.width(), form.screen()->availableSize().width());
-        }
-        const QRect before = form.geometry();
-        minimise(form);
-        QTRY_COMPARE(placeOf(form), InTray);
-        QTest::qWait(300);
-        QVERIFY(!balloonIsShown());
-
-        click(icon(form).geometry().center(), 1); // one click does nothing
-        QTest::qWait(QApplication::doubleClickInterval() + 100);
-        QCOMPARE(placeOf(form), InTray);
-        doubleClickIcon(form);
-        QTRY_COMPARE(placeOf(form), OnScreen);
-        QTRY_VERIFY(form.isActiveWindow());
-        QTRY_COMPARE(form.geometry(), before);
-        QCOMPARE(form.isMaximized(), maximised);
-
-        doubleClickIcon(form);
-        QTRY_COMPARE(placeOf(form), InTray);
-    });
-}
-
-void TrayTest::anOpenDialogComesFirst()
-{
-    QtDesktop desktop;
-    m_folder->setOption(81, "1");
-    m_folder->setOption(80, "0");
-    const auto inTheDialog = [](const Form1 &form, QWidget *dialog) {
-        for (const char *name : {"menuabout", "trayminimax", "trayquit"})
-            item(form, name).trigger();
-        for (int i = 0; i < 2; ++i)
-            Q_EMIT icon(form).activated(QSystemTrayIcon::Trigger);
-        QCOMPARE(placeOf(form), OnScreen);
-        QVERIFY(!form.findChild<SideWindow *>(QStringLiteral("frmAbout")));
-        QTRY_VERIFY(dialog->isActiveWindow());
-        minimise(form);
-        QTRY_COMPARE(placeOf(form), InTray);
-    };
-    const auto walk = [&](Form1 &form) {
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
-        form.executeCommand(1058);
-        const QPointer<QWidget> Formoptions = form.findChild<SideWindow *>(QStringLiteral("Formoptions"));
-        QTimer::singleShot(0, this, [&] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            QVERIFY(QTest::qWaitForWindowExposed(dialog));
-            inTheDialog(form, dialog);
-            if (QTest::currentTestFailed())
-                dialog->close(); // else the run waits for it and cannot be tried again
-        });
-        Formoptions->findChild<QPushButton *>(QStringLiteral("Command1"))->click();
-        QTRY_VERIFY(!Formoptions);
-        QVERIFY(form.isEnabled());
-    };
-    QCOMPARE(run(m_folder->root(), {}, desktop, walk), 0);
-}
-
-void TrayTest::minimisingByTheWindowManagerTellsInABalloon()
-{
-    runWith("1", "1", [&](Form1 &form) {
-        minimise(form);
-        QTRY_VERIFY(balloonIsShown());
-        QCOMPARE(placeOf(form), InTray);
-    });
-}
-
-void TrayTest::popupMovesTheWindowBothWays()
-{
-    runWith("1", "0", [&](Form1 &form) {
-        QCOMPARE(popup(form).defaultAction(), &item(form, "trayminimax"));
-        choose(form, "trayminimax");
-        QTRY_COMPARE(placeOf(form), InTray);
-        form.options().open(); // opening from the tray unloads nothing
-        choose(form, "trayminimax");
-        QTRY_COMPARE(placeOf(form), OnScreen);
-        QVERIFY(form.findChild<SideWindow *>(QStringLiteral("Formoptions"))->isVisible());
-        form.findChild<SideWindow *>(QStringLiteral("Formoptions"))->close();
-    });
-}
-
-void TrayTest::popupLeadsToHelpAndPages()
-{
-    runWith("0", "0", [&](Form1 &form) {
-        choose(form, "menuaide");
-        QTRY_COMPARE(m_desktop.targets.size(), 1);
-        choose(form, "siteweb");
-        QTRY_COMPARE(m_desktop.targets.size(), 2);
-        choose(form, "traydon");
-        QTRY_COMPARE(m_desktop.targets.size(), 3);
-        QCOMPARE(m_desktop.targets[0], m_folder->path(QStringLiteral("alembra_help_uk.chm")));
-        QVERIFY(m_desktop.targets[2].startsWith(m_desktop.targets[1]));
-        QVERIFY(m_desktop.targets[2].endsWith(QStringLiteral("/uk/don.php")));
-    });
-}
-
-void TrayTest::withoutTheOptionMinimisingMinimises()
-{
-    runWith("0", "1", [&](Form1 &form) {
-        QVERIFY(!item(form, "trayminimax").isEnabled());
-        doubleClickIcon(form);
-        QTest::qWait(200);
-        QVERIFY(!form.isHidden());
-        minimise(form);
-        QTRY_VERIFY(form.isMinimized());
-        QTest::qWait(300);
-        QVERIFY(!form.isHidden());
-        QCOMPARE(form.TrayMinimized(), 0);
-        QVERIFY(!balloonIsShown());
-    });
-}
-
-void TrayTest::secondStartRaisesOutOfTheTray()
-{
-    runWith("1", "0", [&](Form1 &form) {
-        minimise(form);
-        QTRY_COMPARE(placeOf(form), InTray);
-        QTest::qWait(600);                // Qt takes its time to see that the window lost the keyboard
-        tool(m_folder->executable(), {}); // ends with status 0
-        QTRY_COMPARE(placeOf(form), OnScreen);
-        QTRY_VERIFY(form.isActiveWindow());
-        doubleClickIcon(form); // the next one goes down, not up
-        QTRY_COMPARE(placeOf(form), InTray);
-    });
-}
-
-void TrayTest::sideWindowsAreUnloadedOnTheWay()
-{
-    runWith("1", "0", [&](Form1 &form) {
-        form.executeCommand(1058);
-        const QPointer<QWidget> Formoptions = form.findChild<SideWindow *>(QStringLiteral("Formoptions"));
-        QVERIFY(Formoptions && Formoptions->isVisible());
-        QVERIFY(!form.isEnabled());
-        doubleClickIcon(form);
-        QTRY_COMPARE(placeOf(form), InTray);
-        QTRY_VERIFY(!Formoptions);
-        QVERIFY(form.isEnabled());
-    });
-}
-
-void TrayTest::popupQuitsWithStatusZero()
-{
-    QProcess program;
-    m_folder->setOption(81, "1");
-    program.start(m_folder->executable(), {});
-    QVERIFY(program.waitForStarted());
-    QPoint icon;
-    const auto findIcon = [&icon] {
-        // Of the program's windows the one of that size, once trayer has taken it in.
-        static const QRegularExpression place(
-            QStringLiteral("Position: (\\d+),(\\d+) .*\\n *Geometry: 22x22"));
-        const QStringList search{
-            QStringLiteral("search"),     QStringLiteral("--onlyvisible"),     QStringLiteral("--classname"),
-            QStringLiteral("Alembra_uk"), QStringLiteral("getwindowgeometry"), QStringLiteral("%@")};
-        const auto found = place.match(outcome(QStringLiteral("xdotool"), search).value_or(QString()));
-        icon = QPoint(found.captured(1).toInt(), found.captured(2).toInt()) + QPoint(11, 11);
-        return found.hasMatch();
-    };
-    QVERIFY(QTest::qWaitFor(findIcon, 20000));
-    bool ended = false;
-    // "Quit" is the last item. A busy machine may take its time to show the popup: then once more.
-    for (int attempt = 0; attempt < 5 && !ended; ++attempt) {
-        QVERIFY(QTest::qWaitFor(findIcon, 5000));
-        click(icon, 3);
-        QTest::qWait(1000);
-        tool(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("Up"),
-                                         QStringLiteral("Return"), QStringLiteral("Escape")});
-        ended = QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 3000);
-    }
-    QVERIFY(ended);
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), 0);
-    QCOMPARE(program.readAllStandardError(), QByteArray());
-}
 
 QTEST_MAIN(TrayTest)
 #include "tray_test.moc"
