@@ -1,8 +1,6 @@
 #include "tests/e2e/judge.h"
 
-#include "tests/e2e/paintedtexts.h"
 #include "widgets/readable.h"
-#include "widgets/rowlistview.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -11,14 +9,89 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
+#include <QPaintEngine>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
-#include <map>
+
+/// A text as a widget paints it, whoever draws it: a label, a style, a delegate or the widget itself. Places
+/// are logical pixels of the window that was asked.
+struct PaintedText
+{
+    QString text;
+    QRect ink;    ///< what its letters cover
+    QRegion seen; ///< of the ink, what is not clipped; what covers the widget does not count
+    QColor colour;
+    QWidget *by = nullptr; ///< the widget that paints it
+};
 
 namespace {
+
+/// Draws nothing and writes down the texts, in the order of painting.
+class Recorder final : public QPaintEngine
+{
+public:
+    Recorder() : QPaintEngine(AllFeatures) {}
+
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    Type type() const override { return User; }
+    void updateState(const QPaintEngineState &) override {}
+    void drawPath(const QPainterPath &) override {}
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override {}
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    void drawImage(const QRectF &, const QImage &, const QRectF &, Qt::ImageConversionFlags) override {}
+    void drawTiledPixmap(const QRectF &, const QPixmap &, const QPointF &) override {}
+    void drawTextItem(const QPointF &place, const QTextItem &item) override
+    {
+        // Boxes of letters are given in whole pixels, and text may begin between two.
+        constexpr double Soft = 1;
+        const QTransform toWindow = painter()->deviceTransform();
+        const QFontMetricsF metrics(item.font());
+        QRectF box = metrics.tightBoundingRect(item.text());
+        // Documents set the same text without hints, which may be narrower.
+        box.setRight(box.right() * item.width() / metrics.horizontalAdvance(item.text()));
+        const QRect ink = toWindow.mapRect(box.translated(place)).adjusted(Soft, Soft, -Soft, -Soft).toRect();
+        if (ink.isEmpty())
+            return;
+        QRegion seen = QRegion(ink) & systemClip();
+        if (painter()->hasClipping())
+            seen &= toWindow.map(painter()->clipRegion());
+        texts.append({item.text(), ink, seen, painter()->pen().color(), painting});
+    }
+
+    QList<PaintedText> texts;
+    QWidget *painting = nullptr;
+};
+
+/// What @p window is rendered to: as large as an ordinary display at 100 %, so that places are logical
+/// pixels.
+class RecordingDevice final : public QObject, public QImage
+{
+public:
+    explicit RecordingDevice(QWidget &window) : QImage(window.size(), Format_RGB32)
+    {
+        qApp->installEventFilter(this);
+        window.render(this);
+    }
+
+    QPaintEngine *paintEngine() const override { return &m_recorder; }
+    const QList<PaintedText> &texts() const { return m_recorder.texts; }
+
+protected:
+    // A painter does not tell whose it is, but each widget gets its paint event first.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_recorder.painting = qobject_cast<QWidget *>(watched);
+        return false;
+    }
+
+private:
+    mutable Recorder m_recorder;
+};
 
 constexpr QChar Ellipsis(u'\u2026');
 
@@ -66,17 +139,14 @@ bool isCovered(const QWidget &widget, const QWidget &window, const QPoint &place
 /// charts, and the light grey of rings that a resistor has not.
 bool isGiven(const QColor &colour, const QColor &behind, const QWidget &widget)
 {
-    const bool ring = widget.objectName().startsWith(QLatin1String("Label18(")) ||
-                      widget.objectName() == QLatin1String("lbl2(20)");
+    const bool ring = widget.objectName().startsWith("Label18(") || widget.objectName() == "lbl2(20)";
     return behind == widget.palette().color(QPalette::Highlight) ||
-           widget.window()->objectName() == QLatin1String("Formhelp3") ||
-           (ring && colour == QColor(0xe0, 0xe0, 0xe0));
+           widget.window()->objectName() == "Formhelp3" || (ring && colour == QColor(0xe0, 0xe0, 0xe0));
 }
 
 QString toolTipOfCell(QAbstractItemView &view, const QPoint &place)
 {
-    const QPoint global = view.viewport()->mapToGlobal(place);
-    QHelpEvent hover(QEvent::ToolTip, place, global);
+    QHelpEvent hover(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
     QApplication::sendEvent(view.viewport(), &hover);
     return QToolTip::text();
 }
@@ -89,6 +159,15 @@ QStringList Judge::takeFindings()
     return std::exchange(m_found, {});
 }
 
+QStringList Judge::textsOf(QWidget &window)
+{
+    QStringList texts;
+    const RecordingDevice device(window);
+    for (const PaintedText &painted : device.texts())
+        texts << painted.text;
+    return texts;
+}
+
 void Judge::report(const QString &what, const QString &text, const QWidget &where)
 {
     QStringList path;
@@ -96,7 +175,7 @@ void Judge::report(const QString &what, const QString &text, const QWidget &wher
         if (!each->objectName().isEmpty())
             path.prepend(each->objectName());
     }
-    m_found << QStringLiteral("%1 in %2: \"%3\"").arg(what, path.join(QLatin1Char('/')), text);
+    m_found << QString("%1 in %2: \"%3\"").arg(what, path.join('/'), text);
 }
 
 void Judge::look(QWidget &window)
@@ -105,37 +184,20 @@ void Judge::look(QWidget &window)
     for (auto *field : window.findChildren<QLineEdit *>())
         field->deselect(); // a selected part is painted apart from the rest, each cut at the other
     const QImage picture = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QList<PaintedText> texts = PaintedTexts::of(window);
+    QList<PaintedText> texts = RecordingDevice(window).texts();
     texts.removeIf([&](const PaintedText &text) { return isOutOfSight(text, window); });
+    if (texts.isEmpty())
+        report("no text seen", {}, window);
     m_shortened.clear();
     for (const PaintedText &text : texts)
         lookAtText(text, window, picture);
     for (auto view = m_shortened.cbegin(); view != m_shortened.cend(); ++view) {
         constexpr int Few = 2;
         if (view->size() > Few)
-            report(QStringLiteral("many cells shortened"), view->join(QLatin1String("\", \"")), *view.key());
+            report("many cells shortened", view->join("\", \""), *view.key());
     }
     lookAtNeighbours(texts, window);
-    lookAtNumbers(texts, window);
     lookAtChildren(window, picture);
-}
-
-// Those of a column are in line at their decimal points.
-void Judge::lookAtNumbers(const QList<PaintedText> &texts, const QWidget &window)
-{
-    static const QRegularExpression beforePoint(QStringLiteral("^[-+<>~]*[\\d,]+"));
-    std::map<std::pair<const QWidget *, int>, int> points;
-    for (const PaintedText &text : texts) {
-        const auto *list = qobject_cast<RowListView *>(viewOf(text.by));
-        const int column = list ? list->columnAt(text.by->mapFrom(&window, text.ink.center()).x()) : -1;
-        const auto number = beforePoint.match(text.text);
-        if (column < 0 || list->columns()[column].kind != ListColumn::Kind::Number || !number.hasMatch())
-            continue;
-        constexpr int Bearing = 3; // between the start of a text and its ink
-        const int point = text.ink.left() + list->fontMetrics().horizontalAdvance(number.captured());
-        if (qAbs(points.try_emplace({list, column}, point).first->second - point) > Bearing)
-            report(QStringLiteral("out of line"), text.text, *list);
-    }
 }
 
 void Judge::lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &window)
@@ -148,7 +210,7 @@ void Judge::lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &win
                 continue; // a sign in the gap of a formula
             const int gap = a.by == b.by ? 0 : 5;
             if (b.seen.intersects(a.seen.boundingRect().adjusted(-gap, 0, gap, 0)))
-                report(QStringLiteral("over \"%1\"").arg(a.text), b.text, window);
+                report(QString("over \"%1\"").arg(a.text), b.text, window);
         }
     }
 }
@@ -165,7 +227,7 @@ bool Judge::isOutOfSight(const PaintedText &text, const QWidget &window)
     for (const QPoint &place : places)
         covered += isCovered(*text.by, window, place) ? 1 : 0;
     if (covered > 0 && covered < places.size())
-        report(QStringLiteral("partly covered"), text.text, *text.by);
+        report("partly covered", text.text, *text.by);
     return covered == places.size();
 }
 
@@ -178,26 +240,25 @@ void Judge::lookAtText(const PaintedText &text, QWidget &window, const QImage &p
     if (view) // rows go on above and below
         cut &= QRect(text.ink.left(), seen.top(), text.ink.width(), seen.height());
     if (!cut.isEmpty())
-        report(
-            QStringLiteral("cut by %1 x %2").arg(cut.boundingRect().width()).arg(cut.boundingRect().height()),
-            text.text, at);
+        report(QString("cut by %1 x %2").arg(cut.boundingRect().width()).arg(cut.boundingRect().height()),
+               text.text, at);
     if (qobject_cast<const QAbstractButton *>(&at) &&
         !QRect(at.mapTo(&window, QPoint(2, 2)), at.size() - QSize(4, 4)).contains(text.ink))
-        report(QStringLiteral("on the edge"), text.text, at);
+        report("on the edge", text.text, at);
 
     if (text.text.contains(Ellipsis)) {
         const QString start = text.text.section(Ellipsis, 0, 0);
         const QString tip = view ? toolTipOfCell(*view, at.mapFrom(&window, seen.center())) : QString();
         if (tip.contains(Ellipsis) || !tip.startsWith(start) || tip.size() <= start.size())
-            report(QStringLiteral("shortened"), text.text, at);
+            report("shortened", text.text, at);
         if (view && text.text.front().isDigit() && start.size() < 8)
-            report(QStringLiteral("shortened number"), text.text, at);
+            report("shortened number", text.text, at);
         m_shortened[&at] << text.text;
     }
     const QColor behind = background(picture, text);
     if (at.isEnabled() && !isGiven(text.colour, behind, at) &&
         Readable::contrast(text.colour, behind) < Readable::TextContrast)
-        report(QStringLiteral("%1 on %2, contrast %3")
+        report(QString("%1 on %2, contrast %3")
                    .arg(text.colour.name(), behind.name())
                    .arg(Readable::contrast(text.colour, behind), 0, 'f', 1),
                text.text, at);
@@ -214,11 +275,10 @@ void Judge::lookAtChildren(QWidget &window, const QImage &picture)
                                qobject_cast<QAbstractButton *>(child) ||
                                qobject_cast<QAbstractItemView *>(child) || qobject_cast<QTabBar *>(child);
         if (bearsText && !parent.rect().contains(child->geometry()))
-            report(QStringLiteral("beyond its parent"), {}, *child);
+            report("beyond its parent", {}, *child);
         if (qobject_cast<QToolButton *>(child) &&
-            (qobject_cast<const QTabBar *>(&parent) ||
-             child->objectName().endsWith(QLatin1String("_ext_button"))))
-            report(QStringLiteral("no room for all of it"), {}, parent);
+            (qobject_cast<const QTabBar *>(&parent) || child->objectName().endsWith("_ext_button")))
+            report("no room for all of it", {}, parent);
         if (const auto *box = qobject_cast<QComboBox *>(child))
             lookAtBox(*box);
         const auto *field = qobject_cast<QLineEdit *>(child);
@@ -241,7 +301,7 @@ void Judge::lookAtEdge(const QWidget &field, const QWidget &window, const QImage
                                                  Readable::contrast(colourAt(x), colourAt(4))));
     }
     if (strongest < Seen)
-        report(QStringLiteral("edge is not seen, contrast %1").arg(strongest, 0, 'f', 1), {}, field);
+        report(QString("edge is not seen, contrast %1").arg(strongest, 0, 'f', 1), {}, field);
 }
 
 void Judge::lookAtBox(const QComboBox &box)
@@ -252,7 +312,7 @@ void Judge::lookAtBox(const QComboBox &box)
         box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box).width();
     for (int item = 0; item < box.count(); ++item) {
         if (box.fontMetrics().horizontalAdvance(box.itemText(item)) > room)
-            report(QStringLiteral("too long"), box.itemText(item), box);
+            report("too long", box.itemText(item), box);
     }
 }
 
@@ -272,5 +332,5 @@ void Judge::lookAtFocus(QWidget &control)
             marked += Readable::contrast(with.pixelColor(x, y), without.pixelColor(x, y)) > Visible ? 1 : 0;
     }
     if (control.hasFocus() && marked < Few)
-        report(QStringLiteral("focus is not seen"), {}, control);
+        report("focus is not seen", {}, control);
 }

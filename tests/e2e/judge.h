@@ -19,6 +19,9 @@ public:
     /// Judges whether @p control shows that it has the keyboard.
     void lookAtFocus(QWidget &control);
 
+    /// What @p window and all in it paint, in the order of painting.
+    static QStringList textsOf(QWidget &window);
+
     /// What was found since the last time, each once.
     QStringList takeFindings();
 
@@ -26,7 +29,6 @@ private:
     bool isOutOfSight(const PaintedText &text, const QWidget &window);
     void lookAtText(const PaintedText &text, QWidget &window, const QImage &picture);
     void lookAtNeighbours(const QList<PaintedText> &texts, const QWidget &window);
-    void lookAtNumbers(const QList<PaintedText> &texts, const QWidget &window);
     void lookAtChildren(QWidget &window, const QImage &picture);
     void lookAtBox(const QComboBox &box);
     void lookAtEdge(const QWidget &field, const QWidget &window, const QImage &picture);

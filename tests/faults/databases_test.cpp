@@ -1,8 +1,6 @@
+#include "tests/e2e/walk.h"
 #include "tests/store/sampledatabases.h"
 #include "tests/support/wholerun.h"
-#include "widgets/rowlistview.h"
-
-#include <QAbstractButton>
 
 /// Databases that a user has edited, or that are of another kind.
 class DatabasesTest final : public WholeRun
@@ -31,11 +29,11 @@ private Q_SLOTS:
             QString shown;
             qsizetype shownAfter = 0; // of a table that is read later
             const QString end = outcome(folder, [&](Form1 &form) {
-                shown = rowsOf(form, 1117, "ListView9").join(QLatin1Char(' '));
+                shown = rowsOf(form, 1117, "ListView9").join(' ');
                 shownAfter = rowsOf(form, 1133, "ListView3(26)").size();
             });
-            QVERIFY2(end == QStringLiteral("runs") && shown == QLatin1StringView(expected) && shownAfter == 2,
-                     qPrintable(QStringLiteral("%1: %2, %3").arg(QLatin1StringView(name), end, shown)));
+            QVERIFY2(end == "runs" && shown == expected && shownAfter == 2,
+                     qPrintable(QString("%1: %2, %3").arg(name, end, shown)));
         }
     }
 
@@ -64,16 +62,16 @@ private Q_SLOTS:
             const ProgramFolder folder;
             folder.write(Database, content);
             const QString end = outcome(folder);
-            QVERIFY2(end == QStringLiteral("question") && !m_cameUp && folder.read(Database) == content,
-                     qPrintable(QLatin1StringView(name) + QStringLiteral(": ") + end));
+            QVERIFY2(end == "question" && !m_cameUp && folder.read(Database) == content,
+                     qPrintable(QLatin1StringView(name) + QString(": ") + end));
         }
     }
 
     void aMissingTableAsksUnderTheSplash()
     {
         const ProgramFolder folder;
-        rename(folder, QStringLiteral("Masse"), QStringLiteral("Mosse"));
-        QCOMPARE(outcome(folder), QStringLiteral("question"));
+        rename(folder, "Masse", "Mosse");
+        QCOMPARE(outcome(folder), "question");
         QVERIFY(!m_cameUp);
         QCOMPARE(m_desktop.boxes.constFirst().second, Desktop::Critical + Desktop::YesNo);
     }
@@ -81,12 +79,33 @@ private Q_SLOTS:
     void aMissingColumnLeavesItsTableEmpty()
     {
         const ProgramFolder folder;
-        rename(folder, QStringLiteral("temp"), QStringLiteral("tomp")); // of the cooling mixtures
+        rename(folder, "temp", "tomp"); // of the cooling mixtures
         const QString end = outcome(folder, [&](Form1 &form) {
             QCOMPARE(rowsOf(form, 1117, "ListView9").size(), 0);
+            QVERIFY(get(form, "ListView9").accessibleDescription().contains("no column Refrigeration.temp"));
             QVERIFY(!rowsOf(form, 1118, "ListView8").isEmpty());
         });
-        QCOMPARE(end, QStringLiteral("runs"));
+        QCOMPARE(end, "runs");
+    }
+
+    void aRowWithoutASourceOrChangedSaysSo()
+    {
+        const auto cooling = [this](const ProgramFolder &folder) {
+            QString text;
+            run(folder, [&](Form1 &form) {
+                form.executeCommand(1117);
+                text = Walk::sourceOf(get(form, "ListView9"), Qt::Key_Down);
+            });
+            return text;
+        };
+        const ProgramFolder without;
+        rename(without, "source", "sauces");
+        QVERIFY(cooling(without).contains("No source is recorded for this row"));
+        const ProgramFolder changed;
+        changed.write(Database, changed.read(Database).replace("1,4-Dioxane + dry", "1,3-Dioxane + dry"));
+        const QString text = cooling(changed);
+        QVERIFY2(text.startsWith("1,3-Dioxane + dry ice, 12\nYou added or changed this row."),
+                 qPrintable(text));
     }
 
     void readingOnDemandFailsLikeTheStart()
@@ -96,28 +115,28 @@ private Q_SLOTS:
         const int status = run(folder, [&](Form1 &form) {
             form.executeCommand(1139);
             folder.write(Database, "no database");
-            get<QAbstractButton>(form, QStringLiteral("cmdReadTables(1)")).click();
+            get<QAbstractButton>(form, "cmdReadTables(1)").click();
         });
         QCOMPARE(status, 0);
         QCOMPARE(m_desktop.boxes.size(), 2); // the question, and that it is done
-        QCOMPARE(folder.read(Database), folder.read(QStringLiteral("Backup/Database_uk_origin.rbk")));
+        QCOMPARE(folder.read(Database), folder.read("Backup/Database_uk_origin.rbk"));
     }
 
 private:
-    inline static const QString Database = QStringLiteral("Data/Database_uk.mdb");
-    inline static const QString Table = QStringLiteral("Refrigeration");
+    inline static const QString Database = "Data/Database_uk.mdb";
+    inline static const QString Table = "Refrigeration";
 
     // What a list shows under its command, as "text|sub-item".
     static QStringList rowsOf(Form1 &form, int command, const char *list)
     {
         form.executeCommand(command);
-        const QAbstractItemModel &model = *get<RowListView>(form, QLatin1StringView(list)).model();
+        const QAbstractItemModel &model = *get<RowListView>(form, list).model();
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < model.columnCount(); ++column)
                 cells << model.index(row, column).data().toString();
-            rows << cells.join(QLatin1Char('|'));
+            rows << cells.join('|');
         }
         return rows;
     }

@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QUrl>
 
 namespace {
 
@@ -53,6 +54,7 @@ private Q_SLOTS:
             if (!report.options.isEmpty())
                 compare(report, "second", ReportTheme::Grayscale, report.options.mid(1));
         }
+        QVERIFY(m_pictures > 10);
     }
 
 private:
@@ -135,6 +137,13 @@ private:
                                       .remove(unnamed)
                                       .replace(Module1::version(), "@version")
                                       .toLatin1();
+        static const QRegularExpression picture("file:////opt/my%20lab/Alembra%20uk([^ >]+)");
+        for (auto found = picture.globalMatch(QString::fromLatin1(actual)); found.hasNext();) {
+            const QByteArray below = found.next().captured(1).replace('\\', '/').toLatin1();
+            const QString file = ALEMBRA_FOLDER + QUrl::fromPercentEncoding(below);
+            QVERIFY2(QFile::exists(file), qPrintable(file));
+            ++m_pictures;
+        }
         const QString name = QString("%1-%2.htm").arg(report.name, variant);
         QFile reviewed(QString(ALEMBRA_SOURCE "/tests/reports/pages/") + name);
         if (reviewed.open(QIODevice::ReadOnly) && reviewed.readAll() == actual)
@@ -145,6 +154,7 @@ private:
                      __LINE__);
     }
 
+    int m_pictures = 0;
     Module1 m_module;
     DataStore m_data;
 };
