@@ -104,10 +104,14 @@ QWidget *PlaceSwitch::controlOnScreen(const ModulePanel &pane) const
     QWidget *focused = m_form.focusWidget();
     if (focused && pane.isAncestorOf(focused) && Places::find(focused->objectName()))
         return focused;
-    for (const ListPlace &each : Places::all()) {
-        auto *list = pane.findChild<RowListView *>(each.list);
-        if (list && list->isVisibleTo(&pane) && Controls::isOnTop(*list, pane))
-            return list;
+    RowListView *found = nullptr;
+    const ListPlace *first = nullptr; // in the order of the table
+    for (auto *list : pane.findChildren<RowListView *>()) {
+        const ListPlace *where = Places::find(list->objectName());
+        if (where && (!first || where < first) && Controls::isOnTop(*list, pane)) {
+            found = list;
+            first = where;
+        }
     }
-    return nullptr;
+    return found;
 }
