@@ -32,10 +32,8 @@ CsvAction::CsvAction(const OwnActions &actions, const ListActions &lists, Module
 {
     QAction &action = actions.action(OwnAction::SaveCsv);
     connect(&action, &QAction::triggered, this, &CsvAction::save);
-    connect(&lists, &ListActions::changed, &action, [&] {
-        const RowListView *list = lists.list();
-        action.setEnabled(list && list->model()->rowCount() > 0);
-    });
+    connect(&lists, &ListActions::changed, &action,
+            [&action](const RowListView *list) { action.setEnabled(list && list->model()->rowCount() > 0); });
 }
 
 void CsvAction::save()

@@ -70,7 +70,7 @@ void ListActions::update()
     m_copyCell.setEnabled(!cell.isEmpty());
     m_copyRow.setEnabled(from && from->selectedRow() >= 0);
     m_copyTable.setEnabled(from && from->model()->rowCount() > 0);
-    Q_EMIT changed();
+    Q_EMIT changed(from);
 }
 
 RowListView *ListActions::list() const

@@ -25,8 +25,8 @@ public:
     RowListView *list() const;
 
 Q_SIGNALS:
-    /// The list, its rows or its selection may have changed.
-    void changed();
+    /// The list(), its rows or its selection may have changed.
+    void changed(const RowListView *list);
 
 private:
     void adopt(RowListView &list);

@@ -30,9 +30,8 @@ QList<NamedPlaces> namesOutsideTheStore(const OptionSlots &slots)
     return all << pages;
 }
 
-QString selectedName(const ListActions &lists)
+QString selectedName(const RowListView *list)
 {
-    const RowListView *list = lists.list();
     return list && list->selectedRow() >= 0 ? list->tableRow(list->selectedRow()).texts.value(0) : QString();
 }
 
@@ -45,9 +44,9 @@ SearchActions::SearchActions(const OwnActions &actions, const ListActions &lists
 {
     connect(&m_searchAll, &QAction::triggered, this, [this] { open({}); });
     QAction &searchThis = actions.action(OwnAction::SearchThis);
-    connect(&searchThis, &QAction::triggered, this, [this, &lists] { open(selectedName(lists)); });
-    connect(&lists, &ListActions::changed, &searchThis, [this, &lists, &searchThis] {
-        searchThis.setEnabled(m_form1.isEnabled() && !selectedName(lists).isEmpty());
+    connect(&searchThis, &QAction::triggered, this, [this, &lists] { open(selectedName(lists.list())); });
+    connect(&lists, &ListActions::changed, &searchThis, [this, &searchThis](const RowListView *list) {
+        searchThis.setEnabled(m_form1.isEnabled() && !selectedName(list).isEmpty());
     });
     for (const ListPlace &where : Places::all()) {
         if (where.rows)

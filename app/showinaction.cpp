@@ -24,32 +24,34 @@ constexpr QLatin1StringView AminoAcids("ListView3(9)");
 ShowInAction::ShowInAction(const OwnActions &actions, const ListActions &lists, History &history,
                            const RowLists &rows, Module1 &module, Desktop &desktop, QWidget &form1)
     : m_lists(lists), m_history(history), m_rows(rows), m_module(module), m_desktop(desktop), m_form1(form1),
-      m_compounds(rows), m_menu(new QMenu(&form1))
+      m_menu(new QMenu(&form1))
 {
     m_menu->setObjectName(u"mnuShowIn"_s);
     QAction &action = actions.action(OwnAction::ShowIn);
     action.setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, &ShowInAction::fill);
     connect(&lists, &ListActions::changed, &action,
-            [this, &action] { action.setEnabled(!targets().isEmpty()); });
+            [this, &action](const RowListView *list) { action.setEnabled(!targets(list).isEmpty()); });
+    for (const ListPlace &where : Places::all()) {
+        if (where.rows)
+            connect(&where.rows(rows), &RowList::reset, this, [this] { m_compounds.reset(); });
+    }
 }
 
-Place ShowInAction::selected() const
+QList<ShowInAction::Target> ShowInAction::targets(const RowListView *list)
 {
-    const RowListView *list = m_lists.list();
-    return list ? Place{list->objectName(), list->selectedRow()} : Place();
-}
-
-QList<ShowInAction::Target> ShowInAction::targets()
-{
-    const Place own = selected();
-    const QList<Place> others = m_compounds.of(own);
+    if (!list || list->selectedRow() < 0)
+        return {};
+    if (!m_compounds)
+        m_compounds.emplace(m_rows);
+    const Place own{list->objectName(), list->selectedRow()};
+    const QList<Place> others = m_compounds->of(own);
     QList<Target> found;
     for (const Place &place : others)
         found.append(
             {QString::fromUtf8(Places::find(place.list)->table), [this, place] { m_history.go(place); }});
     for (const Place &place : others + QList{own}) {
-        if (place.row >= 0 && (place.list == Solvents || place.list == AminoAcids))
+        if (place.list == Solvents || place.list == AminoAcids)
             found.append({u"Structure"_s, [this, place] { openStructure(place); }});
     }
     return found;
@@ -58,7 +60,7 @@ QList<ShowInAction::Target> ShowInAction::targets()
 void ShowInAction::fill()
 {
     m_menu->clear();
-    for (const Target &target : targets())
+    for (const Target &target : targets(m_lists.list()))
         connect(m_menu->addAction(target.caption), &QAction::triggered, this, target.show);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <functional>
+#include <optional>
 
 class Desktop;
 class History;
@@ -11,6 +12,7 @@ class ListActions;
 class OwnActions;
 class QAction;
 class QMenu;
+class RowListView;
 struct Module1;
 
 /// "Show in" of the menu Edit and of the lists' context menus: the other tables that have the compound of the
@@ -31,8 +33,7 @@ private:
         std::function<void()> show;
     };
 
-    Place selected() const;
-    QList<Target> targets();
+    QList<Target> targets(const RowListView *list);
     void fill();
     void openStructure(const Place &place);
 
@@ -42,6 +43,6 @@ private:
     Module1 &m_module;
     Desktop &m_desktop;
     QWidget &m_form1;
-    const SameCompound m_compounds;
+    std::optional<SameCompound> m_compounds; ///< none before they are asked for
     QMenu *m_menu;
 };

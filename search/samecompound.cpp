@@ -26,24 +26,16 @@ bool isOfCompounds(const ListPlace &place)
     return std::ranges::any_of(OfCompounds, [&](const char *each) { return qstrcmp(each, place.list) == 0; });
 }
 
-QString identity(const QHash<QString, QString> &known, const QString &name)
-{
-    const QString folded = name.toCaseFolded();
-    return known.value(folded, folded);
-}
-
-int firstRow(const RowList &list, const QHash<QString, QString> &known, const QString &compound)
-{
-    for (int row = 0; row < list.rowCount(); ++row) {
-        if (identity(known, list.text(row)) == compound)
-            return row;
-    }
-    return -1;
-}
-
 } // namespace
 
 SameCompound::SameCompound(const RowLists &lists) : m_lists(lists)
+{
+    readSynonyms();
+    readCasNumbers();
+    findPlaces();
+}
+
+void SameCompound::readSynonyms()
 {
     registerResource();
     QFile file(u":/synonyms.tsv"_s);
@@ -53,21 +45,39 @@ SameCompound::SameCompound(const RowLists &lists) : m_lists(lists)
         const QStringList cells = line.split(u'\t'); // compound, CAS number, other names, reason
         const QString compound = cells[1].isEmpty() ? cells[0].toCaseFolded() : cells[1];
         for (const QString &name : QStringList(cells[0]) + cells[2].split(u"; "_s))
-            m_synonyms.insert(name.toCaseFolded(), compound);
+            m_identities.insert(name.toCaseFolded(), compound);
     }
 }
 
-SameCompound::Identities SameCompound::withSolvents() const
+void SameCompound::readCasNumbers()
 {
     constexpr int CasNumber = 6;
-    Identities known = m_synonyms;
     const RowList &solvents = m_lists.ListView1;
     for (int row = 0; row < solvents.rowCount(); ++row) {
         const QString cas = solvents.subItem(row, CasNumber);
         if (!cas.isEmpty())
-            known.insert(solvents.text(row).toCaseFolded(), cas);
+            m_identities.insert(solvents.text(row).toCaseFolded(), cas);
     }
-    return known;
+}
+
+void SameCompound::findPlaces()
+{
+    for (const ListPlace &each : Places::all()) {
+        if (!isOfCompounds(each))
+            continue;
+        const RowList &list = each.rows(m_lists);
+        for (int row = 0; row < list.rowCount(); ++row) {
+            QList<Place> &places = m_places[identity(list.text(row))];
+            if (places.isEmpty() || places.constLast().list != QLatin1StringView(each.list))
+                places.append({each.list, row});
+        }
+    }
+}
+
+QString SameCompound::identity(const QString &name) const
+{
+    const QString folded = name.toCaseFolded();
+    return m_identities.value(folded, folded);
 }
 
 QList<Place> SameCompound::of(const Place &place) const
@@ -75,15 +85,7 @@ QList<Place> SameCompound::of(const Place &place) const
     const ListPlace *own = Places::find(place.list);
     if (!own || !isOfCompounds(*own) || place.row < 0 || place.row >= own->rows(m_lists).rowCount())
         return {};
-    const Identities known = withSolvents();
-    const QString compound = identity(known, own->rows(m_lists).text(place.row));
-    QList<Place> found;
-    for (const ListPlace &each : Places::all()) {
-        if (&each == own || !isOfCompounds(each))
-            continue;
-        const int row = firstRow(each.rows(m_lists), known, compound);
-        if (row >= 0)
-            found.append({each.list, row});
-    }
+    QList<Place> found = m_places.value(identity(own->rows(m_lists).text(place.row)));
+    found.removeIf([&](const Place &each) { return each.list == place.list; });
     return found;
 }

@@ -13,17 +13,19 @@
 class SameCompound final
 {
 public:
-    /// @p lists outlives it and is read anew on each call.
+    /// Of the rows that @p lists have now: make a new one when they change. @p lists outlives it.
     explicit SameCompound(const RowLists &lists);
 
     /// The first row in each other list, in the order of Places. None if @p place is not a compound's row.
     QList<Place> of(const Place &place) const;
 
 private:
-    using Identities = QHash<QString, QString>; ///< of names: a CAS number, or the name of the compound
-
-    Identities withSolvents() const;
+    void readSynonyms();
+    void readCasNumbers();
+    void findPlaces();
+    QString identity(const QString &name) const;
 
     const RowLists &m_lists;
-    Identities m_synonyms;
+    QHash<QString, QString> m_identities;  ///< of names: a CAS number, or the name of the compound
+    QHash<QString, QList<Place>> m_places; ///< of an identity: its first row in each list
 };
