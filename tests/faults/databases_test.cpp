@@ -1,5 +1,6 @@
 #include "tests/e2e/walk.h"
 #include "tests/store/sampledatabases.h"
+#include "tests/support/filetrouble.h"
 #include "tests/support/wholerun.h"
 
 /// Databases that a user has edited, or that are of another kind.
@@ -67,13 +68,36 @@ private Q_SLOTS:
         }
     }
 
+    void aLockedDatabaseIsRefusedToo()
+    {
+        for (const auto kind : {LockElsewhere::Record, LockElsewhere::WholeFile}) {
+            const ProgramFolder folder;
+            const LockElsewhere lock(folder.path(Database), kind);
+            QVERIFY(lock.isLocked());
+            QCOMPARE(outcome(folder), "question");
+            QVERIFY(!m_cameUp);
+        }
+    }
+
+    // The original is copied to a file that nobody opens.
     void aMissingTableAsksUnderTheSplash()
     {
         const ProgramFolder folder;
         rename(folder, "Masse", "Mosse");
         QCOMPARE(outcome(folder), "question");
         QVERIFY(!m_cameUp);
-        QCOMPARE(m_desktop.boxes.constFirst().second, Desktop::Critical + Desktop::YesNo);
+        QVERIFY(!QFile::exists(folder.path("Data/Database.mdb")));
+        const QByteArray before = folder.read(Database);
+        m_desktop.answers = {Desktop::Yes};
+        outcome(folder);
+        const QList<QPair<QString, int>> boxes{
+            {"Impossible to connect to the database! Do you want to reinstall the original database?", 20},
+            {"The original database was successfully reinstalled! Changes will be effective after restating "
+             "the program.",
+             64}};
+        QCOMPARE(m_desktop.boxes, boxes);
+        QVERIFY(!m_cameUp && folder.read(Database) == before);
+        QCOMPARE(folder.read("Data/Database.mdb"), folder.read("Backup/Database_uk_origin.rbk"));
     }
 
     void aMissingColumnLeavesItsTableEmpty()
