@@ -279,11 +279,3 @@ QString FormulaGroups::formula(const QString &abbreviation)
     });
     return found == Groups.end() ? QString() : QString::fromLatin1(found->formula);
 }
-
-QStringList FormulaGroups::all()
-{
-    QStringList names;
-    for (const Group &group : Groups)
-        names << QString::fromLatin1(group.abbreviation);
-    return names;
-}

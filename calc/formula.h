@@ -36,7 +36,4 @@ namespace FormulaGroups {
 /// What "Ac" or "Boc" is made of: "C2H3O". Empty if it is no group.
 QString formula(const QString &abbreviation);
 
-/// Every abbreviation, for the help and the search.
-QStringList all();
-
 } // namespace FormulaGroups

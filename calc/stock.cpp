@@ -4,7 +4,7 @@
 
 QList<StockReagent> StockReagents::parse(const QString &text)
 {
-    enum Column { Name, FormulaText, MolarMass, Percent, Density, Molarity, Safety, Source, Note, Columns };
+    enum Column { Name, Formula, MolarMass, Percent, Density, Molarity, Safety, Source, Note, Columns };
     QList<StockReagent> reagents;
     const QStringList lines = text.split(u'\n').sliced(1);
     for (const QString &line : lines) {
@@ -14,8 +14,7 @@ QList<StockReagent> StockReagents::parse(const QString &text)
         const auto number = [&](Column column) { return Numbers::parseInvariant(cells[column]).value_or(0); };
         const Stock stock{number(Percent), number(Density), number(MolarMass)};
         if (stock.isPossible())
-            reagents << StockReagent{cells[Name],   cells[FormulaText], stock,
-                                     cells[Safety], cells[Source],      cells[Note]};
+            reagents << StockReagent{cells[Name], stock, cells[Safety]};
     }
     return reagents;
 }

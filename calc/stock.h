@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QString>
-#include <optional>
 
 /// A concentrated reagent, with the figures on its bottle.
 struct Stock
@@ -31,11 +30,8 @@ struct Stock
 struct StockReagent
 {
     QString name; ///< with the strength: "Hydrochloric acid 37 %"
-    QString formula;
     Stock stock;
     QString safety; ///< one line
-    QString source; ///< keys of the documents
-    QString note;   ///< begins with the temperature of the density
 };
 
 namespace StockReagents {
