@@ -24,8 +24,7 @@ private Q_SLOTS:
     // there Tab and Shift+Tab come by every control once.
     void everyPaneHasNamesAndIsWalkedWithTab()
     {
-        const ProgramFolder folder;
-        run(folder, [this](Form1 &form) {
+        run([this](Form1 &form) {
             QVERIFY(QTest::qWaitForWindowActive(&form));
             get<QAbstractButton>(form, "Command7(25)").click(); // values to read
             QCOMPARE(QAccessible::queryAccessibleInterface(&get(form, "imgato"))->role(),
@@ -40,8 +39,7 @@ private Q_SLOTS:
 
     void everySideWindowHasNamesAndLetters()
     {
-        const ProgramFolder folder;
-        run(folder, [this](Form1 &form) {
+        run([this](Form1 &form) {
             Walk::throughSideWindows(form, [this](SideWindow &window) {
                 findUnnamed(window);
                 if (QStringList{"Formoptions", "frmAbout", "frmSearch"}.contains(window.objectName()))
@@ -54,8 +52,7 @@ private Q_SLOTS:
 
     void theFocusComesBackFromASideWindow()
     {
-        const ProgramFolder folder;
-        run(folder, [](Form1 &form) {
+        run([](Form1 &form) {
             QVERIFY(QTest::qWaitForWindowActive(&form));
             form.executeCommand(1119);
             QApplication::processEvents();

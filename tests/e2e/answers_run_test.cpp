@@ -1,24 +1,17 @@
 #include "app/placeswitch.h"
-#include "tests/support/files.h"
+#include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
-#include "widgets/rowlistview.h"
 
 #include <QAction>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
-#include <QTabBar>
 #include <QTreeWidget>
 
 /// What answers a question of the bench in a few steps, and paper, in whole runs of the program.
 class AnswersRunTest final : public WholeRun
 {
     Q_OBJECT
-
-    static void trigger(const Form1 &form, const char *action)
-    {
-        get<QAction>(form, QString::fromLatin1(action)).trigger();
-    }
 
     /// What the screen shows wrongly after going to the last row of @p where; empty if nothing.
     static QString missedAt(const ListPlace &where, Form1 &form)
@@ -41,56 +34,114 @@ class AnswersRunTest final : public WholeRun
         return form.focusWidget() == view ? QString() : QStringLiteral("has no focus");
     }
 
+    static QWidget &searchFor(Form1 &form, const char *text)
+    {
+        if (!QTest::qWaitFor([&] { return form.isActiveWindow() && form.focusWidget(); }))
+            qFatal("the main window has no focus");
+        QTest::keyClick(form.focusWidget(), Qt::Key_K, Qt::ControlModifier);
+        auto &field = get(form, "txtSearch");
+        QTest::keyClicks(&field, text);
+        return field;
+    }
+
+    static void type(const QWidget &window, const char *field, const QString &text)
+    {
+        QTest::keyClicks(&get(window, field), text);
+    }
+
+    static QString text(const QWidget &window, const char *label)
+    {
+        return get<QLabel>(window, label).text();
+    }
+
 private Q_SLOTS:
     void everyListIsWhereTheTableOfPlacesSays()
     {
-        const ProgramFolder folder;
-        folder.setOption(56, "0");
-        QCOMPARE(run(folder,
-                     [](Form1 &form) {
-                         for (const ListPlace &where : Places::all()) {
-                             if (where.command == 0)
-                                 continue;
-                             const QString missed = missedAt(where, form);
-                             QVERIFY2(missed.isEmpty(),
-                                      qPrintable(where.list + QStringLiteral(": ") + missed));
-                         }
-                         for (const RowListView *list : form.findChildren<RowListView *>())
-                             QVERIFY2(Places::find(list->objectName()), qPrintable(list->objectName()));
-                     }),
-                 0);
+        run([](Form1 &form) {
+            for (const ListPlace &where : Places::all()) {
+                if (where.command == 0)
+                    continue;
+                const QString missed = missedAt(where, form);
+                QVERIFY2(missed.isEmpty(), qPrintable(where.list + QStringLiteral(": ") + missed));
+            }
+            for (const RowListView *list : form.findChildren<RowListView *>())
+                QVERIFY2(Places::find(list->objectName()), qPrintable(list->objectName()));
+        });
     }
 
-    void anythingIsFoundAndTheWayBackToo()
+    // Each in two steps: Ctrl+K and what is typed. Enter leads to the row.
+    void questionsOfTheBench()
     {
-        const ProgramFolder folder;
-        folder.setOption(56, "0");
-        const auto steps = [](Form1 &form) {
+        const struct
+        {
+            const char *typed;
+            QString answer; ///< how the first one begins
+            QString list;
+        } questions[] = {
+            {"acetonitrile", "Acetonitrile|bp 81.6", "ListView1"},
+            {"acetonitrile immiscible", "Acetonitrile|non-miscible: Cyclohexane, Decane", "ListView6"},
+            {"2.05 CDCl3", "Ethyl acetate|CH3CO, s, CDCl3 2.05 ppm", "ListView4"},
+            {"m/z 58 43", "2-Heptanone|m/z 58 (78), 43 (100)", "ListView3(26)"},
+            {"pKa acetic acid", "Acetic acid|CH3COOH, pKa1 4.76", "ListView3(3)"},
+            {"alpha", "alpha-Pinene|bp 156.3", "ListView1"},
+            {"1715 cm-1", "Ketones|C=O stretch (saturated), 1725-1705 cm-1", "ListView3(27)"},
+            {"ice -20", "Ice + sodium chloride (3:1)|cools to -21 °C", "ListView9"},
+        };
+        run([&](Form1 &form) {
+            for (const auto &[typed, answer, list] : questions) {
+                QWidget &field = searchFor(form, typed);
+                const auto &answers = get<QTreeWidget>(form, "lstSearch");
+                QVERIFY2(answers.topLevelItemCount() > 0, typed);
+                const QTreeWidgetItem &first = *answers.topLevelItem(0);
+                QCOMPARE((first.text(0) + '|' + first.text(2)).left(answer.size()), answer);
+                QTest::keyClick(&field, Qt::Key_Return);
+                const Place place = get<PlaceSwitch>(form, QString()).current();
+                QCOMPARE(place.list, list);
+                const auto &shown = get<RowListView>(form, place.list);
+                QVERIFY(answer.startsWith(shown.model()->index(place.row, 0).data().toString() + '|'));
+            }
+        });
+    }
+
+    // Two steps: open "Show in", choose the table.
+    void fromThePropertiesOfAcetoneToItsShifts()
+    {
+        run([](Form1 &form) {
+            form.executeCommand(1119);
+            type(form, "ListView1", "acetone");
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+            QTest::keyClick(form.focusWidget(), Qt::Key_E, Qt::AltModifier);
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_I);
+            const auto &tables = get<QMenu>(form, "mnuShowIn");
+            QVERIFY(tables.isVisible());
+            for (int entry = 0; entry < tables.actions().size(); ++entry) {
+                if (tables.activeAction() && tables.activeAction()->text() == "Solvents, proton NMR")
+                    break;
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+            }
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+            const auto &shifts = get<RowListView>(form, "ListView4");
+            QVERIFY(shifts.isVisible());
+            QCOMPARE(shifts.model()->index(shifts.selectedRow(), 0).data().toString(), "Acetone");
+        });
+    }
+
+    void theWayBackAndForward()
+    {
+        run([](Form1 &form) {
             const auto &places = get<PlaceSwitch>(form, QString());
-            const auto searchFor = [&form](const QString &text) -> QWidget & {
-                if (!QTest::qWaitFor([&] { return form.isActiveWindow() && form.focusWidget(); }))
-                    qFatal("the main window has no focus");
-                QTest::keyClick(form.focusWidget(), Qt::Key_K, Qt::ControlModifier);
-                QWidget &window = get(form, "frmSearch");
-                QTest::keyClicks(&get(window, "txtSearch"), text);
-                return window;
-            };
             form.executeCommand(1120);
             get(form, "TextBoxM3").setFocus(); // a field has Ctrl+K for itself
-            QWidget &window = searchFor("bp acetonitrile");
-            const auto &answers = get<QTreeWidget>(window, "lstSearch");
-            const auto cell = [&](int column) { return answers.topLevelItem(0)->text(column); };
-            QCOMPARE(cell(0) + " | " + cell(1), "Acetonitrile | Solvents, properties");
-            QVERIFY2(cell(2).startsWith("bp 81.6, "), qPrintable(cell(2)));
-            QTest::keyClick(&get(window, "txtSearch"), Qt::Key_Down);
-            QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+            QTest::keyClick(&searchFor(form, "bp acetonitrile"), Qt::Key_Down);
+            const auto &answers = get<QTreeWidget>(form, "lstSearch");
+            QCOMPARE(answers.topLevelItem(0)->text(1), "Solvents, properties");
+            QTest::keyClick(answers.window()->focusWidget(), Qt::Key_Return);
             const Place row{"ListView1", 3};
-            QCOMPARE(places.current().list, row.list);
-            QTest::keyClick(&searchFor("a-pinene"), Qt::Key_Escape);
+            QVERIFY(places.current() == row);
+            QTest::keyClick(&searchFor(form, "a-pinene"), Qt::Key_Escape);
             QVERIFY(places.current() == row);
 
-            searchFor("codons of tryptophan");
-            QTest::keyClick(form.findChild<QWidget *>("txtSearch"), Qt::Key_Return);
+            QTest::keyClick(&searchFor(form, "codons of tryptophan"), Qt::Key_Return);
             QCOMPARE(get<QLineEdit>(form, "tbm(1)").text(), "UGG");
             QTest::keyClick(&form, Qt::Key_Left, Qt::AltModifier);
             QVERIFY(places.current() == row);
@@ -102,99 +153,80 @@ private Q_SLOTS:
             QTest::keyClick(&form, Qt::Key_Right, Qt::AltModifier);
             QVERIFY(places.current() == row);
 
-            searchFor("keyboard");
-            QTest::keyClick(form.findChild<QWidget *>("txtSearch"), Qt::Key_Return);
-            for (const QWidget *each : QApplication::topLevelWidgets()) {
-                if (each->objectName() == "frmHelpPages")
-                    QCOMPARE(get<QTreeWidget>(*each, "treHelpContents").currentItem()->text(0), "Keyboard");
-            }
-        };
-        QCOMPARE(run(folder, steps), 0);
+            QTest::keyClick(&searchFor(form, "keyboard"), Qt::Key_Return);
+            const QWidget *help = openWindow("frmHelpPages");
+            QVERIFY(help);
+            QCOMPARE(get<QTreeWidget>(*help, "treHelpContents").currentItem()->text(0), "Keyboard");
+        });
     }
 
     void molarMassOfAFormula()
     {
-        const ProgramFolder folder;
-        folder.setOption(56, "0"); // no tip
-        QCOMPARE(run(folder,
-                     [](Form1 &form) {
-                         form.executeCommand(1120);
-                         trigger(form, "actMolarMass");
-                         const QWidget &window = get(form, "frmFormula");
-                         auto &formula = get<QLineEdit>(window, "txtFormula");
-                         const QString answer = QStringLiteral("198.171 g/mol");
-                         QTest::keyClicks(&formula, "C6H12O6*H2O");
-                         QCOMPARE(get<QLabel>(window, "lblMass").text(), answer);
-                         form.restoreAndRaise(); // as a second start does
-                         QVERIFY(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
-                         QTest::keyClicks(&formula, "(");
-                         QCOMPARE(get<QLabel>(window, "lblMass").text(), "");
-                         QCOMPARE(get<QLabel>(window, "lblError").text(),
-                                  "After \"C6H12O6*H2O(\": an element is missing here");
-                         QVERIFY(!get<QPushButton>(window, "cmdPutM").isEnabled());
-                         QTest::keyClick(&formula, Qt::Key_Backspace);
-                         QTest::keyClick(&formula, Qt::Key_Return);
-                         const auto &mass = get<QLineEdit>(form, "TextBoxM5");
-                         QCOMPARE(mass.text(), "198.171");
-                         QTRY_COMPARE(form.focusWidget(), &mass);
-                     }),
-                 0);
+        run([](Form1 &form) {
+            form.executeCommand(1120);
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+            QTest::keyClick(&form, Qt::Key_M, Qt::ControlModifier);
+            const QWidget &window = get(form, "frmFormula");
+            type(window, "txtFormula", "C6H12O6*H2O");
+            QCOMPARE(text(window, "lblMass"), "198.171 g/mol");
+            form.restoreAndRaise(); // as a second start does
+            QVERIFY(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
+            type(window, "txtFormula", "(");
+            QCOMPARE(text(window, "lblMass"), "");
+            QCOMPARE(text(window, "lblError"), "After \"C6H12O6*H2O(\": an element is missing here");
+            QVERIFY(!get(window, "cmdPutM").isEnabled());
+            QTest::keyClick(&get(window, "txtFormula"), Qt::Key_Backspace);
+            QTest::keyClick(&get(window, "txtFormula"), Qt::Key_Return);
+            const auto &mass = get<QLineEdit>(form, "TextBoxM5");
+            QCOMPARE(mass.text(), "198.171");
+            QTRY_COMPARE(form.focusWidget(), &mass);
+        });
     }
 
     void stockSolutionAndDilution()
     {
-        const ProgramFolder folder;
-        folder.setOption(56, "0");
-        QCOMPARE(
-            run(folder,
-                [](Form1 &form) {
-                    form.executeCommand(1120);
-                    get<QPushButton>(form, "cmdStock").click();
-                    QWidget &window = get(form, "frmStock");
-                    QTest::keyClicks(&get<QLineEdit>(window, "txtConcentration"), "1");
-                    QTest::keyClicks(&get<QLineEdit>(window, "txtVolume"), "250");
-                    const QString wanted = QStringLiteral("20.8 mL (exactly 20.81 mL), made up to 250 mL");
-                    QCOMPARE(get<QLabel>(window, "lblStockVolume").text(), wanted);
-                    QCOMPARE(get<QLabel>(window, "lblStockMass").text(), "24.64 g (exactly 24.64 g)");
-                    QTest::keyClicks(&get<QLineEdit>(window, "txtTaken"), "20.8");
-                    QCOMPARE(get<QLabel>(window, "lblMade").text(), "0.9997 mol/L in 250 mL");
-                    QTest::keyClicks(&get<QLineEdit>(window, "txtConcentration"), "3"); // 13 mol/L
-                    QCOMPARE(get<QLabel>(window, "lblStockVolume").text(), "");
-                    QCOMPARE(get<QLabel>(window, "lblWarning").text(), "That is stronger than the bottle.");
-                    window.close();
+        run([](Form1 &form) {
+            form.executeCommand(1120);
+            get<QPushButton>(form, "cmdStock").click();
+            QWidget &window = get(form, "frmStock");
+            type(window, "txtConcentration", "1");
+            type(window, "txtVolume", "250");
+            QCOMPARE(text(window, "lblStockVolume"), "20.8 mL (exactly 20.81 mL), made up to 250 mL");
+            QCOMPARE(text(window, "lblStockMass"), "24.64 g (exactly 24.64 g)");
+            type(window, "txtTaken", "20.8");
+            QCOMPARE(text(window, "lblMade"), "0.9997 mol/L in 250 mL");
+            type(window, "txtConcentration", "3"); // 13 mol/L
+            QCOMPARE(text(window, "lblStockVolume"), "");
+            QCOMPARE(text(window, "lblWarning"), "That is stronger than the bottle.");
+            window.close();
 
-                    get<QTabBar>(form, "TabStrip4").setCurrentIndex(3);
-                    QTest::keyClicks(&get<QLineEdit>(form, "TextBoxM7(7)"), "0.0208");
-                    QTest::keyClicks(&get<QLineEdit>(form, "TextBoxM7(9)"), "0.25");
-                    QCOMPARE(get<QLabel>(form, "lblPlain").text(), "20.8 mL, made up to 250 mL; 1 in 12");
-                }),
-            0);
+            get<QTabBar>(form, "TabStrip4").setCurrentIndex(3);
+            type(form, "TextBoxM7(7)", "0.0208");
+            type(form, "TextBoxM7(9)", "0.25");
+            QCOMPARE(text(form, "lblPlain"), "20.8 mL, made up to 250 mL; 1 in 12");
+        });
     }
 
     void reportsOnPaper()
     {
-        const ProgramFolder folder;
-        folder.setOption(56, "0");
-        const QString file = folder.root() + "/acids.pdf";
-        m_desktop.savePaths = {file};
-        QCOMPARE(run(folder,
-                     [&](Form1 &form) {
-                         QVERIFY(get<QAction>(form, "actPdfReport").isEnabled()); // the elements
-                         form.executeCommand(1111);
-                         QVERIFY(!get<QAction>(form, "actPrintReport").isEnabled());
-                         form.executeCommand(1113);
-                         trigger(form, "actPdfReport");
-                         trigger(form, "actPrintReport");
-                         QWidget &preview = get(form, "frmPreview");
-                         QVERIFY(QTest::qWaitForWindowExposed(&preview));
-                         preview.close();
-                     }),
-                 0);
-        const QByteArray pdf = readFile(file);
+        const QTemporaryDir folder;
+        m_desktop.savePaths = {folder.filePath("acids.pdf")};
+        run([](Form1 &form) {
+            QVERIFY(get<QAction>(form, "actPdfReport").isEnabled()); // the elements
+            form.executeCommand(1111);
+            QVERIFY(!get<QAction>(form, "actPrintReport").isEnabled());
+            form.executeCommand(1113);
+            get<QAction>(form, "actPdfReport").trigger();
+            get<QAction>(form, "actPrintReport").trigger();
+            QWidget &preview = get(form, "frmPreview");
+            QVERIFY(QTest::qWaitForWindowExposed(&preview));
+            preview.close();
+        });
+        const QByteArray pdf = readFile(folder.filePath("acids.pdf"));
         QVERIFY(pdf.startsWith("%PDF-"));
         QVERIFY(pdf.count("/Type /Page\n") > 5);
     }
 };
 
-const TestClass<AnswersRunTest> answersRunTest;
+QTEST_MAIN(AnswersRunTest)
 #include "answers_run_test.moc"

@@ -132,8 +132,7 @@ private Q_SLOTS:
     // Every window stays on a display that is too small for it.
     void smallDisplay()
     {
-        const ProgramFolder folder;
-        run(folder, [](Form1 &form) {
+        run([](Form1 &form) {
             const QRect display = form.screen()->availableGeometry();
             QVERIFY(ModulePanel::Size.width() > display.width());
             QVERIFY(display.contains(form.frameGeometry()));

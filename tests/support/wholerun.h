@@ -22,6 +22,9 @@ protected:
         return run(folder.root(), {}, m_desktop, steps, session);
     }
 
+    /// As delivered and without an error.
+    void run(const Steps &steps) { QCOMPARE(run(ProgramFolder(), steps), 0); }
+
     int run(const QString &appFolder, const QString &shippedFolder, Desktop &desktop, const Steps &steps,
             const QJsonObject &session = {})
     {
@@ -50,11 +53,12 @@ protected:
         return boxes.join(QStringLiteral(" | "));
     }
 
-    static Form1 *mainWindow()
+    /// The window of that name, null where none is open.
+    static QWidget *openWindow(const char *name)
     {
         for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (auto *form = qobject_cast<Form1 *>(window))
-                return form;
+            if (window->objectName() == name && window->isVisible())
+                return window;
         }
         return nullptr;
     }
@@ -78,8 +82,8 @@ private:
         };
         QTimer complete; // not in an event loop of the start
         connect(&complete, &QTimer::timeout, this, [&] {
-            Form1 *form = mainWindow();
-            if (!form || !form->isVisible())
+            auto *form = qobject_cast<Form1 *>(openWindow("Form1"));
+            if (!form)
                 return;
             complete.stop();
             m_cameUp = true;
