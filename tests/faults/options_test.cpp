@@ -1,10 +1,8 @@
-#include "tests/support/filetrouble.h"
 #include "tests/support/wholerun.h"
 #include "widgets/tabstrip.h"
 
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRandomGenerator>
 #include <QStringEncoder>
 
 /// Options files that somebody has spoilt: the program starts with what can be read in them, or reports that
@@ -47,7 +45,6 @@ private Q_SLOTS:
             {"decimals beyond all measure", with({{0, "1E308"}})},
             {"switches that are texts", with({{53, "yes"}, {54, "XP"}, {56, "no"}, {86, "on"}, {88, "x"}})},
             {"switches beyond their values", with({{53, "2"}, {54, "99"}, {56, "7"}, {86, "1"}, {88, "-1"}})},
-            {"noise", noise(60), withoutSymbol},
         };
         for (const auto &[name, content, expected] : rows) {
             const ProgramFolder folder;
@@ -59,18 +56,6 @@ private Q_SLOTS:
             QCOMPARE(row + end, row + expected);
             QCOMPARE(folder.read("options_uk.ini"), content); // a start never writes it
         }
-    }
-
-    void forbidden()
-    {
-        const ProgramFolder folder;
-        const QString path = folder.path("options_uk.ini");
-        QVERIFY(QFile::setPermissions(path, {}));
-        QVERIFY(
-            QFile::setPermissions(folder.root(), QFile::Permissions(0x7755))); // the folder is no obstacle
-        const OrdinaryUser user;
-        QCOMPARE(outcome(folder), "report 75");
-        QVERIFY(m_desktop.boxes.constFirst().first.contains(path));
     }
 
 private:
@@ -90,14 +75,6 @@ private:
             lines.begin() + 1, lines.end(), [](const QByteArray &line) { return line.startsWith('"'); },
             name);
         return lines.join("\r\n") + "\r\n";
-    }
-
-    static QByteArray noise(int size)
-    {
-        QRandomGenerator random(1);
-        QByteArray bytes(size, '\0');
-        std::generate(bytes.begin(), bytes.end(), [&random] { return char(random.bounded(256)); });
-        return bytes;
     }
 
     // Every quantity and each of its units, with a number typed.
