@@ -1,4 +1,4 @@
-#include "tools/make_pictures/crystals.h"
+#include "tools/make_pictures/kinds.h"
 
 #include "tools/make_pictures/lattice.h"
 #include "tools/make_pictures/painting.h"

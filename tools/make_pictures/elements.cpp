@@ -1,5 +1,6 @@
 #include "tools/make_pictures/elements.h"
 
+#include "tools/make_pictures/kinds.h"
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/tables/table.h"

@@ -1,4 +1,4 @@
-#include "tools/make_pictures/geneticcode.h"
+#include "tools/make_pictures/kinds.h"
 
 #include "browsers/geneticcodepainter.h"
 #include "tools/make_pictures/painting.h"

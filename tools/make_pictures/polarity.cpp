@@ -1,4 +1,4 @@
-#include "tools/make_pictures/polarity.h"
+#include "tools/make_pictures/kinds.h"
 
 #include "browsers/polarities.h"
 #include "tools/make_pictures/painting.h"

@@ -1,4 +1,4 @@
-#include "tools/make_pictures/reactions.h"
+#include "tools/make_pictures/kinds.h"
 
 #include "charts/chartgeometry.h"
 #include "tools/make_pictures/painting.h"

@@ -1,4 +1,4 @@
-#include "tools/make_pictures/structures.h"
+#include "tools/make_pictures/kinds.h"
 
 #include "tools/make_pictures/formula.h"
 #include "tools/make_pictures/painting.h"
