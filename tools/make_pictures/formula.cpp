@@ -11,11 +11,6 @@
 
 namespace {
 
-RDKit::DrawColour drawColour(const QColor &colour)
-{
-    return {colour.redF(), colour.greenF(), colour.blueF()};
-}
-
 /// Draws the atom as @p label, or as @p leftwards where its bond is on its right.
 void setLabel(RDKit::Atom &atom, const std::string &label, const std::string &leftwards)
 {
@@ -117,7 +112,7 @@ Formula::Formula(RDKit::RWMol &molecule, const Style &style)
     options.atomLabelDeuteriumTritium = true;
     options.clearBackground = false;
     options.includeMetadata = false;
-    options.highlightColour = drawColour(style.mark);
+    options.highlightColour = {1, 0.824, 0.4}; // of the discs under marked atoms
     options.highlightRadius = 0.45;
     options.atomHighlightsAreCircles = true;
     RDKit::assignBWPalette(options.atomColourPalette);

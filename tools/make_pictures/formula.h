@@ -1,7 +1,6 @@
 // Structural formulas, laid out and drawn by RDKit.
 #pragma once
 
-#include <QColor>
 #include <QPointF>
 #include <QSizeF>
 #include <QString>
@@ -27,7 +26,6 @@ public:
     {
         double pixelsPerAngstrom;
         int fontPixels;
-        QColor mark = QColor(0xff, 0xd2, 0x66); ///< of the discs under marked atoms
     };
 
     /// Nothing if @p smiles is not a structure. It may bring labels and coordinates as CXSMILES; atoms with a

@@ -38,10 +38,15 @@ QImage blankPicture(int width, int height)
     return picture;
 }
 
+QColor mixed(const QColor &from, const QColor &to, double share)
+{
+    const auto mix = [share](int one, int other) { return int(std::lround(one + share * (other - one))); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
 QColor tint(const QColor &colour, double share)
 {
-    const auto mix = [share](int channel) { return int(std::lround(255 - share * (255 - channel))); };
-    return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
+    return mixed(Qt::white, colour, share);
 }
 
 QImage inGreys(const QImage &picture)

@@ -19,6 +19,9 @@ QFont textFont(int pixels, bool bold = false);
 /// A white picture.
 QImage blankPicture(int width, int height);
 
+/// The colour at @p share of the way from one to the other.
+QColor mixed(const QColor &from, const QColor &to, double share);
+
 /// The colour mixed with white; 0 gives white, 1 the colour itself.
 QColor tint(const QColor &colour, double share);
 

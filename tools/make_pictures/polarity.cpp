@@ -6,8 +6,6 @@
 
 #include <QLinearGradient>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -18,14 +16,6 @@ constexpr int Top = 52;
 constexpr int Bottom = 418;
 const QColor NonPolar(0xf2, 0xc4, 0x4d);
 const QColor Polar(0x3b, 0x78, 0xc2);
-
-/// The colour between the two ends, at @p share of the way to the polar one.
-QColor between(double share)
-{
-    const auto mix = [share](int from, int to) { return int(std::lround(from + share * (to - from))); };
-    return {mix(NonPolar.red(), Polar.red()), mix(NonPolar.green(), Polar.green()),
-            mix(NonPolar.blue(), Polar.blue())};
-}
 
 /// Paints an arrow on the left that grows wider and darker towards the polar end.
 void paintArrow(QPainter &painter)
@@ -49,7 +39,7 @@ void paintRung(QPainter &painter, int rung, const Polarity &polarity)
     constexpr int Rungs = int(Polarities.size()) + 1;
     constexpr double RungHeight = double(Bottom - Top) / Rungs;
     const QRectF row(48, Top + rung * RungHeight, Width - 54, RungHeight - 3);
-    const QColor colour = between(double(rung) / (Rungs - 1));
+    const QColor colour = mixed(NonPolar, Polar, double(rung) / (Rungs - 1));
     painter.setPen(Qt::NoPen);
     painter.setBrush(tint(colour, 0.3));
     painter.drawRoundedRect(row, 3, 3);

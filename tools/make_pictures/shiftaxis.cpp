@@ -76,7 +76,7 @@ void ShiftAxis::paintGrid(QPainter &painter, double top, double bottom) const
     }
 }
 
-void ShiftAxis::paint(QPainter &painter, double y, bool unit) const
+void ShiftAxis::paint(QPainter &painter, double y) const
 {
     painter.setPen(QPen(Ink, 1));
     painter.setFont(textFont(11));
@@ -89,8 +89,7 @@ void ShiftAxis::paint(QPainter &painter, double y, bool unit) const
         text.replace(u'-', u"−"_s);
         painter.drawText(QRectF(x - 30, y + 5, 60, 14), Qt::AlignCenter, text);
     }
-    if (unit)
-        painter.drawText(QRectF(m_right + 24, y + 2, 60, 20), Qt::AlignLeft | Qt::AlignVCenter, u"δ / ppm"_s);
+    painter.drawText(QRectF(m_right + 24, y + 2, 60, 20), Qt::AlignLeft | Qt::AlignVCenter, u"δ / ppm"_s);
 }
 
 void ShiftRange::paint(QPainter &painter, const ShiftAxis &axis, double top, double height,

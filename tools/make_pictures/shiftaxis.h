@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QColor>
-#include <QRectF>
+#include <QList>
 #include <QString>
 
 class QPainter;
@@ -18,17 +18,14 @@ public:
     static ShiftAxis around(double low, double high, double left, double right);
 
     double abscissa(double shift) const;
-    double left() const { return m_left; }
-    double right() const { return m_right; }
     double high() const { return m_high; }
     double low() const { return m_low; }
 
     /// Vertical lines at the ticks between @p top and @p bottom.
     void paintGrid(QPainter &painter, double top, double bottom) const;
 
-    /// The line with ticks and numbers below @p y, then "δ / ppm" right of it where @p unit is set. Takes 20
-    /// pixels.
-    void paint(QPainter &painter, double y, bool unit = true) const;
+    /// The line with ticks and numbers below @p y, then "δ / ppm" right of it. Takes 20 pixels.
+    void paint(QPainter &painter, double y) const;
 
 private:
     QList<double> ticks() const;
