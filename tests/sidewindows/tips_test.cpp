@@ -1,14 +1,13 @@
 #include "sidewindows/tips.h"
 #include "tests/support/files.h"
-#include "tests/support/filetrouble.h"
-#include "tests/support/testclass.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 class TipsTest final : public QObject
 {
     Q_OBJECT
+
+    const QTemporaryDir m_folder;
 
 private Q_SLOTS:
     void everyLineIsATip()
@@ -33,10 +32,6 @@ private Q_SLOTS:
         }
         for (const QString &none : {QString(), m_folder.filePath("none"), m_folder.path()})
             QVERIFY(!Tips::read(none));
-        QFile::setPermissions(path, {});
-        QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755)); // others may look
-        const OrdinaryUser user;
-        QVERIFY(errorOf([&] { Tips::read(path); }) != 0);
     }
 
     void drawsAgainUntilTheTipIsAnotherOne()
@@ -53,25 +48,6 @@ private Q_SLOTS:
                 QCOMPARE(Tips::next(current, count, [] { return 0.7; }), 1);
         }
     }
-
-    void theSettingOfTheUserCanTurnTipsOff()
-    {
-        const std::pair<QByteArray, bool> rows[] = {{"", true}, {"1", true}, {"0", false}, {"never", false}};
-        for (const auto &[setting, wanted] : rows) {
-            const QByteArray line =
-                setting.isEmpty() ? setting : "[Options]\nShow%20Tips%20at%20Startup=" + setting + '\n';
-            const QTemporaryDir home; // a file that is written again at once is not read again
-            QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
-            writeFile(home.filePath("Alembra/Alembra_uk.ini"), line);
-            bool isWanted = false;
-            QCOMPARE(errorOf([&] { isWanted = Tips::isWanted(); }),
-                     setting == "never" ? ErrorNumber::TypeMismatch : 0);
-            QCOMPARE(isWanted, wanted);
-        }
-    }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 const TestClass<TipsTest> tipsTest;
