@@ -12,10 +12,7 @@ namespace {
 const QByteArray Working("the working database");
 const QByteArray Original("the original");
 
-QPair<QString, int> box(const QString &text, int style)
-{
-    return {text, style};
-}
+using Box = QPair<QString, int>;
 
 /// A program folder with two databases, and a user who answers.
 struct Bench
@@ -28,7 +25,7 @@ struct Bench
     }
 
     // The box that was shown last.
-    QPair<QString, int> save(const QString &path, const QList<Desktop::Answer> &answers = {})
+    Box save(const QString &path, const QList<Desktop::Answer> &answers = {})
     {
         desktop.savePaths = {path};
         desktop.answers = answers;
@@ -64,7 +61,7 @@ private Q_SLOTS:
         Bench bench;
         bench.maintenance.DatabaseSaveCopy(); // cancelled
         QCOMPARE(bench.desktop.boxes.size(), 0);
-        QCOMPARE(bench.save(bench.folder.filePath("copy")), box("The database was successfully saved!", 64));
+        QCOMPARE(bench.save(bench.folder.filePath("copy")), Box("The database was successfully saved!", 64));
         QCOMPARE(readFile(bench.copy), Working);
         const Desktop::SaveRequest &request = bench.desktop.saveRequests.constFirst();
         QCOMPARE(request.fileName, QString("Database_uk_copy"));
@@ -79,7 +76,7 @@ private Q_SLOTS:
         writeFile(bench.copy, "old");
         const QString question =
             QString("The file '%1' already exists. Replace existing file?").arg(bench.copy);
-        QCOMPARE(bench.save(bench.copy, {Desktop::No}), box(question, 52));
+        QCOMPARE(bench.save(bench.copy, {Desktop::No}), Box(question, 52));
         QCOMPARE(readFile(bench.copy), QByteArray("old"));
         QCOMPARE(bench.desktop.saveRequests.size(), 2);
         QCOMPARE(bench.desktop.saveRequests.constLast().fileName, QString("Database_uk_copy"));
@@ -88,7 +85,7 @@ private Q_SLOTS:
             bench.restore(Desktop::No);
             QCOMPARE(bench.desktop.boxes.constLast().second, style);
         }
-        QCOMPARE(bench.save(bench.copy, {Desktop::No}), box(question, 84));
+        QCOMPARE(bench.save(bench.copy, {Desktop::No}), Box(question, 84));
         bench.save(bench.copy, {Desktop::Yes});
         QCOMPARE(readFile(bench.copy), Working);
         bench.maintenance.open();
@@ -99,7 +96,7 @@ private Q_SLOTS:
     {
         Bench bench;
         const auto inUse = [](const QString &path) {
-            return box(QString("Impossible to save, the file '%1' is in use.").arg(path), 48);
+            return Box(QString("Impossible to save, the file '%1' is in use.").arg(path), 48);
         };
         const QString link = bench.folder.filePath("link.mdb");
         QVERIFY(QFile::link(bench.database, link));
@@ -129,24 +126,12 @@ private Q_SLOTS:
     void targetsThatCannotBeWrittenAreReported()
     {
         Bench bench;
-        const QString closed = bench.folder.filePath("closed/copy.mdb");
-        QVERIFY(QDir().mkdir(QFileInfo(closed).path()));
-        QVERIFY(QFile::setPermissions(bench.folder.path(), QFile::Permissions(0x7755)));
-        QVERIFY(QFile::setPermissions(QFileInfo(closed).path(), QFile::Permissions(0x5555)));
-        {
-            const OrdinaryUser user;
-            bench.save(closed);
-        }
-        QCOMPARE(
-            bench.desktop.boxes.constLast(),
-            box(QString("Impossible to save '%1'. The file already exists and has a read-only attribute. "
-                        "Save it with a different name or in different folder.\n\n"
-                        "Reason: the folder is not writable.")
-                    .arg(closed),
-                48));
         QCOMPARE(mkfifo(QFile::encodeName(bench.copy).constData(), 0600), 0); // a copy would replace it
-        const QString refusal = bench.save(bench.copy).first;
-        QVERIFY2(refusal.endsWith("not a file."), qPrintable(refusal));
+        const QString refusal =
+            "Impossible to save '%1'. The file already exists and has a read-only attribute. "
+            "Save it with a different name or in different folder.\n\n"
+            "Reason: this is a pipe or a device, not a file.";
+        QCOMPARE(bench.save(bench.copy), Box(refusal.arg(bench.copy), 48));
     }
 
     void restoreReplacesTheWorkingDatabaseAfterYesAlone()
@@ -160,9 +145,9 @@ private Q_SLOTS:
         QCOMPARE(readFile(bench.database), Original);
         QCOMPARE(readFile(bench.backup), Original);
         QVERIFY(QFile::permissions(bench.database).testFlag(QFile::WriteOwner));
-        QCOMPARE(bench.desktop.boxes.at(1), box("Do you really want to restore the original database?", 68));
+        QCOMPARE(bench.desktop.boxes.at(1), Box("Do you really want to restore the original database?", 68));
         QCOMPARE(bench.desktop.boxes.at(2),
-                 box("The original database was successfully reinstalled! Changes will be effective after "
+                 Box("The original database was successfully reinstalled! Changes will be effective after "
                      "restating the program.",
                      64));
     }

@@ -3,7 +3,6 @@
 #include "store/datastore.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "widgets/tabstrip.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -100,20 +99,6 @@ private Q_SLOTS:
         }
     }
 
-    void otherBoxesStayOnAndDisabled()
-    {
-        Bench bench;
-        int fixed = 0;
-        for (const QCheckBox *box : bench.open().findChildren<QCheckBox *>()) {
-            const auto isBox = [&](const char *name) { return box->objectName() == name; };
-            if (std::none_of(Boxes.begin(), Boxes.end(), isBox)) {
-                ++fixed;
-                QVERIFY2(box->isChecked() && !box->isEnabled(), qPrintable(box->text()));
-            }
-        }
-        QCOMPARE(fixed, 14);
-    }
-
     void listsAndPairsShowAndStoreTheirSlots()
     {
         Bench bench({{54, "4"}, {88, "3"}, {89, "1"}});
@@ -167,18 +152,6 @@ private Q_SLOTS:
         bench.open();
         QVERIFY(bench.control<QComboBox>("Combo3").isEnabled() &&
                 bench.control<QCheckBox>("Check1(8)").isEnabled());
-    }
-
-    void oneFrameForEachTab()
-    {
-        Bench bench;
-        bench.open();
-        const char *frames[] = {"frmgen", "frmexport", "frmbdd", "frmstat"};
-        for (const int tab : {1, 2, 3, 4, 1}) {
-            bench.control<TabStrip>("TabStrip1").selectTab(tab);
-            for (const char *frame : frames)
-                QCOMPARE(!bench.control<QWidget>(frame).isHidden(), frame == frames[tab - 1]);
-        }
     }
 
     // Grid lines leave the infrared list as it is, but are taken off it.
