@@ -1,10 +1,7 @@
 #include "search/searcheverything.h"
 #include "store/tablecatalog.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
-
-#include <QTest>
 
 /// Numbers that a user looks up in the delivered tables.
 class NumbersTest final : public QObject
@@ -22,13 +19,15 @@ private Q_SLOTS:
         m_search = std::make_unique<SearchEverything>(m_store, QList<NamedPlaces>());
     }
 
-    void answersInTheirOrder_data()
+    void answersInTheirOrder()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QStringList>("first");
-
-        const auto row = [](const char *typed, const QStringList &first) {
-            QTest::newRow(typed) << QString::fromUtf8(typed) << first;
+        const auto row = [this](const char *typed, const QStringList &first) {
+            const SearchResult result = m_search->find(QString::fromUtf8(typed));
+            for (qsizetype index = 0; index < first.size(); ++index) {
+                const SearchAnswer answer = result.answers.value(index);
+                const QString found = answer.name + '|' + answer.values;
+                QCOMPARE(found.first(std::min(found.size(), first[index].size())), first[index]);
+            }
         };
         row("2.05 CDCl3",
             {"Ethyl acetate|CH3CO, s, CDCl3 2.05 ppm", "Dimethylacetamide|CH3CO, s, CDCl3 2.09 ppm"});
@@ -58,19 +57,6 @@ private Q_SLOTS:
         row("66 kDa", {"High range, 29,000 - 200,000 Da|Serum albumin (bovine), mass 66,000 Da"});
         row("−20 °C", {"Methanol + water (30:70) + dry ice|cools to -20 °C", "Propionic acid|mp -20.5"});
         row("ice -20", {"Ice + sodium chloride (3:1)|cools to -21 °C"});
-    }
-
-    void answersInTheirOrder()
-    {
-        QFETCH(const QString, typed);
-        QFETCH(const QStringList, first);
-
-        const SearchResult result = m_search->find(typed);
-        for (qsizetype index = 0; index < first.size(); ++index) {
-            const SearchAnswer answer = result.answers.value(index);
-            const QString found = answer.name + '|' + answer.values;
-            QCOMPARE(found.first(std::min(found.size(), first[index].size())), first[index]);
-        }
     }
 
     void saysWhatItUnderstood()

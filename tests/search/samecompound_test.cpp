@@ -1,7 +1,6 @@
 #include "search/samecompound.h"
 #include "store/tablecatalog.h"
 #include "tests/support/files.h"
-#include "tests/support/testclass.h"
 #include "tests/support/tsvsource.h"
 
 class SameCompoundTest final : public QObject

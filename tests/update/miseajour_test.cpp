@@ -1,7 +1,6 @@
 #include "core/buildsettings.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 #include "update/miseajour.h"
 #include "update/profilefile.h"
 #include "update/updatenetwork.h"

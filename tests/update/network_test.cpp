@@ -1,6 +1,5 @@
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
-#include "tests/support/testclass.h"
 #include "update/qtupdatenetwork.h"
 
 #include <QNetworkProxy>

@@ -51,19 +51,13 @@ private Q_SLOTS:
         QCOMPARE(m_view->model()->rowCount(), 0);
     }
 
-    void copiesAreTextAndTable()
+    void aCopiedTableIsHtmlToo()
     {
-        const QClipboard &clipboard = *QGuiApplication::clipboard();
-        m_view->selectRow(1);
-        m_view->copyRow();
-        QCOMPARE(clipboard.text(), "row 2\t2.5 g\ta long text that does not fit in its column, number 2");
         m_view->copyTable();
-        QCOMPARE(clipboard.text().count('\n'), 6);
-        QVERIFY(
-            clipboard.text().startsWith("Name\tValue (g)\tRemark\nrow 1\t1.5 g\ta long text that does not "
-                                        "fit in its column, number 1\nrow 2\t"));
-        QVERIFY(clipboard.mimeData()->html().contains("<td>Name</td><td>Value (g)</td><td>Remark</td></tr>"
-                                                      "<tr><td>row 1</td><td>1.5 g</td><td>a long"));
+        const QMimeData &copied = *QGuiApplication::clipboard()->mimeData();
+        QCOMPARE(copied.text().count('\n'), 6);
+        QVERIFY(copied.html().contains("<td>Name</td><td>Value (g)</td><td>Remark</td></tr>"
+                                       "<tr><td>row 1</td><td>1.5 g</td><td>a long"));
     }
 
     void rowsAreChosenByMouseAndKeyboardAlike()
