@@ -8,7 +8,6 @@
 #include "widgets/rowlistview.h"
 #include "widgets/structurewindow.h"
 
-#include <QFile>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;

@@ -10,7 +10,6 @@ class Desktop;
 class History;
 class ListActions;
 class OwnActions;
-class QAction;
 class QMenu;
 class RowListView;
 struct Module1;
