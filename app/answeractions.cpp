@@ -38,34 +38,30 @@ QList<StockReagent> stockReagents(const QString &file)
     }
 }
 
-} // namespace
-
-AnswerActions::AnswerActions(const OwnActions &actions, const Module1 &module, const DataStore &store,
-                             QWidget &form1)
-    : m_module(module), m_store(store), m_form1(form1), m_molarMass(actions.action(OwnAction::MolarMass)),
-      m_stock(actions.action(OwnAction::Stock))
+void openMolarMass(CalculationsPane &pane, const MemoryTables &tables, QWidget &form1)
 {
-    connect(&m_molarMass, &QAction::triggered, this, &AnswerActions::openMolarMass);
-    connect(&m_stock, &QAction::triggered, this, &AnswerActions::openStock);
-}
-
-void AnswerActions::connectTo(CalculationsPane &pane)
-{
-    m_pane = &pane;
-    connect(&pane, &CalculationsPane::molarMassWanted, &m_molarMass, &QAction::trigger);
-    connect(&pane, &CalculationsPane::stockWanted, &m_stock, &QAction::trigger);
-}
-
-void AnswerActions::openMolarMass()
-{
-    const QString field = m_pane && Controls::isShown(*m_pane) ? m_pane->massField() : QString();
-    auto *window = new frmFormula(atomicMasses(m_store.tables), field, m_form1);
-    connect(window, &frmFormula::massChosen, this, [this](const QString &mass) { m_pane->putMass(mass); });
+    const QString field = Controls::isShown(pane) ? pane.massField() : QString();
+    auto *window = new frmFormula(atomicMasses(tables), field, form1);
+    QObject::connect(window, &frmFormula::massChosen, &pane, &CalculationsPane::putMass);
     window->showAboveOwner();
 }
 
-void AnswerActions::openStock()
+void openStock(const Module1 &module, QWidget &form1)
 {
-    const QString file = m_module.shippedFile(u"stock_reagents.tsv"_s);
-    (new frmStock(stockReagents(file), m_form1))->showAboveOwner();
+    const QString file = module.shippedFile(u"stock_reagents.tsv"_s);
+    (new frmStock(stockReagents(file), form1))->showAboveOwner();
+}
+
+} // namespace
+
+void connectAnswerActions(const OwnActions &actions, CalculationsPane &pane, const Module1 &module,
+                          const DataStore &store, QWidget &form1)
+{
+    QAction &molarMass = actions.action(OwnAction::MolarMass);
+    QAction &stock = actions.action(OwnAction::Stock);
+    QObject::connect(&pane, &CalculationsPane::molarMassWanted, &molarMass, &QAction::trigger);
+    QObject::connect(&pane, &CalculationsPane::stockWanted, &stock, &QAction::trigger);
+    QObject::connect(&molarMass, &QAction::triggered, &form1,
+                     [&pane, &store, &form1] { openMolarMass(pane, store.tables, form1); });
+    QObject::connect(&stock, &QAction::triggered, &form1, [&module, &form1] { openStock(module, form1); });
 }

@@ -1,11 +1,13 @@
 #include "app/form1.h"
 
+#include "app/answeractions.h"
 #include "app/frmload.h"
 #include "app/history.h"
 #include "app/menulayout.h"
 #include "app/optionshost.h"
 #include "app/panescroll.h"
 #include "app/placeswitch.h"
+#include "app/printactions.h"
 #include "app/searchactions.h"
 #include "app/showinaction.h"
 #include "app/sourceaction.h"
@@ -47,11 +49,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
       m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
       m_csvAction(m_ownActions, m_listActions, module, desktop),
-      m_scaleActions(m_ownActions, scale, laterTables, *this),
-      m_answerActions(m_ownActions, module, store, *this),
-      m_printActions(
-          m_ownActions, m_reportSave, [this] { return reportContext(); }, *this),
-      m_tray(*this, module.OptionSlots)
+      m_scaleActions(m_ownActions, scale, laterTables, *this), m_tray(*this, module.OptionSlots)
 {
     setObjectName(u"Form1"_s);
     m_miseAjour1.setObjectName(u"MiseAjour1"_s);
@@ -73,8 +71,11 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
         *this);
-    m_sourceAction =
-        std::make_unique<SourceAction>(m_ownActions, m_listActions, *m_panes, module, desktop, *this);
+    connectAnswerActions(m_ownActions, *m_calculations, module, store, *this);
+    connectSourceAction(m_ownActions, m_listActions, *m_panes, module, desktop, *this);
+    connectPrintActions(
+        m_ownActions, m_commandBars.action(CommandId::Export), m_reportSave,
+        [this] { return reportContext(); }, *this);
     m_showInAction = std::make_unique<ShowInAction>(m_ownActions, m_listActions, *m_history, store.lists,
                                                     module, desktop, *this);
     m_focusKeeper = std::make_unique<FocusKeeper>(*this, *m_panes);
@@ -127,7 +128,6 @@ ModulePanel *Form1::makePanel(PanelId id)
         return m_solvents;
     case PanelId::Calculations:
         m_calculations = new CalculationsPane(m_module, m_desktop, m_store.lists, m_paneArea);
-        m_answerActions.connectTo(*m_calculations);
         return m_calculations;
     case PanelId::Solutions:
         return new SolutionsPane(m_store, m_paneArea);
@@ -323,11 +323,9 @@ void Form1::updateCommands()
     const bool searchable = m_panes->isShown(PanelId::Solvents) &&
                             (m_solvents->isListView1Shown() || m_solvents->isListView3_26Shown());
     m_commandBars.action(CommandId::Find).setEnabled(searchable || m_panes->isShown(PanelId::Elements));
-    const ReportContext shown = reportContext();
-    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(shown));
+    m_commandBars.action(CommandId::Export).setEnabled(ReportSave::hasReportFor(reportContext()));
     m_commandBars.action(CommandId::Print).setEnabled(false);
     m_listActions.update();
-    m_printActions.update(shown);
 }
 
 void Form1::closeEvent(QCloseEvent *event)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/answeractions.h"
 #include "app/commandbars.h"
 #include "app/csvaction.h"
 #include "app/focuskeeper.h"
@@ -8,7 +7,6 @@
 #include "app/listactions.h"
 #include "app/ownactions.h"
 #include "app/paneswitch.h"
-#include "app/printactions.h"
 #include "app/scaleactions.h"
 #include "app/trayicon.h"
 #include "reports/reportsave.h"
@@ -30,7 +28,6 @@ class PlaceSwitch;
 class ReactionsPane;
 class SearchActions;
 class ShowInAction;
-class SourceAction;
 class SolventsPane;
 class SpectroscopyPane;
 class TableLoader;
@@ -101,8 +98,6 @@ private:
     CsvAction m_csvAction;
     HelpOpener m_help{m_module, m_desktop, m_ownActions.action(OwnAction::HelpPages)};
     ScaleActions m_scaleActions;
-    AnswerActions m_answerActions;
-    PrintActions m_printActions;
     TrayIcon m_tray;
     QLabel *m_panel1;
     QLabel *m_panel3;
@@ -117,7 +112,6 @@ private:
     PlaceSwitch *m_places;
     std::unique_ptr<History> m_history;
     std::unique_ptr<SearchActions> m_searchActions;
-    std::unique_ptr<SourceAction> m_sourceAction;
     std::unique_ptr<ShowInAction> m_showInAction;
     std::unique_ptr<FocusKeeper> m_focusKeeper;
     FocusMark m_focusMark;

@@ -11,25 +11,26 @@
 
 #include <QAction>
 
-SourceAction::SourceAction(const OwnActions &actions, const ListActions &lists, const PaneSwitch &panes,
-                           const Module1 &module, Desktop &desktop, QWidget &form)
-    : m_lists(lists), m_panes(panes), m_module(module), m_desktop(desktop), m_form(form)
-{
-    connect(&actions.action(OwnAction::WhereFrom), &QAction::triggered, this, &SourceAction::open);
-}
+namespace {
 
-void SourceAction::open()
+TableRow rowInQuestion(const RowListView *list, const PaneSwitch &panes)
 {
-    const RowListView *list = m_lists.list();
-    QWidget &owner = list ? *list->window() : m_form;
-    (new frmSource(rowInQuestion(), m_module.AppFolder, m_desktop, owner))->showAboveOwner();
-}
-
-TableRow SourceAction::rowInQuestion() const
-{
-    const RowListView *list = m_lists.list();
     if (list && list->selectedRow() >= 0)
         return list->tableRow(list->selectedRow());
-    const ModulePanel *pane = m_panes.shownPanel();
+    const ModulePanel *pane = panes.shownPanel();
     return pane ? pane->currentRow() : TableRow();
+}
+
+} // namespace
+
+void connectSourceAction(const OwnActions &actions, const ListActions &lists, const PaneSwitch &panes,
+                         const Module1 &module, Desktop &desktop, QWidget &form)
+{
+    QObject::connect(
+        &actions.action(OwnAction::WhereFrom), &QAction::triggered, &form,
+        [&lists, &panes, &module, &desktop, &form] {
+            const RowListView *list = lists.list();
+            QWidget &owner = list ? *list->window() : form;
+            (new frmSource(rowInQuestion(list, panes), module.AppFolder, desktop, owner))->showAboveOwner();
+        });
 }
