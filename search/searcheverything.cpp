@@ -80,7 +80,7 @@ QString nameOf(const ListPlace &where)
 } // namespace
 
 SearchEverything::SearchEverything(const DataStore &store, const QList<NamedPlaces> &others)
-    : m_numbers(store)
+    : m_names(store.lists.ListView1), m_numbers(store)
 {
     for (const ListPlace &where : Places::all()) {
         const QString list = QLatin1StringView(where.list);
@@ -115,7 +115,7 @@ void SearchEverything::add(Source source)
             if (column.use == AnswerColumn::Searched)
                 texts << source.cell(row, column.cell);
         }
-        m_index.addRow(texts);
+        m_index.addRow(texts + m_names.synonyms(texts.constFirst()));
     }
     m_sources << std::move(source);
 }

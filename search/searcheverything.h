@@ -1,5 +1,6 @@
 #pragma once
 
+#include "search/compoundnames.h"
 #include "search/numberanswers.h"
 #include "search/places.h"
 #include "search/searchindex.h"
@@ -71,6 +72,7 @@ private:
     static QString ingredients(const Source &source, int title);
 
     QList<Source> m_sources; ///< in the order of the index
+    CompoundNames m_names;
     SearchIndex m_index;
     NumberAnswers m_numbers;
 };
