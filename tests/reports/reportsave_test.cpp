@@ -113,41 +113,27 @@ private Q_SLOTS:
         const QString inTheWay =
             "Impossible to save '%1'. The file already exists and has a read-only attribute. "
             "Save it with a different name or in a different folder.\n\nReason: ";
-        const auto yes = Desktop::Yes;
+        constexpr int OtherName = 3; // is asked for, and cancelled
         const struct
         {
             QString name;
             QByteArray before; ///< content of the file, null: none
-            std::function<void()> trouble;
-            QList<Desktop::Answer> answers;
             QStringList boxes;
-            int dialogs; ///< the second is cancelled
             int probed;
+            std::function<void()> trouble = {};
         } rows[] = {
-            {"empty.htm", "", {}, {}, {}, 1, 0},
-            {"yes.htm", QByteArray(100000, 'x'), {}, {yes}, {question}, 1, 0},
-            {"no.htm", "old", {}, {Desktop::No}, {question}, 2, 3},
-            {"read-only.htm", "old", [&] { forbidWriting(); }, {yes}, {question, readOnly}, 2, 3},
-            {"locked.htm", "old", [&] { lock(); }, {yes}, {question, inUse}, 2, 3},
+            {"empty.htm", "", {}, 0},
+            {"yes.htm", QByteArray(100000, 'x'), {question}, 0},
+            {"no.htm", "old", {question}, OtherName},
+            {"read-only.htm", "old", {question, readOnly}, OtherName, [&] { forbidWriting(); }},
+            {"locked.htm", "old", {question, inUse}, OtherName, [&] { lock(); }},
             // Without a length there is no question: the writer finds the lock.
-            {"empty-locked.htm", "", [&] { lock(); }, {}, {locked}, 1, 70},
-            {"folder.htm", {}, [&] { QDir().mkpath(m_path); }, {}, {inTheWay + "this is a folder."}, 1, 75},
-            {"pipe.htm",
-             {},
-             [&] { mkfifo(QFile::encodeName(m_path).constData(), 0600); },
-             {},
-             {inTheWay + "this is a pipe or a device, not a file."},
-             1,
-             75},
-            {QString(260, 'x') + ".htm", {}, {}, {}, {inTheWay + "the name is too long."}, 1, 75},
-            {"closed/report.htm",
-             {},
-             [&] { closeFolder(); },
-             {},
-             {inTheWay + "the folder is not writable."},
-             1,
-             75},
-            {"none/report.htm", {}, {}, {}, {}, 1, 76},
+            {"empty-locked.htm", "", {locked}, 70, [&] { lock(); }},
+            {"folder.htm", {}, {inTheWay + "this is a folder."}, 75, [&] { QDir().mkpath(m_path); }},
+            {"pipe.htm", {}, {inTheWay + "this is a pipe or a device, not a file."}, 75, [&] { makePipe(); }},
+            {QString(260, 'x') + ".htm", {}, {inTheWay + "the name is too long."}, 75},
+            {"closed/report.htm", {}, {inTheWay + "the folder is not writable."}, 75, [&] { closeFolder(); }},
+            {"none/report.htm", {}, {}, 76},
         };
         for (const auto &row : rows) {
             init();
@@ -156,14 +142,14 @@ private Q_SLOTS:
                 writeFile(m_path, row.before);
             if (row.trouble)
                 row.trouble();
-            m_desktop->answers = row.answers;
+            m_desktop->answers = {row.name == "no.htm" ? Desktop::No : Desktop::Yes};
             save({m_path});
             m_trouble.reset();
             QList<QPair<QString, int>> boxes;
             for (const QString &box : row.boxes)
                 boxes.append({box.arg(m_path), box == question ? 52 : 48});
             QCOMPARE(m_desktop->boxes, boxes);
-            QCOMPARE(offered(), QStringList(row.dialogs, "Solutions"));
+            QCOMPARE(offered(), QStringList(row.probed == OtherName ? 2 : 1, "Solutions"));
             QCOMPARE(m_module->ProbedLength, row.probed);
             if (row.probed == 0)
                 QVERIFY(readFile(m_path).startsWith("<html>") &&
@@ -222,6 +208,7 @@ private:
     // By the permission bits, whether or not this process could write all the same.
     void forbidWriting() const { QFile::setPermissions(m_path, QFile::ReadOwner); }
     void lock() { m_trouble = std::make_shared<LockElsewhere>(m_path); }
+    void makePipe() const { mkfifo(QFile::encodeName(m_path).constData(), 0600); }
     void closeFolder()
     {
         QDir().mkpath(path("closed"));
