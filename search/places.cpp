@@ -5,6 +5,7 @@
 namespace {
 
 using enum AnswerColumn::Use;
+using enum ListPlace::Content;
 
 constexpr AnswerColumn Properties[]{{4, "bp", "°C"},  {3, "mp", "°C"}, {1, "M", "g/mol"},
                                     {2, "d", "kg/L"}, {5, "n"},        {6, "CAS", "", Searched}};
@@ -91,43 +92,38 @@ const RowList &list(const RowLists &lists)
     return lists.*List;
 }
 
-const RowList &aminoAcids(const RowLists &lists)
-{
-    return lists.Comb2;
-}
-
 // clang-format off
 constexpr ListPlace Table[]{
-    {"ListView1", "Solvents, properties", 1119, nullptr, 0, nullptr, list<&RowLists::ListView1>, Properties},
+    {"ListView1", "Solvents, properties", 1119, nullptr, 0, nullptr, list<&RowLists::ListView1>, Properties, Compounds},
     {Places::Elements, "Elements", 1108, nullptr, 0, nullptr, nullptr, Elements},
-    {"ListView3(2)", "Acid/base couples, inorganic", SolutionsPane, "TabStrip2", 0, "Option4(0)", ListView3<2>, AcidCouples},
-    {"ListView3(3)", "Acid/base couples, organic", SolutionsPane, "TabStrip2", 0, "Option4(1)", ListView3<3>, AcidCouples},
-    {"ListView3(9)", "Natural amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(0)", ListView3<9>, NaturalAcids},
-    {"Comb2", "Genetic code, codons", BiochemistryPane, nullptr, 0, "Option3(1)", aminoAcids, Codons},
-    {"ListView3(10)", "Synthetic amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(1)", ListView3<10>, SyntheticAcids},
-    {"ListView6", "Solvents, miscibility and polarity", 1116, nullptr, 0, nullptr, list<&RowLists::ListView6>, Miscibilities},
-    {"ListView4", "Solvents, proton NMR", 1115, nullptr, 0, "Option1", list<&RowLists::ListView4>, ProtonShifts},
-    {"ListView5", "Solvents, carbon NMR", 1115, nullptr, 0, "Option2", list<&RowLists::ListView5>, CarbonShifts},
-    {"ListView3(26)", "Solvents, mass spectrometry", 1133, nullptr, 0, nullptr, ListView3<26>, Peaks},
-    {"ListView8", "Solvents, drying", 1118, nullptr, 0, nullptr, list<&RowLists::ListView8>, DryingAgents},
+    {"ListView3(2)", "Acid/base couples, inorganic", SolutionsPane, "TabStrip2", 0, "Option4(0)", ListView3<2>, AcidCouples, Compounds},
+    {"ListView3(3)", "Acid/base couples, organic", SolutionsPane, "TabStrip2", 0, "Option4(1)", ListView3<3>, AcidCouples, Compounds},
+    {"ListView3(9)", "Natural amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(0)", ListView3<9>, NaturalAcids, Compounds},
+    {"Comb2", "Genetic code, codons", BiochemistryPane, nullptr, 0, "Option3(1)", list<&RowLists::Comb2>, Codons, Compounds},
+    {"ListView3(10)", "Synthetic amino acids", BiochemistryPane, "TabStrip9", 0, "Option5(1)", ListView3<10>, SyntheticAcids, Compounds},
+    {"ListView6", "Solvents, miscibility and polarity", 1116, nullptr, 0, nullptr, list<&RowLists::ListView6>, Miscibilities, Compounds},
+    {"ListView4", "Solvents, proton NMR", 1115, nullptr, 0, "Option1", list<&RowLists::ListView4>, ProtonShifts, Compounds},
+    {"ListView5", "Solvents, carbon NMR", 1115, nullptr, 0, "Option2", list<&RowLists::ListView5>, CarbonShifts, Compounds},
+    {"ListView3(26)", "Solvents, mass spectrometry", 1133, nullptr, 0, nullptr, ListView3<26>, Peaks, Compounds},
+    {"ListView8", "Solvents, drying", 1118, nullptr, 0, nullptr, list<&RowLists::ListView8>, DryingAgents, Compounds},
     {"ListView9", "Cooling mixtures", 1117, nullptr, 0, nullptr, list<&RowLists::ListView9>, Temperatures},
     {"ListView3(4)", "RedOx couples", SolutionsPane, "TabStrip2", 1, nullptr, ListView3<4>, RedoxCouples},
     {"ListView3(24)", "Solubility of salts", SolutionsPane, "TabStrip10", 0, nullptr, ListView3<24>, Salts},
     {"ListView3(25)", "Formation of complexes", SolutionsPane, "TabStrip10", 1, nullptr, ListView3<25>, Complexes},
-    {"ListView3(0)", "Indicators, Merck", SolutionsPane, "TabStrip7", 0, "Option4(2)", ListView3<0>, Indicators},
-    {"ListView3(1)", "Indicators, Riedel-deHaën", SolutionsPane, "TabStrip7", 0, "Option4(3)", ListView3<1>, Indicators},
-    {"ListView3(6)", "Indicators, fluorescence", SolutionsPane, "TabStrip7", 1, nullptr, ListView3<6>, Indicators},
-    {"ListView3(7)", "Fluorochroms, Carl-Zeiss", SolutionsPane, nullptr, 0, "Option4(4)", ListView3<7>, Fluorochromes},
-    {"ListView3(8)", "Fluorochroms, Olympus", SolutionsPane, nullptr, 0, "Option4(5)", ListView3<8>, Fluorochromes},
-    {"ListView3(11)", "Pyrimidines", BiochemistryPane, "TabStrip9", 1, "Option5(2)", ListView3<11>, Bases},
-    {"ListView3(13)", "Purines", BiochemistryPane, "TabStrip9", 1, "Option5(3)", ListView3<13>, Bases},
-    {"ListView3(14)", "Carbohydrates", BiochemistryPane, "TabStrip9", 2, nullptr, ListView3<14>, Sugars},
-    {"ListView3(12)", "Fatty acids", BiochemistryPane, "TabStrip9", 3, nullptr, ListView3<12>, FattyAcids},
-    {"ListView3(21)", "SDS-PAGE, stock solutions", BiochemistryPane, "TabStrip8", 2, nullptr, ListView3<21>, Recipe, true},
-    {"ListView3(22)", "SDS-PAGE, resolving gel", BiochemistryPane, "TabStrip8", 3, "Option4(8)", ListView3<22>, ResolvingGels, true},
-    {"ListView3(23)", "SDS-PAGE, stacking gel", BiochemistryPane, "TabStrip8", 3, "Option4(9)", ListView3<23>, StackingGel, true},
-    {"ListView3(19)", "SDS-PAGE, staining with Coomassie blue", BiochemistryPane, "TabStrip8", 4, "Option4(7)", ListView3<19>, Recipe, true},
-    {"ListView3(20)", "SDS-PAGE, staining with silver", BiochemistryPane, "TabStrip8", 4, "Option4(6)", ListView3<20>, Recipe, true},
+    {"ListView3(0)", "Indicators, Merck", SolutionsPane, "TabStrip7", 0, "Option4(2)", ListView3<0>, Indicators, Compounds},
+    {"ListView3(1)", "Indicators, Riedel-deHaën", SolutionsPane, "TabStrip7", 0, "Option4(3)", ListView3<1>, Indicators, Compounds},
+    {"ListView3(6)", "Indicators, fluorescence", SolutionsPane, "TabStrip7", 1, nullptr, ListView3<6>, Indicators, Compounds},
+    {"ListView3(7)", "Fluorochroms, Carl-Zeiss", SolutionsPane, nullptr, 0, "Option4(4)", ListView3<7>, Fluorochromes, Compounds},
+    {"ListView3(8)", "Fluorochroms, Olympus", SolutionsPane, nullptr, 0, "Option4(5)", ListView3<8>, Fluorochromes, Compounds},
+    {"ListView3(11)", "Pyrimidines", BiochemistryPane, "TabStrip9", 1, "Option5(2)", ListView3<11>, Bases, Compounds},
+    {"ListView3(13)", "Purines", BiochemistryPane, "TabStrip9", 1, "Option5(3)", ListView3<13>, Bases, Compounds},
+    {"ListView3(14)", "Carbohydrates", BiochemistryPane, "TabStrip9", 2, nullptr, ListView3<14>, Sugars, Compounds},
+    {"ListView3(12)", "Fatty acids", BiochemistryPane, "TabStrip9", 3, nullptr, ListView3<12>, FattyAcids, Compounds},
+    {"ListView3(21)", "SDS-PAGE, stock solutions", BiochemistryPane, "TabStrip8", 2, nullptr, ListView3<21>, Recipe, Recipes},
+    {"ListView3(22)", "SDS-PAGE, resolving gel", BiochemistryPane, "TabStrip8", 3, "Option4(8)", ListView3<22>, ResolvingGels, Recipes},
+    {"ListView3(23)", "SDS-PAGE, stacking gel", BiochemistryPane, "TabStrip8", 3, "Option4(9)", ListView3<23>, StackingGel, Recipes},
+    {"ListView3(19)", "SDS-PAGE, staining with Coomassie blue", BiochemistryPane, "TabStrip8", 4, "Option4(7)", ListView3<19>, Recipe, Recipes},
+    {"ListView3(20)", "SDS-PAGE, staining with silver", BiochemistryPane, "TabStrip8", 4, "Option4(6)", ListView3<20>, Recipe, Recipes},
     {"ListView3(18)", "SDS-PAGE, protein standards", BiochemistryPane, "TabStrip8", 1, nullptr, ListView3<18>, Standards},
     {"ListView3(17)", "SDS-PAGE, separation", BiochemistryPane, "TabStrip8", 0, nullptr, ListView3<17>, Separations},
     {"ListView3(27)", "Infrared, table", 1145, nullptr, 0, nullptr, ListView3<27>, Bands},

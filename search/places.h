@@ -27,6 +27,12 @@ struct AnswerColumn
 /// Where a list is seen.
 struct ListPlace
 {
+    enum Content {
+        Any,
+        Compounds, ///< each row begins with the name of one
+        Recipes    ///< rows with a name only are titles of those below
+    };
+
     const char *list;  ///< object name of the control: "ListView3(26)"; of a pane without lists its frame
     const char *table; ///< what users call it
     int command;       ///< shows the pane, in some cases with tab; 0 for a window of its own
@@ -35,7 +41,7 @@ struct ListPlace
     const char *option = nullptr;                       ///< object name of the radio button
     const RowList &(*rows)(const RowLists &) = nullptr; ///< null: its rows are not a RowList
     std::span<const AnswerColumn> columns = {};
-    bool recipes = false; ///< rows with a name only are titles of those below
+    Content content = Any;
 };
 
 /// The one table of where each list is seen. Search, history and "Show in" use it.

@@ -194,7 +194,7 @@ SearchAnswer SearchEverything::answer(const Source &source, int row)
                         nameOf(*source.where),
                         values(source, row),
                         {QLatin1StringView(source.where->list), row / source.rowsOfPlace}};
-    if (!source.where->recipes)
+    if (source.where->content != ListPlace::Recipes)
         return answer;
     const int title = titleOf(source, row);
     if (title == row)
