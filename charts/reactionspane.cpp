@@ -84,7 +84,6 @@ void ReactionsPane::buildList()
 {
     auto *list =
         new RowListView({}, m_store.lists.ListView3[31], {{u"Nom de réaction"_s, ListWidth - 22}}, this);
-    list->setAccessibleName(u"Reactions"_s);
     list->setGeometry(Margin, ListTop, ListWidth, height() - Margin - ListTop);
     ListView3.add(31, list);
     (new TitleFrame({}, this, TitleFrame::OneLine))->addTitles(*list, Label2, {105});

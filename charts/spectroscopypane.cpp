@@ -98,20 +98,19 @@ void SpectroscopyPane::buildSelector()
 void SpectroscopyPane::buildLists()
 {
     Shape2.add(7, makeFrame("", {Margin, ListTop, ListWidth, ListHeight}, this));
-    addChartList(15, u"Proton NMR charts"_s);
-    addChartList(16, u"Carbon NMR charts"_s);
-    auto &list = addChartList(5, u"Infrared charts"_s);
+    addChartList(15);
+    addChartList(16);
+    auto &list = addChartList(5);
     auto *titles = new TitleFrame({}, this, TitleFrame::OneLine);
     titles->addTitles(list, Label2, {104});
     grdFrame17.add(1, titles);
 }
 
-RowListView &SpectroscopyPane::addChartList(int index, const QString &accessibleName)
+RowListView &SpectroscopyPane::addChartList(int index)
 {
     // Motifs can be long; they wrap instead of being cut off.
     const ListColumn column{u"Functional group"_s, ListWidth - ScrollBarWidth - 4, ListColumn::Kind::Wrapped};
     auto *list = new RowListView({}, m_store.lists.ListView3[index], {column}, this);
-    list->setAccessibleName(accessibleName);
     list->setGeometry(Margin, ListTop, ListWidth, ListHeight);
     return ListView3.add(index, list);
 }
@@ -175,7 +174,6 @@ void SpectroscopyPane::buildIrTable()
     auto *list =
         new RowListView({}, m_store.lists.ListView3[27],
                         {{u"Functional group"_s, 330}, {u"Bond"_s, 380}, {u"Frequency (cm-1)"_s, 200}}, this);
-    list->setAccessibleName(u"Infrared bands"_s);
     list->showAsRecipes(); // rows without bands are headings
     list->setGeometry(Margin, ListTop, width() - 2 * Margin, ListHeight);
     ListView3.add(27, list);

@@ -63,7 +63,7 @@ protected:
 private:
     void buildSelector();
     void buildLists();
-    RowListView &addChartList(int index, const QString &accessibleName);
+    RowListView &addChartList(int index);
     void buildChart();
     void buildScales();
     void buildIrTable();

@@ -139,7 +139,6 @@ void ElectronicsPane::buildSeries()
     for (const char *series : {"E3", "E6", "E12", "E24", "E48", "E96", "E192"})
         columns << ListColumn{series, 130, ListColumn::Kind::Number};
     auto *list = new RowListView({}, m_store.lists.ListView3[28], columns, this);
-    list->setAccessibleName(u"Standard series of resistances"_s);
     list->setGeometry(Margin, ListTop, width() - 2 * Margin, height() - Margin - ListTop);
     ListView3.add(28, list);
     auto *titles = new TitleFrame(u"grdFrame32"_s, this);
@@ -161,7 +160,6 @@ void ElectronicsPane::buildEia96()
                                  {{u"Code"_s, 110, ListColumn::Kind::Number},
                                   {u"Value (%1)"_s.arg(ohm()), 130, ListColumn::Kind::Number}},
                                  grdFrame31);
-    list->setAccessibleName(u"Codes of EIA-96"_s);
     list->setGeometry(0, TitleFrame::OneLine + 4, ListWidth, grdFrame31->height() - TitleFrame::OneLine - 4);
     ListView3.add(29, list);
     (new TitleFrame({}, grdFrame31, TitleFrame::OneLine))->addTitles(*list, Label2, {118, 119});
