@@ -2,11 +2,6 @@
 
 SameCompound::SameCompound(const RowLists &lists) : m_lists(lists), m_names(lists.ListView1)
 {
-    findPlaces();
-}
-
-void SameCompound::findPlaces()
-{
     for (const ListPlace &each : Places::all()) {
         if (each.content != ListPlace::Compounds)
             continue;

@@ -19,8 +19,6 @@ public:
     QList<Place> of(const Place &place) const;
 
 private:
-    void findPlaces();
-
     const RowLists &m_lists;
     CompoundNames m_names;
     QHash<QString, QList<Place>> m_places; ///< of an identity: its first row in each list
