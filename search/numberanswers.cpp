@@ -26,17 +26,6 @@ QString text(const ListPlace &place, const DataStore &store, int row, int cell)
     return place.rows ? place.rows(store.lists).subItem(row, cell) : store.tables.ElementData(row, cell);
 }
 
-// For each row the first of the same name. The rows of one compound follow one another.
-std::vector<int> compoundsOf(const ListPlace &place, const DataStore &store)
-{
-    std::vector<int> compounds;
-    for (int row = 0; row < rowCount(place, store); ++row) {
-        const bool isSame = row > 0 && text(place, store, row, 0) == text(place, store, row - 1, 0);
-        compounds.push_back(isSame ? compounds.back() : row);
-    }
-    return compounds;
-}
-
 } // namespace
 
 /// A number that fits one term of a query.
@@ -65,7 +54,7 @@ void NumberAnswers::keepTheBestOfEachTerm(std::vector<Hit> &hits)
     hits.erase(std::unique(hits.begin(), hits.end(), isSameTerm), hits.end());
 }
 
-NumberAnswers::NumberAnswers(const DataStore &store) : m_compounds(Places::all().size())
+NumberAnswers::NumberAnswers(const DataStore &store)
 {
     for (size_t quantity = 0; quantity < NumberGrammar::quantities().size(); ++quantity) {
         for (size_t place = 0; place < Places::all().size(); ++place)
@@ -82,24 +71,28 @@ void NumberAnswers::addColumns(size_t number, size_t position, const DataStore &
         if (!quantity.isIn(place, each))
             continue;
         Column column{number, position, each.cell, quantity.hasSolvents() ? solvent++ : -1};
-        for (int row = 0; row < rowCount(place, store); ++row)
-            addNumbers(row, place, store, column);
+        addNumbers(place, store, column);
         m_columns.push_back(std::move(column));
-        if (m_compounds[position].empty())
-            m_compounds[position] = compoundsOf(place, store);
     }
 }
 
-void NumberAnswers::addNumbers(int row, const ListPlace &place, const DataStore &store, Column &column)
+// The rows of one compound follow one another.
+void NumberAnswers::addNumbers(const ListPlace &place, const DataStore &store, Column &column)
 {
     const SoughtQuantity &quantity = NumberGrammar::quantities()[column.quantity];
     const QLatin1StringView only(quantity.only);
-    if (!only.isEmpty() && !text(place, store, row, 0).contains(only, Qt::CaseInsensitive))
-        return;
-    const QString cell = text(place, store, row, column.cell);
-    const double strength = quantity.match == SoughtQuantity::Peak ? strengthOf(cell) : 0;
-    for (const NumberSpan &span : NumberSpan::inCell(cell))
-        column.numbers.push_back({span, strength, row});
+    QString name;
+    int compound = 0;
+    for (int row = 0; row < rowCount(place, store); ++row) {
+        if (const QString before = std::exchange(name, text(place, store, row, 0)); before != name)
+            compound = row;
+        if (!only.isEmpty() && !name.contains(only, Qt::CaseInsensitive))
+            continue;
+        const QString cell = text(place, store, row, column.cell);
+        const double strength = quantity.match == SoughtQuantity::Peak ? strengthOf(cell) : 0;
+        for (const NumberSpan &span : NumberSpan::inCell(cell))
+            column.numbers.push_back({span, strength, row, compound});
+    }
 }
 
 void NumberAnswers::addHits(const NumberQuery &query, int number, std::vector<Hit> &hits) const
@@ -117,8 +110,7 @@ void NumberAnswers::addHits(const NumberQuery &query, int number, std::vector<Hi
             const double distance = quantity.match == SoughtQuantity::Peak
                                         ? -each.strength
                                         : std::abs(each.span.middle() - term.span.middle()) / scale;
-            const int compound =
-                query.terms.size() > 1 ? m_compounds[column.place][size_t(each.row)] : each.row;
+            const int compound = query.terms.size() > 1 ? each.compound : each.row;
             hits.push_back(
                 {column.place, column.solvent, compound, number, distance, {each.row, column.cell}});
         }

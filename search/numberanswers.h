@@ -42,6 +42,7 @@ private:
         NumberSpan span;
         double strength; ///< of a peak
         int row;
+        int compound; ///< the first row of the same name
     };
 
     /// A column of numbers.
@@ -57,10 +58,9 @@ private:
     struct Hit;
 
     void addColumns(size_t quantity, size_t place, const DataStore &store);
-    static void addNumbers(int row, const ListPlace &place, const DataStore &store, Column &column);
+    static void addNumbers(const ListPlace &place, const DataStore &store, Column &column);
     void addHits(const NumberQuery &query, int term, std::vector<Hit> &hits) const;
     static void keepTheBestOfEachTerm(std::vector<Hit> &hits);
 
     std::vector<Column> m_columns;
-    std::vector<std::vector<int>> m_compounds; ///< for each place and row, the first row of the same name
 };
