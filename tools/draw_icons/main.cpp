@@ -14,10 +14,6 @@ namespace {
 
 bool draw(QSvgRenderer &icon, int size, const QString &path)
 {
-    if (size < 1) {
-        std::fputs("draw_icons: a size is a number of pixels\n", stderr);
-        return false;
-    }
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -20,7 +20,7 @@
 using namespace Qt::StringLiterals;
 
 // Runs the program, walks through its panes and windows and saves a picture of each:
-// screenshots <program folder> <folder for the pictures> [light|dark [<font family> [<points>]]]
+// screenshots <program folder> <folder for the pictures> [light|dark]
 // Without a palette, only the pictures that are already in the folder are taken anew: those of the docs or of
 // the help.
 
@@ -238,12 +238,9 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3)
-        qFatal("usage: screenshots <program folder> <folder for the pictures> "
-               "[light|dark [<font family> [<points>]]]");
+        qFatal("usage: screenshots <program folder> <folder for the pictures> [light|dark]");
     if (arguments.value(3) == u"dark"_s)
         QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a)));
-    if (arguments.size() > 4)
-        QApplication::setFont(QFont(arguments[4], arguments.value(5, u"9"_s).toInt()));
     const QDir pictures(arguments[2]);
 
     // The splash runs an event loop before the load is complete.
