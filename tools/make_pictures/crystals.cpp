@@ -177,12 +177,10 @@ QImage drawCell(const Lattice &cell)
     paintAxis(painter, view, cell.b, u"b"_s);
     paintAxis(painter, view, cell.c, u"c"_s);
 
-    painter.setPen(Ink);
-    painter.setFont(textFont(14));
+    setType(painter, Ink, 14);
     painter.drawText(QRectF(0, CellArea + 6, Side, 22), Qt::AlignCenter,
                      cell.edges + u"     "_s + cell.angles);
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     painter.drawText(QRectF(4, CellArea + 28, Side - 8, 36), Qt::AlignHCenter | Qt::TextWordWrap, cell.note);
     return picture;
 }

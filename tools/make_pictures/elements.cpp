@@ -100,8 +100,7 @@ void paintShells(QPainter &painter, const Element &element, QPointF centre, doub
     }
     painter.setBrush(element.colour());
     painter.drawEllipse(centre, core, core);
-    painter.setPen(Qt::white);
-    painter.setFont(textFont(int(core * (element["symb"].size() > 1 ? 0.95 : 1.1)), true));
+    setType(painter, Qt::white, int(core * (element["symb"].size() > 1 ? 0.95 : 1.1)), true);
     painter.drawText(QRectF(centre - QPointF(core, core), QSizeF(2 * core, 2 * core)), Qt::AlignCenter,
                      element["symb"]);
 }
@@ -124,8 +123,7 @@ QImage drawSmallCard(const Element &element)
     painter.fillRect(0, Side - 20, Side, 20, tint(element.colour(), 0.35));
     paintShells(painter, element, {Side / 2.0, 70}, 66, 1.7);
 
-    painter.setPen(Ink);
-    painter.setFont(textFont(13, true));
+    setType(painter, Ink, 13, true);
     painter.drawText(QRectF(6, 3, 60, 18), Qt::AlignLeft | Qt::AlignVCenter, element["nbato"]);
     painter.drawText(QRectF(0, Side - 20, Side, 20), Qt::AlignCenter, element["atome"]);
     painter.setFont(textFont(10));
@@ -170,19 +168,16 @@ QString typeset(QString value)
 /// A caption above its value.
 void paintFact(QPainter &painter, const Fact &fact, double x, double y)
 {
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     painter.drawText(QPointF(x, y), fact.caption);
-    painter.setPen(Ink);
-    painter.setFont(textFont(14));
+    setType(painter, Ink, 14);
     painter.drawText(QPointF(x, y + 17), typeset(fact.value));
 }
 
 void paintHeader(QPainter &painter, const Element &element, int width, int height)
 {
     painter.fillRect(0, 0, width, height, tint(element.colour(), 0.35));
-    painter.setPen(Ink);
-    painter.setFont(textFont(46, true));
+    setType(painter, Ink, 46, true);
     painter.drawText(QRectF(18, 0, 110, height), Qt::AlignLeft | Qt::AlignVCenter, element["symb"]);
     painter.setFont(textFont(26, true));
     painter.drawText(QPointF(126, 36), element["atome"]);
@@ -242,8 +237,7 @@ QImage drawSmallSharedCard(const Table &table)
     QPainter painter(&picture);
     painter.fillRect(picture.rect(), tint(SharedColour, 0.13));
     painter.fillRect(0, Side - 20, Side, 20, tint(SharedColour, 0.35));
-    painter.setPen(Ink);
-    painter.setFont(textFont(30, true));
+    setType(painter, Ink, 30, true);
     painter.drawText(QRectF(0, 30, Side, 40), Qt::AlignCenter,
                      u"%1–%2"_s.arg(LastCard).arg(table.rowCount()));
     painter.setFont(textFont(13));
@@ -263,8 +257,7 @@ QImage drawLargeSharedCard(const Table &table)
     QPainter painter(&picture);
     painter.fillRect(picture.rect(), tint(SharedColour, 0.08));
     painter.fillRect(0, 0, Side, Header, tint(SharedColour, 0.35));
-    painter.setPen(Ink);
-    painter.setFont(textFont(26, true));
+    setType(painter, Ink, 26, true);
     painter.drawText(QRectF(18, 0, Side, Header), Qt::AlignLeft | Qt::AlignVCenter,
                      u"Elements %1 to %2"_s.arg(LastCard).arg(table.rowCount()));
     double y = Header + 34;

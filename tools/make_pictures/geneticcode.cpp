@@ -45,8 +45,7 @@ QColor colourOf(const QString &acid)
 
 void paintCaptions(QPainter &painter)
 {
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(Type * 9 / 10));
+    setType(painter, SoftInk, Type * 9 / 10);
     const QRectF above(2, 2, Width - 4, Type * 1.4);
     painter.drawText(above, Qt::AlignLeft, u"1st base"_s);
     painter.drawText(above, Qt::AlignHCenter, u"2nd base"_s);
@@ -55,8 +54,7 @@ void paintCaptions(QPainter &painter)
 
 void paintLegend(QPainter &painter)
 {
-    painter.setFont(textFont(Type * 9 / 10));
-    painter.setPen(Ink);
+    setType(painter, Ink, Type * 9 / 10);
     double x = 6;
     for (const Property &property : Properties) {
         const QString name = QString::fromLatin1(property.name);

@@ -138,8 +138,7 @@ void paintBand(QPainter &painter, const Table &bands, const Band &band, double t
 /// Explains the letters of the intensities and the colours of the bonds that occur.
 double paintLegend(QPainter &painter, const QList<Section> &sections, double y)
 {
-    painter.setFont(textFont(11));
-    painter.setPen(SoftInk);
+    setType(painter, SoftInk, 11);
     painter.drawText(QPointF(IrLeft, y), u"s strong, m medium, w weak, v variable.  Colours: bond "
                                          "between carbon or hydrogen and"_s);
     y += LegendLine;
@@ -183,8 +182,7 @@ QImage drawChart(const Table &bands, const QList<Section> &sections)
     double y = FirstRow + 2;
     for (const Section &section : sections) {
         painter.fillRect(QRectF(0, y, Width, HeadingHeight - 3), QColor(0xee, 0xf1, 0xf4));
-        painter.setPen(Ink);
-        painter.setFont(textFont(11, true));
+        setType(painter, Ink, 11, true);
         painter.drawText(QPointF(6, y + 12), section.motif);
         y += HeadingHeight;
         for (const Band &band : section.bands) {

@@ -169,8 +169,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
     formula.paint(
         painter, {std::max(4.0, (300 - size.width()) / 2), std::max(2.0, (height - 14 - size.height()) / 2)});
 
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(10));
+    setType(painter, SoftInk, 10);
     painter.drawText(QRectF(0, height - 14, 310, 14), Qt::AlignCenter, legend(motif.structure));
 
     const QRectF texts(316, 10, Width - 316 - 8, height - 10);
@@ -179,8 +178,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
     paintFormulaLines(painter, motif.name, 14, true,
                       QRectF(texts.left(), texts.top(), texts.width(), lines * 19));
     double y = texts.top() + lines * 19 + 34;
-    painter.setPen(classColour(motif.group).darker(115));
-    painter.setFont(textFont(28, true));
+    setType(painter, classColour(motif.group).darker(115), 28, true);
     painter.drawText(QPointF(texts.left(), y), u"δ %1"_s.arg(motif.typicalText));
     const double wide = QFontMetricsF(painter.font()).horizontalAdvance(u"δ %1 "_s.arg(motif.typicalText));
     painter.setFont(textFont(14));
@@ -188,8 +186,7 @@ void paintHead(QPainter &painter, const Motif &motif, const Formula &formula, do
     y += 24;
     painter.setPen(Ink);
     painter.drawText(QPointF(texts.left(), y), u"Range %1 to %2 ppm"_s.arg(motif.lowText, motif.highText));
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     QStringList small = wrapped(basis(motif), painter.font(), int(texts.width()));
     if (!motif.remark.isEmpty())
         small += wrapped(motif.remark, painter.font(), int(texts.width()));
@@ -237,8 +234,7 @@ constexpr int CountRight = Width - 12;
 
 void paintCount(QPainter &painter, int observations, double top, double height)
 {
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     painter.drawText(QRectF(BarsRight, top, CountRight - BarsRight, height),
                      Qt::AlignRight | Qt::AlignVCenter,
                      observations > 0 ? QString::number(observations) : u"–"_s);
@@ -248,8 +244,7 @@ void paintColumnTitles(QPainter &painter, const QString &title, double y)
 {
     painter.setPen(Ink);
     ScriptText::formula(title, 12, true).paint(painter, NameLeft, y);
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     painter.drawText(QRectF(BarsRight, y - 12, CountRight - BarsRight, 16), Qt::AlignRight | Qt::AlignVCenter,
                      u"n"_s);
 }
@@ -314,8 +309,7 @@ QImage drawOverview(const Table &classes, const QList<int> &rows, const Motif &o
     QImage picture = blankPicture(Width, int(std::ceil(rowsBottom)) + 26);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(SoftInk);
-    painter.setFont(textFont(11));
+    setType(painter, SoftInk, 11);
     QString key = u"Bar: 2.5 to 97.5 percentile of n observations.  Mark: typical value (median)."_s;
     if (std::any_of(rows.begin(), rows.end(),
                     [&](int row) { return classes.number(row, "n") < FewestForBar; }))

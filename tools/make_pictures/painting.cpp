@@ -31,6 +31,12 @@ QFont textFont(int pixels, bool bold)
     return font;
 }
 
+void setType(QPainter &painter, const QColor &colour, int pixels, bool bold)
+{
+    painter.setPen(colour);
+    painter.setFont(textFont(pixels, bold));
+}
+
 QImage blankPicture(int width, int height)
 {
     QImage picture(width, height, QImage::Format_RGB32);

@@ -16,6 +16,9 @@ void requireTypeface();
 
 QFont textFont(int pixels, bool bold = false);
 
+/// The colour and the type of the texts that @p painter draws next.
+void setType(QPainter &painter, const QColor &colour, int pixels, bool bold = false);
+
 /// A white picture.
 QImage blankPicture(int width, int height);
 

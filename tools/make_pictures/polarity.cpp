@@ -28,8 +28,7 @@ void paintArrow(QPainter &painter)
     painter.drawPolygon(QPolygonF{QPointF(22, Top), QPointF(26, Top), QPointF(30, Bottom - 18),
                                   QPointF(38, Bottom - 18), QPointF(24, Bottom), QPointF(10, Bottom - 18),
                                   QPointF(18, Bottom - 18)});
-    painter.setPen(Ink);
-    painter.setFont(textFont(11, true));
+    setType(painter, Ink, 11, true);
     painter.drawText(QRectF(6, Top - 20, 90, 16), Qt::AlignLeft | Qt::AlignVCenter, u"Non polar"_s);
     painter.drawText(QRectF(6, Bottom + 3, 90, 16), Qt::AlignLeft | Qt::AlignVCenter, u"Polar"_s);
 }
@@ -48,8 +47,7 @@ void paintRung(QPainter &painter, int rung, const Polarity &polarity)
 
     const QString examples = QString::fromUtf8(polarity.examples);
     const QRectF text = row.adjusted(12, 1, -2, -1);
-    painter.setPen(Ink);
-    painter.setFont(textFont(12, true));
+    setType(painter, Ink, 12, true);
     painter.drawText(text, Qt::AlignLeft | (examples.isEmpty() ? Qt::AlignVCenter : Qt::AlignTop),
                      QString::fromUtf8(polarity.group));
     painter.setFont(textFont(11));
@@ -61,8 +59,7 @@ QImage drawLadder()
     QImage picture = blankPicture(Width, Height);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Ink);
-    painter.setFont(textFont(14, true));
+    setType(painter, Ink, 14, true);
     painter.drawText(QRectF(0, 6, Width, 20), Qt::AlignCenter, u"Relative polarities"_s);
     paintArrow(painter);
 

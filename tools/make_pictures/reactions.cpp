@@ -136,8 +136,7 @@ void paintBlock(QPainter &painter, const StepBlock &block, int number, double to
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0x3f, 0x74, 0xb5));
     painter.drawEllipse(QPointF(19, middle), 10, 10);
-    painter.setPen(Qt::white);
-    painter.setFont(textFont(12, true));
+    setType(painter, Qt::white, 12, true);
     painter.drawText(QRectF(9, middle - 10, 20, 20), Qt::AlignCenter, QString::number(number));
     painter.setPen(Ink);
     const double lineHeight = QFontMetricsF(wordsFont()).height();
