@@ -5,6 +5,7 @@
 #include "core/csv.h"
 #include "core/filecopy.h"
 #include "core/fileerrors.h"
+#include "reports/savedialog.h"
 #include "widgets/rowlistview.h"
 
 #include <QAction>
@@ -25,29 +26,30 @@ QString reason(const RuntimeError &error)
     }
 }
 
-} // namespace
-
-CsvAction::CsvAction(const OwnActions &actions, const ListActions &lists, Module1 &module, Desktop &desktop)
-    : m_lists(lists), m_desktop(desktop), m_dialog({"CSV", {"*.csv"}}, module, desktop)
+void save(const RowListView &list, Module1 &module, Desktop &desktop)
 {
-    QAction &action = actions.action(OwnAction::SaveCsv);
-    connect(&action, &QAction::triggered, this, &CsvAction::save);
-    connect(&lists, &ListActions::changed, &action,
-            [&action](const RowListView *list) { action.setEnabled(list && list->model()->rowCount() > 0); });
-}
-
-void CsvAction::save()
-{
-    const RowListView *list = m_lists.list();
-    const QByteArray bytes = Csv::write(list->cells());
-    const QString name = list->accessibleName().replace(u'/', u'-'); // "Acid/base couples"
+    const QByteArray bytes = Csv::write(list.cells());
+    const QString name = list.accessibleName().replace(u'/', u'-'); // "Acid/base couples"
+    SaveDialog dialog({"CSV", {"*.csv"}}, module, desktop);
     try {
-        m_dialog.choose([&name] { return name; });
-        writeFileOver(bytes, m_dialog.FileName());
+        dialog.choose([&name] { return name; });
+        writeFileOver(bytes, dialog.FileName());
     } catch (const RuntimeError &error) {
         if (error.number() != ErrorNumber::DialogCancelled)
-            m_desktop.messageBox(
-                u"The table is not saved: '%1' cannot be written."_s.arg(m_dialog.FileName()) + reason(error),
-                Desktop::Warning);
+            desktop.messageBox(u"The table is not saved: '%1' cannot be written."_s.arg(dialog.FileName()) +
+                                   reason(error),
+                               Desktop::Warning);
     }
+}
+
+} // namespace
+
+void connectCsvAction(const OwnActions &actions, const ListActions &lists, Module1 &module, Desktop &desktop)
+{
+    QAction &action = actions.action(OwnAction::SaveCsv);
+    QObject::connect(&action, &QAction::triggered, &lists,
+                     [&lists, &module, &desktop] { save(*lists.list(), module, desktop); });
+    QObject::connect(&lists, &ListActions::changed, &action, [&action](const RowListView *list) {
+        action.setEnabled(list && list->model()->rowCount() > 0);
+    });
 }

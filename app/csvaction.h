@@ -1,24 +1,10 @@
 #pragma once
 
-#include "reports/savedialog.h"
-
-#include <QObject>
-
+class Desktop;
 class ListActions;
 class OwnActions;
+struct Module1;
 
-/// "Save table as CSV" of the menu Edit and of the lists' context menus.
-class CsvAction final : public QObject
-{
-    Q_OBJECT
-
-public:
-    CsvAction(const OwnActions &actions, const ListActions &lists, Module1 &module, Desktop &desktop);
-
-private:
-    void save();
-
-    const ListActions &m_lists;
-    Desktop &m_desktop;
-    SaveDialog m_dialog;
-};
+/// Connects "Save table as CSV" of the menu Edit and of the lists' context menus. All references outlive @p
+/// lists.
+void connectCsvAction(const OwnActions &actions, const ListActions &lists, Module1 &module, Desktop &desktop);

@@ -1,6 +1,7 @@
 #include "app/form1.h"
 
 #include "app/answeractions.h"
+#include "app/csvaction.h"
 #include "app/frmload.h"
 #include "app/history.h"
 #include "app/menulayout.h"
@@ -48,7 +49,6 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
              const Scale &scale)
     : m_module(module), m_store(store), m_laterTables(laterTables), m_desktop(desktop),
       m_reportSave(module, store, desktop), m_miseAjour1(desktop, m_network, module.AppFolder),
-      m_csvAction(m_ownActions, m_listActions, module, desktop),
       m_scaleActions(m_ownActions, scale, laterTables, *this), m_tray(*this, module.OptionSlots)
 {
     setObjectName(u"Form1"_s);
@@ -71,6 +71,7 @@ Form1::Form1(Module1 &module, DataStore &store, LaterTables &laterTables, Deskto
         module, store, desktop,
         OptionsHost::Parts{m_commandBars, m_tray, *m_elements, *m_calculations, *m_spectroscopy, laterTables},
         *this);
+    connectCsvAction(m_ownActions, m_listActions, module, desktop);
     connectAnswerActions(m_ownActions, *m_calculations, module, store, *this);
     connectSourceAction(m_ownActions, m_listActions, *m_panes, module, desktop, *this);
     connectPrintActions(

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/commandbars.h"
-#include "app/csvaction.h"
 #include "app/focuskeeper.h"
 #include "app/helpopener.h"
 #include "app/listactions.h"
@@ -95,7 +94,6 @@ private:
     CommandBars m_commandBars{*this};
     OwnActions m_ownActions{*this};
     ListActions m_listActions{m_ownActions, *this};
-    CsvAction m_csvAction;
     HelpOpener m_help{m_module, m_desktop, m_ownActions.action(OwnAction::HelpPages)};
     ScaleActions m_scaleActions;
     TrayIcon m_tray;

@@ -95,7 +95,7 @@ private Q_SLOTS:
                 new RowListView("ListView1", rows, {{"Name", 100}, {"M", 50, {}, "g"}}, &window));
             ScriptedDesktop desktop;
             Module1 module;
-            const CsvAction csv(own, listActions, module, desktop);
+            connectCsvAction(own, listActions, module, desktop);
             window.show();
             QVERIFY(QTest::qWaitForWindowActive(&window));
             const auto copied = [&window](Qt::Key key) {
