@@ -83,13 +83,7 @@ private Q_SLOTS:
         SingleInstance hung(m_folder->path());
         hung.listen(); // and no event loop runs
         ScriptedDesktop desktop;
-        int status = 0;
-        try {
-            status = Main(desktop, m_folder->path());
-        } catch (const ProcessEnded &end) {
-            status = end.status;
-        }
-        QCOMPARE(status, 1);
+        QVERIFY_THROWS_EXCEPTION(ProcessEnded, Main(desktop, m_folder->path()));
         QCOMPARE(desktop.boxes.size(), 1);
         QVERIFY(desktop.boxes.constFirst().first.contains("does not answer"));
     }

@@ -42,10 +42,9 @@ private Q_SLOTS:
     void whatIsMissingIsDeliveredAndTheDatabaseFollowsUnlessTheUserChangedIt()
     {
         for (const auto &[mine, release, afterwards, kept] :
-             {std::tuple<const char *, const char *, const char *, bool>{"one", "two", "two",
-                                                                         false}, // as it came
-              {"mine", "two", "mine", true},                                     //
+             {std::tuple<const char *, const char *, const char *, bool>{"mine", "two", "mine", true},
               {"mine", "one", "mine", false},
+              {"one", "two", "two", false}, // as it came
               {"two", "two", "two", false}, // renewed by an interrupted call
               {nullptr, "one", "one", false}}) {
             init();

@@ -108,9 +108,6 @@ private Q_SLOTS:
 
     void amountsAreThoseOfTheBench()
     {
-        const Stock acid{37, 1.184, 36.46};
-        QCOMPARE(Glassware::volume(acid.volumeFor(1, 250)), "20.8 mL");
-        QCOMPARE(qRound(acid.concentrationOf(20.8, 250) * 1000), 1000);
         const QList<QPair<double, const char *>> volumes{{0.0123, "12.3 µL"}, {0.85, "850 µL"},
                                                          {0.99996, "1 mL"},   {9.996, "10 mL"},
                                                          {250.4, "250 mL"},   {1250, "1.25 L"}};
@@ -128,7 +125,6 @@ private Q_SLOTS:
         QCOMPARE(PlainAnswer::dilution(texts), "");
         texts[Vi] = "0.0208";
         texts[Vf] = "0.25";
-        QCOMPARE(PlainAnswer::dilution(texts), "20.8 mL, made up to 250 mL; 1 in 12");
         texts[Ci] = "12";
         texts[Cf] = "2";
         QVERIFY(

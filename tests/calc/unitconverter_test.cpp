@@ -175,14 +175,12 @@ private Q_SLOTS:
 
     void theLocaleWithAComma()
     {
-        for (const char *locale : {"fr_FR.UTF-8", "de_DE.UTF-8"}) {
-            inLocale(locale, [] {
-                QCOMPARE(converted(Length, 12, 3, "1,5"), "2414,016");
-                QCOMPARE(converted(Length, 0, 3, "1234"), "1234000");
-                QCOMPARE(converted(Temperature, 0, 2, "-0,5"), "272,65");
-                QCOMPARE(converted(Energy, 3, 0, "2"), "3,204353E-19");
-            });
-        }
+        inLocale("fr_FR.UTF-8", [] {
+            QCOMPARE(converted(Length, 12, 3, "1,5"), "2414,016");
+            QCOMPARE(converted(Length, 0, 3, "1234"), "1234000");
+            QCOMPARE(converted(Temperature, 0, 2, "-0,5"), "272,65");
+            QCOMPARE(converted(Energy, 3, 0, "2"), "3,204353E-19");
+        });
     }
 };
 

@@ -22,7 +22,6 @@ private Q_SLOTS:
             {"rows deleted", {Table, 4, {0, 2}}, "1.0|1.1 3.0|3.1"},
             {"no rows", {Table, 0}, ""},
             {"all rows deleted", {Table, 2, {0, 1}}, ""},
-            {"columns of numbers", {Table, 3, {}, false, true}, "0|0.1 1|1.1 2|2.1"},
         };
         for (const auto &[name, edit, expected] : rows) {
             const ProgramFolder folder;

@@ -123,13 +123,8 @@ private Q_SLOTS:
         bench.open();
         QCOMPARE(bench.control<QComboBox>("Combo3").currentIndex(), -1);
         bench.press("XPButton1");
-        const QMap<int, Value> kept{{53, Value(2)},
-                                    {54, Value(-1)},
-                                    {57, Value(QString("yes"))},
-                                    {84, Value(QString("my own"))},
-                                    {88, Value(6)},
-                                    {80, Value(1)},
-                                    {89, Value(0)}}; // of a pair one is always on
+        const QMap<int, Value> kept{{53, 2}, {54, -1}, {57, QString("yes")}, {84, QString("my own")}, {88, 6},
+                                    {80, 1}, {89, 0}}; // of a pair one is always on
         for (auto slot = kept.begin(); slot != kept.end(); ++slot)
             QCOMPARE(bench.module.OptionSlots(slot.key()), *slot);
     }

@@ -133,16 +133,13 @@ private Q_SLOTS:
         fill(hits, {"Ether", "Ether"});
         RowList many;
         fill(many, QStringList(32768, "a"));
-        QCOMPARE(errorOf([&] { Find::walk(list, hits, {0, 0}, Direction::Next); }), ErrorNumber::Subscript);
-        QCOMPARE(errorOf([&] {
-                     Find::walk(list, hits, {2, 1}, Direction::Previous);
-                 }),
-                 ErrorNumber::Subscript);
+        const auto next = [&] { Find::walk(list, hits, {0, 0}, Direction::Next); };
+        const auto previous = [&] { Find::walk(list, hits, {2, 1}, Direction::Previous); };
+        const auto beyond = [&] { Find::walk(many, many, {32767, 32767}, Direction::Next); };
+        QCOMPARE(errorOf(next), ErrorNumber::Subscript);
+        QCOMPARE(errorOf(previous), ErrorNumber::Subscript);
         QCOMPARE(Find::walk(many, many, {32766, 32766}, Direction::Next)->hit, 32767);
-        QCOMPARE(errorOf([&] {
-                     Find::walk(many, many, {32767, 32767}, Direction::Next);
-                 }),
-                 ErrorNumber::Overflow);
+        QCOMPARE(errorOf(beyond), ErrorNumber::Overflow);
     }
 
     void walksTheShownListFromEndToEnd()

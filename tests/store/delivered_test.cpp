@@ -59,9 +59,7 @@ private Q_SLOTS:
         const int failure = ErrorNumber::DatabaseFailure;
         const std::tuple<QString, QString, QString, int> rows[] = {
             {Database, {}, {}, failure},
-            {Database, {}, "k3wqj41mz627h06", failure},
             {Database, {}, password.toUpper(), failure},
-            {Database, {}, password.chopped(1), failure},
             {Database, {}, password + 'x', failure},
             {Database, "somebody", password, failure},
             {Database + 'x', {}, password, ErrorNumber::FileNotFound},

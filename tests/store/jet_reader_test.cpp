@@ -307,24 +307,17 @@ private Q_SLOTS:
         Builder::Page letters;
         for (quint32 next = 1; next <= 254; ++next)
             letters.append({Builder::u32(next < 254 ? Builder::pointer(5, next) : 0) + "a"});
-        const struct
-        {
-            const char *what;
-            quint32 flags;
-            Builder::Page pieces;
-            int pages = 1;
-        } texts[] = {
-            {"in a circle", 20000, {{toItself + "abcd"}}},
-            {"in a circle without text", 20000, {{toItself}}},
-            {"ends early", 8, {{Builder::u32(0) + "abcd"}}},
-            {"goes on", 2, {{Builder::u32(0) + "abcd"}}},
-            {"beyond its row", 0x40000000 | 9, {{"abcd"}}},
-            {"beyond the file", 0x3FFFFFFF, {{toItself + "abcd"}}},
-            {"one for many rows", 0x40000000 | 4000, {{QByteArray(4000, 'a')}}, 40},
-            {"letter by letter for many rows", 254, letters, 40},
+        const auto check = [](const char *what, quint32 flags, const Builder::Page &pieces, int pages = 1) {
+            QVERIFY2(read(longTextsFile(pieces, flags, pages)) == "damaged", what);
         };
-        for (const auto &text : texts)
-            QVERIFY2(read(longTextsFile(text.pieces, text.flags, text.pages)) == "damaged", text.what);
+        check("in a circle", 20000, {{toItself + "abcd"}});
+        check("in a circle without text", 20000, {{toItself}});
+        check("ends early", 8, {{Builder::u32(0) + "abcd"}});
+        check("goes on", 2, {{Builder::u32(0) + "abcd"}});
+        check("beyond its row", 0x40000000 | 9, {{"abcd"}});
+        check("beyond the file", 0x3FFFFFFF, {{toItself + "abcd"}});
+        check("one for many rows", 0x40000000 | 4000, {{QByteArray(4000, 'a')}}, 40);
+        check("letter by letter for many rows", 254, letters, 40);
     }
 };
 

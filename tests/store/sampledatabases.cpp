@@ -47,25 +47,18 @@ void addTable(Builder *builder, int step, const SampleDatabases::Edit &edit)
         names.prepend(QStringLiteral("remarks"));
     for (const QString &name : std::as_const(names)) {
         const int number = int(columns.size());
-        if (edit.asNumbers)
-            columns.append({name, Type::Double, number, -1, 8 * number, 8});
-        else
-            columns.append({name, Type::Text, number, number, 0, 510});
+        columns.append({name, Type::Text, number, number, 0, 510});
         present.append(number);
     }
     Builder::Page page;
     const int first = edit.extraColumn ? 1 : 0;
     for (int row = 0; row < edit.rows; ++row) {
         QList<std::optional<QByteArray>> cells;
-        QByteArray numbers;
         for (const int column : std::as_const(present)) {
             const QString text = QStringLiteral("%1.%2").arg(row).arg(column - first);
             cells.append(Builder::utf16(column < first ? QStringLiteral("mine") : text));
-            numbers += Builder::little(text.toDouble());
         }
-        const int count = int(columns.size());
-        page.append({edit.asNumbers ? Builder::fixedRow(count, numbers, present)
-                                    : Builder::row(count, {}, cells, present),
+        page.append({Builder::row(int(columns.size()), {}, cells, present),
                      edit.deleted.contains(row) ? Jet::SlotIsDeleted : quint16(0)});
     }
     builder->addTable(TableCatalog::table(step), columns, {page}, quint32(edit.rows - edit.deleted.size()));

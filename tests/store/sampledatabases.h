@@ -18,7 +18,6 @@ struct Edit
     int rows = 0;             ///< instead of those of the other tables
     QSet<int> deleted = {};   ///< rows, from 0
     bool extraColumn = false; ///< "remarks", in front of the others
-    bool asNumbers = false;   ///< columns of the type Double
 };
 
 /// All tables of the catalogue, with @p rows rows of short texts each, "2.1" in row 2 and column 1; with the
