@@ -1,9 +1,22 @@
 #include "reports/savedialog.h"
 
+#include "core/filelock.h"
 #include "core/module1.h"
-#include "reports/fileattributes.h"
+#include "core/platform.h"
 
+#include <QFileInfo>
 #include <algorithm>
+
+namespace {
+
+/// Sets `ProbedLength` of @p module to the length of the file in bytes, 0 if there is no such file.
+void ProbeFileLength(const QString &path, Module1 &module)
+{
+    const QFileInfo info(path);
+    module.ProbedLength = info.isFile() ? info.size() : 0;
+}
+
+} // namespace
 
 void SaveDialog::choose(const std::function<std::optional<QString>()> &offeredName, int questionStyle)
 {
@@ -25,18 +38,19 @@ QString SaveDialog::withSuffix(const QString &path) const
 
 bool SaveDialog::mayReplace(int questionStyle)
 {
-    const int attributes = FileAttributes::of(m_fileName);
+    const bool isLocked = FileLock::forbids(FileLock::Access::Write, m_fileName);
+    const int attributes = isLocked ? 0 : Platform::fileAttributes(m_fileName);
     const QString question = "The file '" + m_fileName + "' already exists. Replace existing file?";
     if (m_desktop.messageBox(question, questionStyle) != Desktop::Yes)
         return false;
 
     // Compared as whole numbers: a file without the archive bit counts as in use.
     switch (attributes) {
-    case FileAttributes::ReadOnly + FileAttributes::Archive:
+    case Platform::ReadOnly + Platform::Archive:
         m_desktop.messageBox(readOnlyMessage(m_fileName), Desktop::Warning);
         return false;
     case 0:
-    case FileAttributes::ReadOnly:
+    case Platform::ReadOnly:
         m_desktop.messageBox("Impossible to save '" + m_fileName +
                                  "'. The file is in use. Save it with a different name or in a different "
                                  "folder.",
