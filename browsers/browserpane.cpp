@@ -1,13 +1,47 @@
 #include "browsers/browserpane.h"
 
-#include "widgets/typeahead.h"
-
 #include <QButtonGroup>
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 namespace {
 
 // Tab reaches the option that is on; the arrow keys go on from there.
 constexpr Qt::FocusPolicy NotByTab = Qt::ClickFocus;
+
+/// The nearest visible sibling below @p strip, or null.
+RowListView *listBelow(const QTabBar &strip)
+{
+    RowListView *nearest = nullptr;
+    for (auto *list :
+         strip.parentWidget()->findChildren<RowListView *>(QString(), Qt::FindDirectChildrenOnly)) {
+        const bool below = list->y() > strip.y() && list->x() <= strip.geometry().right() &&
+                           strip.x() <= list->geometry().right();
+        if (below && Controls::isOnTop(*list, *strip.parentWidget()) &&
+            (!nearest || list->y() < nearest->y()))
+            nearest = list;
+    }
+    return nearest;
+}
+
+/// Passes what is typed to the visible list below, which takes the focus: a name can be typed right after a
+/// click on a tab.
+class Tabs final : public QTabBar
+{
+public:
+    using QTabBar::QTabBar;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const QString text = event->text();
+        RowListView *list = !text.isEmpty() && text.front().isLetterOrNumber() ? listBelow(*this) : nullptr;
+        if (!list)
+            return QTabBar::keyPressEvent(event);
+        list->setFocus();
+        QCoreApplication::sendEvent(list, event);
+    }
+};
 
 } // namespace
 
@@ -22,13 +56,12 @@ RowListView *BrowserPane::makeList(const QString &name, RowList &list, const QLi
 QTabBar *BrowserPane::makeTabs(const QString &name, const QStringList &captions, const QRect &place,
                                QWidget *parent)
 {
-    auto *tabs = Controls::named(new QTabBar(parent), name);
+    auto *tabs = Controls::named(new Tabs(parent), name);
     tabs->setExpanding(false);
     for (const QString &caption : captions)
         tabs->addTab(caption);
     tabs->setGeometry(place);
     tabs->setFocusPolicy(Qt::StrongFocus); // also by a click
-    TypeAhead::install(*tabs);
     return tabs;
 }
 
