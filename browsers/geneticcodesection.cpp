@@ -1,7 +1,7 @@
 #include "browsers/geneticcodesection.h"
 
 #include "browsers/geneticcode.h"
-#include "browsers/geneticcodechart.h"
+#include "browsers/geneticcodepainter.h"
 #include "core/desktop.h"
 #include "store/datastore.h"
 #include "store/tablecatalog.h"
@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,35 @@ namespace {
 constexpr int Columns = 3; // of the fields beside the chart
 constexpr int ColumnWidth = 62;
 constexpr std::array LabelOfLetter{0, 2, 1}; // index of `Label18`
+
+/// `Image8`: the standard genetic code as a table. Neighbours with the same amino acid share one field.
+class GeneticCodeChart final : public QWidget
+{
+public:
+    explicit GeneticCodeChart(QWidget *parent) : QWidget(parent)
+    {
+        setAccessibleName(u"Table of the standard genetic code"_s);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        constexpr double Margin = 18; // logical pixels
+        const QPalette colours = palette();
+        QColor boxLine = colours.color(QPalette::WindowText);
+        boxLine.setAlphaF(0.6F);
+        const auto background = [&](const QString &name) {
+            return colours.color(name == u"Stop"_s ? QPalette::AlternateBase : QPalette::Base);
+        };
+        QPainter painter(this);
+        painter.translate(0.5, 0.5);
+        const GeneticCodePainter code(QRectF(0, 0, width() - 1, height() - 1),
+                                      {font(), Margin, colours.color(QPalette::WindowText),
+                                       colours.color(QPalette::Text), colours.color(QPalette::Mid), boxLine,
+                                       background, false});
+        code.paint(painter);
+    }
+};
 
 } // namespace
 
