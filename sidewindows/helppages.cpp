@@ -26,20 +26,15 @@ constexpr QSize WindowSize(980, 680); // logical pixels
 constexpr int LeftWidth = 290;
 constexpr int Page = Qt::UserRole; ///< of an item: its page
 
-/// Shows the pages in the colours of the desktop: their own style sheet assumes a white page.
-class Browser final : public QTextBrowser
+/// In the colours of the desktop. The pages' own style sheet assumes a white page; a browser of rich text
+/// ignores it, for its link names no type.
+QString pageStyle(const QPalette &palette)
 {
-public:
-    using QTextBrowser::QTextBrowser;
-
-    QVariant loadResource(int type, const QUrl &name) override
-    {
-        if (type != QTextDocument::StyleSheetResource)
-            return QTextBrowser::loadResource(type, name);
-        return u"a { color: %1 } th { background: %2 }"_s.arg(
-            palette().color(QPalette::Link).name(), palette().color(QPalette::AlternateBase).name());
-    }
-};
+    return u"a { color: %1 } th { background: %2; text-align: left } td, th { border: 1px solid %3 } "
+           "table { border-collapse: collapse; margin-top: 6px; margin-bottom: 6px }"_s.arg(
+               palette.color(QPalette::Link).name(), palette.color(QPalette::AlternateBase).name(),
+               palette.color(QPalette::Mid).name());
+}
 
 void showTopics(QListWidget &list, const QList<HelpBook::Topic> &topics)
 {
@@ -74,7 +69,6 @@ HelpPages::HelpPages() : QWidget(nullptr, Qt::Window)
     setObjectName(u"frmHelpPages"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"Alembra help"_s);
-    setPalette(Readable::ownLinks(QApplication::palette()));
 
     auto *split = new QSplitter(this);
     QWidget *page = buildPage();
@@ -96,6 +90,7 @@ HelpPages::HelpPages() : QWidget(nullptr, Qt::Window)
         m_words->setFocus();
     });
     connect(m_page, &QTextBrowser::sourceChanged, this, &HelpPages::markInContents);
+    takeColours();
     open(HelpBook::contents().constFirst().page);
     resize(WindowSize.boundedTo(Controls::roomFor(*this)));
     m_contents->setFocus();
@@ -173,7 +168,7 @@ QWidget *HelpPages::buildPage()
     auto *panel = new QWidget;
     auto *rows = new QVBoxLayout(panel);
     rows->setContentsMargins({});
-    m_page = Controls::named(new Browser, u"brwHelp"_s);
+    m_page = Controls::named(new QTextBrowser, u"brwHelp"_s);
     m_page->setAccessibleName(u"Page of the help"_s);
     auto *buttons = new QHBoxLayout;
     const auto addButton = [&](const QString &name, const QString &caption, const QString &icon,
@@ -200,6 +195,12 @@ QWidget *HelpPages::buildPage()
     return panel;
 }
 
+void HelpPages::takeColours()
+{
+    setPalette(Readable::ownLinks(QApplication::palette()));
+    m_page->document()->setDefaultStyleSheet(pageStyle(palette()));
+}
+
 void HelpPages::open(const QString &page)
 {
     m_page->setSource(HelpBook::address(page));
@@ -221,6 +222,6 @@ void HelpPages::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ApplicationPaletteChange)
         return;
-    setPalette(Readable::ownLinks(QApplication::palette()));
+    takeColours();
     m_page->reload();
 }

@@ -30,6 +30,7 @@ private:
     QWidget *buildSearch();
     QWidget *buildPage();
     QListWidget *makeList(const QString &name, const QString &accessibleName, QLineEdit &field);
+    void takeColours();
     void markInContents(const QUrl &page);
 
     QTextBrowser *m_page;

@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
+#include <QTextBrowser>
 #include <future>
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.
@@ -206,6 +207,8 @@ private Q_SLOTS:
             QVERIFY(!window());
             get<QAction>(form, "actHelpPages").trigger();
             QVERIFY(window());
+            const QString titles = window()->palette().color(QPalette::AlternateBase).name();
+            QVERIFY(get<QTextBrowser>(*window(), "brwHelp").toHtml().contains("background-color:" + titles));
             open(Desktop::Viewer::Unknown);
             QCOMPARE(m_desktop.targets.size(), 2);
         });
