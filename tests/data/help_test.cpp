@@ -181,6 +181,31 @@ private Q_SLOTS:
         }
     }
 
+    // What message boxes say and why a formula cannot be read, piece by piece between the parts that vary.
+    void everyMessageOfTheCodeIsExplained()
+    {
+        static const QRegularExpression Call(R"((?:messageBox|endWithMessage|warn|fail)\(([^;]*);)");
+        static const QRegularExpression Seam(R"(\x22(?:_s)?\s+u?\x22)"); // of adjacent literals
+        static const QRegularExpression Text(R"(\x22((?:[^\x22\\]|\\.)*)\x22)");
+        static const QRegularExpression Varies(R"(%\d|\\n|\\\x22|[^ -~])");
+        static const QRegularExpression Tag("<[^>]*>");
+        const QByteArray pages = readFile(Source + "problems.html") + readFile(Source + "molar_mass.html");
+        const QString help = QString::fromUtf8(pages).remove(Tag).simplified();
+        QStringList texts;
+        for (const char *folder : {"app", "calc", "options", "reports", "sidewindows", "store", "update"}) {
+            const QString path = ALEMBRA_SOURCE + QString("/%1/").arg(folder);
+            for (const QString &file : filesIn(path, {"*.cpp"})) {
+                for (const auto &call : Call.globalMatch(QString::fromUtf8(readFile(path + file)))) {
+                    for (const auto &text : Text.globalMatch(call.captured(1).remove(Seam)))
+                        texts << text.captured(1).split(Varies);
+                }
+            }
+        }
+        QVERIFY(texts.contains("this bracket is not closed"));
+        for (const QString &text : texts)
+            QVERIFY2(help.contains(text.simplified()), qPrintable(text));
+    }
+
     void conversionsAreWhatTheProgramShows()
     {
         OptionSlots options;
@@ -221,9 +246,9 @@ private Q_SLOTS:
         } figures[] = {
             {"conversions", "between %1 units", Units::count()},
             {"elements", "data of %1 elements", rowsWith("Elements", "\n") - 1},
-            {"database", "<b>Solvants must not have more rows than Masse</b>, which has %1",
+            {"database", "Solvants must not have more rows than Masse, which has %1",
              rowsWith("Masse", "\n") - 1},
-            {"data", "two numbers each of %1 of its 604 spectra",
+            {"data", "for %1 of the 604 spectra of one collection, two numbers each",
              rowsWith("Fluorochromes", "mcnamara-boswell")},
         };
         for (const auto &[page, words, figure] : figures) {
