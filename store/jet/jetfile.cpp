@@ -4,8 +4,6 @@
 #include "core/filelock.h"
 #include "core/runtimeerror.h"
 
-#include <QFile>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -14,18 +12,12 @@ constexpr qint64 MaxFileSize = qint64(512) * 1024 * 1024;
 
 QByteArray readWhole(const QString &path)
 {
-    QFile file(path);
     FileErrors::refuseSpecialFile(path);
     if (FileLock::forbids(FileLock::Access::Read, path))
         throw RuntimeError(ErrorNumber::PermissionDenied, path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileErrors::of(file);
-    if (file.size() > MaxFileSize)
+    if (QFileInfo(path).size() > MaxFileSize)
         throw RuntimeError(ErrorNumber::DatabaseFailure, u"the file is too large"_s);
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw FileErrors::of(file);
-    return bytes;
+    return FileErrors::readWhole(path);
 }
 
 quint32 numberIn(const JetRow &row, const JetColumn &column)
