@@ -57,9 +57,9 @@ private:
 
     struct Hit;
 
-    void addColumns(size_t quantity, size_t place, const DataStore &store);
+    void addColumns(size_t number, size_t position, const DataStore &store);
     static void addNumbers(const ListPlace &place, const DataStore &store, Column &column);
-    void addHits(const NumberQuery &query, int term, std::vector<Hit> &hits) const;
+    void addHits(const NumberQuery &query, int number, std::vector<Hit> &hits) const;
     static void keepTheBestOfEachTerm(std::vector<Hit> &hits);
 
     std::vector<Column> m_columns;
