@@ -1,5 +1,6 @@
 #include "app/optionshost.h"
 #include "options/formoptions.h"
+#include "tests/e2e/walk.h"
 #include "tests/support/wholerun.h"
 #include "widgets/qtdesktop.h"
 
@@ -79,24 +80,15 @@ private Q_SLOTS:
         m_folder->setOption(89, "1");
         run(*m_folder, [&](Form1 &form) {
             const QWidget &pane = get(form, "frmana");
-            const struct
-            {
-                int mode;
-                const char *button;
-                QString unit;
-                bool isHidden;
-                int x;
-            } rows[] = {
-                {1145, "Option1(2)", "/ micrometer", true, 287}, // the table: 4305 twips, out of sight
-                {1144, "Option1(3)", "/ cm-1", false, 307}};
-            for (const auto &row : rows) {
-                form.executeCommand(row.mode);
+            for (const auto &[mode, button, unit, x] :
+                 {std::tuple(1145, "Option1(2)", "/ micrometer", 287), {1144, "Option1(3)", "/ cm-1", 307}}) {
+                form.executeCommand(mode);
                 form.executeCommand(1058);
-                control<QRadioButton>(form, row.button).click();
+                control<QRadioButton>(form, button).click();
                 press(form, "XPButton1");
-                QCOMPARE(get<QLabel>(pane, "Label25").text(), row.unit);
-                QCOMPARE(get(pane, "Label25").isHidden(), row.isHidden);
-                QCOMPARE(get(pane, "Label26").x(), row.x);
+                QCOMPARE(get<QLabel>(pane, "Label25").text(), unit);
+                QCOMPARE(get(pane, "Label25").isHidden(), mode == 1145); // the table is over it
+                QCOMPARE(get(pane, "Label26").x(), x);
             }
         });
     }
@@ -131,26 +123,18 @@ private Q_SLOTS:
     // Closed from outside while a handler of its own waits for a dialog, as on the way into the tray.
     void aWindowOutlivesItsDialog()
     {
-        const struct
-        {
-            int command;
-            const char *window;
-            const char *button;
-        } rows[] = {{1058, "Formoptions", "Command1"}, // save dialog
-                    {1058, "Formoptions", "Command2"}, // question
-                    {1122, "frmAbout", "cmdSysInfo"}}; // message
-        for (const auto &row : rows) {
+        for (const char *button : {"Command1", "Command2", "cmdSysInfo"}) { // save dialog, question, message
             init();
             QtDesktop desktop;
-            const auto walk = [&](Form1 &form) {
-                form.executeCommand(row.command);
-                const QPointer<QWidget> opened = form.findChild<SideWindow *>(row.window);
+            const auto walk = [button](Form1 &form) {
+                form.executeCommand(button == QByteArray("cmdSysInfo") ? 1122 : 1058);
+                const QPointer<QWidget> opened = Walk::sideWindow(form);
                 bool waited = false;
                 QTimer::singleShot(0, opened, [&] {
                     waited = QApplication::activeModalWidget();
                     QVERIFY(!opened->close());
                 });
-                get<QPushButton>(*opened, row.button).click();
+                get<QPushButton>(*opened, button).click();
                 QVERIFY(waited && opened && !QApplication::activeModalWidget());
                 QTRY_VERIFY(!opened);
                 QVERIFY(form.isEnabled());

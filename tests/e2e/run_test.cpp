@@ -100,21 +100,16 @@ private Q_SLOTS:
     void theStartShowsTheChosenModuleBelowTheTip()
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, QDir::tempPath() + "/none");
-        const struct
-        {
-            const char *module;
-            const char *pane;
-            const char *text;
-        } rows[] = {
-            {"0", "frmsolv", "Solvents"}, {"3", "frmbioch", "Biochemistry"}, {"6", "Frametable", "Elements"}};
-        for (const auto &row : rows) {
+        for (const auto &[module, pane, text] : {std::tuple("0", "frmsolv", "Solvents"),
+                                                 {"3", "frmbioch", "Biochemistry"},
+                                                 {"6", "Frametable", "Elements"}}) {
             const ProgramFolder folder;
             folder.setOption(56, "1");
             folder.setOption(86, "1");
-            folder.setOption(88, row.module);
-            run(folder, [&](Form1 &form) {
-                QCOMPARE(shownPanes(form), QStringList(row.pane));
-                QCOMPARE(statusText(form).text(), QString(row.text));
+            folder.setOption(88, module);
+            run(folder, [pane = pane, text = text](Form1 &form) {
+                QCOMPARE(shownPanes(form), QStringList(pane));
+                QCOMPARE(statusText(form).text(), text);
                 QVERIFY(!get(form, "Text2(10)").isHidden()); // the boxes of the table are left alone
                 QVERIFY(Walk::sideWindow(form)->isEnabled() && !form.isEnabled());
                 Walk::sideWindow(form)->close();

@@ -88,11 +88,8 @@ private Q_SLOTS:
     void realResistors()
     {
         load();
-        const struct
-        {
-            QString rings;
-            const char *results; // resistance, tolerance, temperature
-        } Rows[]{
+        const std::pair<QString, const char *> Rows[]{
+            // resistance, tolerance, temperature
             {"Yellow Violet Orange", "47000 20 "},
             {"Yellow Violet Red Gold", "4700 5 "},
             {"Red Red Silver Brown", "0.22 1 "},                          // less than an ohm
@@ -101,8 +98,8 @@ private Q_SLOTS:
             {"Orange Orange White Black Brown Red", "339 1 50"},          //
             {"White White White Violet Violet Grey", "9990000000 0.1 1"}, // the last row as a digit
         };
-        for (const auto &row : Rows) {
-            const QStringList colours = row.rings.split(' ');
+        for (const auto &[names, expected] : Rows) {
+            const QStringList colours = names.split(' ');
             const qsizetype rings = colours.size();
             count().setCurrentIndex(rings == 3 ? 1 : 0);
             count().setCurrentIndex(int(rings - 3)); // another number of rings starts anew
@@ -114,7 +111,7 @@ private Q_SLOTS:
                 QVERIFY(!Controls::isShown(band(ResistorCode::rings()[size_t(lists[ring] - 4)].band)));
                 choose(lists[ring], colours[ring]);
             }
-            QCOMPARE(results(), row.results);
+            QCOMPARE(results(), expected);
         }
         choose(7, "Black");
         QCOMPARE(field(7), "999");

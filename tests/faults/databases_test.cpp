@@ -46,19 +46,13 @@ private Q_SLOTS:
         QByteArray ace = whole;
         ace[0x14] = 2;
         ace.replace(4, 15, "Standard ACE DB");
-        struct
-        {
-            const char *name;
-            QByteArray content;
-        } const rows[] = {
-            {"Jet 3", jet3},
-            {"Access 2007", ace},
-            {"header alone", whole.first(128)},
-            {"one page", whole.first(4096)},
-            {"another password", QByteArray(whole).replace(0x42, 4, "\1\2\3\4")},
-            {"zeros", QByteArray(1 << 20, '\0')},
-        };
-        for (const auto &[name, content] : rows) {
+        for (const auto &[name, content] :
+             {std::pair("Jet 3", jet3),
+              {"Access 2007", ace},
+              {"header alone", whole.first(128)},
+              {"one page", whole.first(4096)},
+              {"another password", QByteArray(whole).replace(0x42, 4, "\1\2\3\4")},
+              {"zeros", QByteArray(1 << 20, '\0')}}) {
             const ProgramFolder folder;
             folder.write(Database, content);
             const QString end = outcome(folder);
