@@ -238,20 +238,13 @@ private Q_SLOTS:
         const auto rowsWith = [](const char *table, const char *source) {
             return readFile(ALEMBRA_SOURCE + QString("/data/tables/%1.tsv").arg(table)).count(source);
         };
-        const struct
-        {
-            const char *page;
-            const char *words;
-            qsizetype figure;
-        } figures[] = {
-            {"conversions", "between %1 units", Units::count()},
-            {"elements", "data of %1 elements", rowsWith("Elements", "\n") - 1},
-            {"database", "Solvants must not have more rows than Masse, which has %1",
-             rowsWith("Masse", "\n") - 1},
-            {"data", "for %1 of the 604 spectra of one collection, two numbers each",
-             rowsWith("Fluorochromes", "mcnamara-boswell")},
-        };
-        for (const auto &[page, words, figure] : figures) {
+        for (const auto &[page, words, figure] :
+             {std::tuple("conversions", "between %1 units", qsizetype(Units::count())),
+              {"elements", "data of %1 elements", rowsWith("Elements", "\n") - 1},
+              {"database", "Solvants must not have more rows than Masse, which has %1",
+               rowsWith("Masse", "\n") - 1},
+              {"data", "for %1 of the 604 spectra of one collection, two numbers each",
+               rowsWith("Fluorochromes", "mcnamara-boswell")}}) {
             const QString text = readFile(Source + page + ".html");
             QVERIFY2(text.simplified().contains(QString(words).arg(figure)), words);
         }

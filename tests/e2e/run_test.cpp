@@ -57,36 +57,29 @@ private Q_SLOTS:
 
     void findAndExportFollowPaneAndTab()
     {
-        const struct
-        {
-            int pane;
-            bool find;
-            const char *offered; ///< as the report's name, null: no export
-        } rows[] = {
-            {1108, true, "Elements"},
-            {1119, true, "Solvents - Properties"},
-            {1116, false, "Solvents - Miscibility and Polarity"},
-            {1133, true, "Solvents - Mass spectrometry"},
-            {1120, false, "Constants and Units"},
-            {1109, false, "Biochemistry"},
-            {1113, false, "Solutions"},
-            {1132, false, nullptr},
-            {1142, false, nullptr},
-        };
         const ProgramFolder folder;
         m_desktop.savePaths = QStringList(9, folder.path("report"));
         m_desktop.answers = QList<Desktop::Answer>(9, Desktop::Yes); // replace it
         run(folder, [&](Form1 &form) {
             const auto isEnabled = [&](const char *id) { return get<QAction>(form, id).isEnabled(); };
-            for (const auto &row : rows) {
+            // The name of the report, if there is one.
+            for (const auto &[pane, find, report] : {std::tuple(1108, true, "Elements"),
+                                                     {1119, true, "Solvents - Properties"},
+                                                     {1116, false, "Solvents - Miscibility and Polarity"},
+                                                     {1133, true, "Solvents - Mass spectrometry"},
+                                                     {1120, false, "Constants and Units"},
+                                                     {1109, false, "Biochemistry"},
+                                                     {1113, false, "Solutions"},
+                                                     {1132, false, ""},
+                                                     {1142, false, ""}}) {
                 m_desktop.saveRequests.clear();
-                form.executeCommand(row.pane);
-                QCOMPARE(isEnabled("Id1121"), row.find);
-                QCOMPARE(isEnabled("Id1124"), row.offered != nullptr);
+                form.executeCommand(pane);
+                QCOMPARE(isEnabled("Id1121"), find);
+                QCOMPARE(isEnabled("Id1124"), *report != 0);
                 QVERIFY(!isEnabled("Id1125"));
-                if (row.offered) {
+                if (*report) {
                     form.executeCommand(CommandId::Export);
-                    QCOMPARE(m_desktop.saveRequests.constFirst().fileName, QString(row.offered));
+                    QCOMPARE(m_desktop.saveRequests.constFirst().fileName, report);
                 }
             }
             // A tab that is chosen by hand counts too.

@@ -29,35 +29,26 @@ private Q_SLOTS:
     // The first in the order of the panes, whatever else is shown.
     void whatIsShownChoosesNameAndReport()
     {
-        const struct
-        {
-            int first;
-            int tab;
-            const char *offered;
-            const char *mark;
-        } rows[] = {
-            {0, 1, "Pane - Tab", "Reractive index "},
-            {0, 2, "Pane - Tab", "Polarity index "},
-            {0, 3, "Pane - Tab", "Carbon "},
-            {0, 4, "Pane - Tab", "e/m (intensity)"},
-            {0, 5, "Pane - Tab", "Drying agent "},
-            {0, 6, "Pane - Tab", "Mixture"},
-            {1, 0, "Pane", "<title>Alembra - Elements</title>"},
-            {2, 0, "Constants and Units", "<title>Alembra - Constants and Units</title>"},
-            {3, 0, "Biochemistry", "<title>Biochemistry</title>"},
-            {4, 0, "Solutions", "<title>Solutions</title>"},
-            {5, 0, "IR - Table", "<title>Alembra - IR - Table</title>"},
-        };
-        for (const auto &row : rows) {
+        for (const auto &[first, tab, name, mark] :
+             {std::tuple(0, 1, "Pane - Tab", "Reractive index "),
+              {0, 2, "Pane - Tab", "Polarity index "},
+              {0, 3, "Pane - Tab", "Carbon "},
+              {0, 4, "Pane - Tab", "e/m (intensity)"},
+              {0, 5, "Pane - Tab", "Drying agent "},
+              {0, 6, "Pane - Tab", "Mixture"},
+              {1, 0, "Pane", "<title>Alembra - Elements</title>"},
+              {2, 0, "Constants and Units", "<title>Alembra - Constants and Units</title>"},
+              {3, 0, "Biochemistry", "<title>Biochemistry</title>"},
+              {4, 0, "Solutions", "<title>Solutions</title>"},
+              {5, 0, "IR - Table", "<title>Alembra - IR - Table</title>"}}) {
             init();
-            save({path()}, {row.first < 1, row.first < 2, row.first < 3, row.first < 4, row.first < 5, true,
-                            "Pane", row.tab, "Tab"});
-            QCOMPARE(offered(), QStringList(row.offered));
+            save({path()}, {first < 1, first < 2, first < 3, first < 4, first < 5, true, "Pane", tab, "Tab"});
+            QCOMPARE(offered(), QStringList(name));
             const Desktop::SaveRequest &request = m_desktop->saveRequests.constFirst();
             QCOMPARE(request.folder, m_module->AppFolder);
             QCOMPARE(request.filterName, QString("Page Web"));
             QCOMPARE(request.filterGlobs, (QStringList{"*.htm", "*.html"}));
-            QVERIFY2(readFile(path()).contains(row.mark), row.mark);
+            QVERIFY2(readFile(path()).contains(mark), mark);
             QVERIFY(m_desktop->boxes.isEmpty());
             QCOMPARE(m_module->ProbedLength, 0);
         }
