@@ -22,16 +22,20 @@ endif()
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-# Format 1 leaves out the times of the files.
-set(CMAKE_AUTORCC_OPTIONS --format-version 1)
+# Format 1 leaves out the times of the files. The Qt for Windows has no Zstandard.
+set(CMAKE_AUTORCC_OPTIONS --format-version 1 --compress-algo zlib)
 
-if(CMAKE_BUILD_TYPE STREQUAL Release)
+if(WIN32)
+    add_link_options(-Wl,--no-insert-timestamp) # the same bytes at any time
+elseif(CMAKE_BUILD_TYPE STREQUAL Release)
     # Hardening as in Debian's own packages.
     include(CheckPIESupported)
     check_pie_supported()
     set(CMAKE_POSITION_INDEPENDENT_CODE ON)
     add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -Wformat-security)
     add_link_options(-Wl,-z,relro -Wl,-z,now)
+endif()
+if(CMAKE_BUILD_TYPE STREQUAL Release)
     # The same bytes from any folder.
     add_compile_options("-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 endif()
@@ -64,6 +68,7 @@ if(ALEMBRA_PRECOMPILE)
         target_include_directories(precompiled SYSTEM PRIVATE
             $<TARGET_PROPERTY:Qt6::${module},INTERFACE_INCLUDE_DIRECTORIES>)
     endforeach()
+    target_link_libraries(precompiled PRIVATE Qt6::Platform)
     target_compile_definitions(precompiled PRIVATE $<$<NOT:$<CONFIG:Debug>>:QT_NO_DEBUG>)
     set_target_properties(precompiled PROPERTIES POSITION_INDEPENDENT_CODE ON AUTOMOC OFF)
     target_precompile_headers(precompiled PRIVATE

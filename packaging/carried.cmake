@@ -44,5 +44,4 @@ foreach(plugin IN LISTS QT_PLUGINS)
 endforeach()
 install(RUNTIME_DEPENDENCY_SET carried PRE_EXCLUDE_REGEXES ${LIBRARIES_OF_THE_SYSTEM}
         LIBRARY DESTINATION alembra/lib COMPONENT portable)
-install(FILES qt.conf DESTINATION alembra COMPONENT portable)
 install(SCRIPT licences.cmake COMPONENT portable)
