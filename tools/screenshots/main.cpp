@@ -67,7 +67,7 @@ constexpr Shot Shots[] = {
     {"colour-code", 1144, "Command1"},
     {"spectroscopy-ir-table", 1145},
     {"calculations", 1120, nullptr, 0,
-     "TabStrip4 TextBoxM5 Command8(0) cmdStock TabStrip6 TabStrip5 TabStrip3 TextBoxM1 TextBoxM2"},
+     "TabStrip4 TextBoxM5 Command8(0) cmdMolarMass TabStrip6 TabStrip5 TabStrip3 TextBoxM1 TextBoxM2"},
     {"calculations-dilution", 1120, "TabStrip4", 4},
     {"calculations-vapour", 1120, "TabStrip4", 6},
     {"reactions-unread", 1139},
@@ -77,7 +77,7 @@ constexpr Shot Shots[] = {
     {"electronics-ring-1", 1141, "Combo2(4)", 5},
     {"electronics-ring-2", 1141, "Combo2(5)", 8},
     {"electronics-ring-3", 1141, "Combo2(7)", 5},
-    {"electronics", 1141, "Combo2(8)", 2, "TabStrip11 Combo3 Combo2(8) tbm(7) Command2"},
+    {"electronics", 1141, "Combo2(8)", 2, "TabStrip11 Combo3 Combo2(5) tbm(7) Command2"},
     {"mnemonic", 1141, "Command2"},
     {"electronics-series", 1141, "TabStrip11", 2},
     {"electronics-eia96", 1141, "TabStrip11", 3},
@@ -150,8 +150,8 @@ void number(QPainter &painter, const QRect &part, int value)
     if (part.height() < Tall)
         disc.moveTop(part.center().y() - Size / 2);
     if (part.width() < Wide)
-        disc.moveLeft(part.right() + Size < painter.window().right() ? part.right() + 2
-                                                                     : part.left() - Size - 2);
+        disc.moveLeft(part.right() < painter.window().width() * 5 / 8 ? part.right() + 2
+                                                                      : part.left() - Size - 2);
     painter.setPen(Qt::white);
     painter.setBrush(QColor(0xb0, 0x20, 0x20));
     painter.drawEllipse(disc);
