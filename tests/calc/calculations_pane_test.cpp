@@ -133,17 +133,43 @@ private Q_SLOTS:
         QCOMPARE(text("TextBoxM1") + '|' + text("TextBoxM2"), "|0");
     }
 
-    void fractionsFollowTheKeys()
+    void aFractionFillsItsPartnerKeyByKey()
     {
+        const QString Xn1 = "TextBoxM7(0)", Xn2 = "TextBoxM7(1)", Xm1 = "TextBoxM7(2)", Xm2 = "TextBoxM7(3)";
+        const auto texts = [this](const QString &one, const QString &two) {
+            return text(one) + ' ' + text(two);
+        };
         clickTab("TabStrip4", 5);
-        type("TextBoxM7(0)", ".3");
-        QCOMPARE(text("TextBoxM7(0)") + ' ' + text("TextBoxM7(1)"), "0.3 0.7");
-        field("TextBoxM7(0)").setCursorPosition(2); // the cursor stays where the user works
-        type("TextBoxM7(0)", "12");
-        QCOMPARE(text("TextBoxM7(0)") + ' ' + text("TextBoxM7(1)"), "0.123 0.877");
-        type("TextBoxM7(3)", "1.5");
-        QCOMPARE(message(), "Please use a value between 0 and 1");
-        QCOMPARE(text("TextBoxM7(2)") + text("TextBoxM7(3)"), QString());
+        type(Xn1, ".3");
+        QCOMPARE(texts(Xn1, Xn2), "0.3 0.7");
+        field(Xn1).setCursorPosition(2); // the cursor stays where the user works
+        type(Xn1, "12");
+        QCOMPARE(texts(Xn1, Xn2), "0.123 0.877");
+        field(Xn1).selectAll(); // the partner still has its own text when the separator comes
+        type(Xn1, "0.");
+        QCOMPARE(texts(Xn1, Xn2), "0. 1");
+        type(Xn1, "4");
+        QCOMPARE(texts(Xn1, Xn2), "0.4 0.6");
+        field(Xn2).selectAll();
+        type(Xn2, "0.10");
+        QCOMPARE(texts(Xn1, Xn2), "0.9 0.10");
+        // 1 - 0.94 is 0.0600000000000001, which must not take the place of the 0.06 under the cursor.
+        type(Xm1, "0.065");
+        QCOMPARE(texts(Xm1, Xm2), "0.065 0.935");
+        field(Xm2).selectAll();
+        type(Xm2, "1");
+        QCOMPARE(texts(Xm1, Xm2) + message(), "0 1");
+        type(Xm2, ".5");
+        QCOMPARE(texts(Xm1, Xm2) + message(), " Please use a value between 0 and 1");
+    }
+
+    void aFractionWithAComma()
+    {
+        inLocale("de_DE.UTF-8", [this] {
+            clickTab("TabStrip4", 5);
+            type("TextBoxM7(0)", "0,35");
+            QCOMPARE(text("TextBoxM7(0)") + ' ' + text("TextBoxM7(1)"), "0,35 0,65");
+        });
     }
 
     void aRatioThatTheCalculationWritesIsWatchedToo()
@@ -155,6 +181,11 @@ private Q_SLOTS:
         click("Command8(0)");
         QCOMPARE(text("TextBoxM7(7)") + ' ' + text("TextBoxM7(10)"), "1.11111111111111 ");
         QCOMPARE(message(), "Please use a value between 0 and 1");
+        type("TextBoxM7(10)", "0.999");
+        QCOMPARE(text("TextBoxM7(10)") + message(), "0.999");
+        field("TextBoxM7(10)").selectAll();
+        type("TextBoxM7(10)", "1");
+        QCOMPARE(text("TextBoxM7(10)") + message(), "Please use a value between 0 and 1");
     }
 
     void theFirstChangeBringsTheDecimalsOfTheOptions()

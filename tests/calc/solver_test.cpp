@@ -1,4 +1,3 @@
-#include "calc/changewatcher.h"
 #include "calc/solver.h"
 #include "tests/support/files.h"
 
@@ -19,7 +18,6 @@ class SolverTest final : public QObject
     static constexpr char FillFour[] = "|Please fill in at least 4 fields to perform calculation";
     static constexpr char MustBeHigher[] = "|The initial concentration must be higher than the final one";
     static constexpr char NotEnough[] = "|Not enough data to perform calculation";
-    static constexpr char Between[] = "Please use a value between 0 and 1";
 
     struct Row
     {
@@ -48,33 +46,6 @@ class SolverTest final : public QObject
     {
         for (const Row &row : rows)
             QCOMPARE(row.fields + ": " + answer(row.tab, row.fields), row.fields + ": " + row.expected);
-    }
-
-    /// Fields that report a change when, and only when, they get a different text: the way the pane's fields
-    /// do. All that is written or said, with every text of the typing that @p entries name: "Xn1=0.35".
-    static QString watched(const QString &entries, bool keyByKey)
-    {
-        FieldTexts texts;
-        QStringList log;
-        const std::function<void(Field, const QString &)> write = [&](Field field, const QString &text) {
-            if (std::exchange(texts[field], text) == text)
-                return;
-            log << Names[field] + '=' + text;
-            if (log.size() > 40)
-                qFatal("the watcher does not settle");
-            const ChangeWatcher::Reaction reaction = ChangeWatcher::react(field, texts);
-            if (!reaction.message.isEmpty())
-                log << reaction.message;
-            for (const Change &change : reaction.changes)
-                write(change.field, change.text);
-        };
-        for (const QString &entry : entries.split(' ')) {
-            const auto field = Field(Names.indexOf(entry.section('=', 0, 0)));
-            const QString text = entry.section('=', 1);
-            for (qsizetype length = keyByKey ? 1 : text.size(); length <= text.size(); ++length)
-                write(field, text.first(length));
-        }
-        return log.join(' ');
     }
 
 private Q_SLOTS:
@@ -185,38 +156,6 @@ private Q_SLOTS:
         QCOMPARE(Solver::solve(6, texts).message, QString(LeaveAtLeastOne).mid(1));
     }
 
-    void aFractionFillsItsPartnerKeyByKey()
-    {
-        // 1 - 0.94 is 0.0600000000000001, which must not take the place of the 0.06 under the cursor.
-        QCOMPARE(watched("Xn1=0.35 Xm1=0.065", true),
-                 "Xn1=0 Xn2=1 Xn1=0. Xn1=0.3 Xn2=0.7 Xn1=0.35 Xn2=0.65 "
-                 "Xm1=0 Xm2=1 Xm1=0. Xm1=0.0 Xm1=0.06 Xm2=0.94 Xm1=0.065 Xm2=0.935");
-        for (const auto &[field, partner] :
-             {std::pair{"Xn1", "Xn2"}, {"Xn2", "Xn1"}, {"Xm1", "Xm2"}, {"Xm2", "Xm1"}})
-            QCOMPARE(watched(QString("%1=0.10").arg(field), true),
-                     QString("%1=0 %2=1 %1=0. %1=0.1 %2=0.9 %1=0.10").arg(field, partner));
-        QCOMPARE(watched("Xm2=1.5", true), QString("Xm2=1 Xm1=0 Xm2=1. Xm2=1.5 %1 Xm2= Xm1=").arg(Between));
-    }
-
-    void aChangeIsAnsweredOnce()
-    {
-        const std::pair<const char *, QString> rows[]{
-            // The partner still has its own text when the separator comes: its change must not be answered.
-            {"Xn2=0.25 Xn1=0.", "Xn2=0.25 Xn1=0.75 Xn1=0. Xn2=1"},
-            {"Xm1=0.25 Xm2=", "Xm1=0.25 Xm2=0.75 Xm2= Xm1="},
-            {"Xn1=1", "Xn1=1 Xn2=0"},
-            {"T=0.999", "T=0.999"},
-            {"T=1", QString("T=1 %1 T=").arg(Between)},
-            {"T=1.11111111111111", QString("T=1.11111111111111 %1 T=").arg(Between)},
-            {"T=1E+20", QString("T=1E+20 %1 T=").arg(Between)},
-            {"M1=5 M2=5 Ci=5 Vi=5 Cf=5 Vf=5 Tc=5 P=5 T*=5 P*=5",
-             "M1=5 M2=5 Ci=5 Vi=5 Cf=5 Vf=5 Tc=5 P=5 T*=5 P*=5"},
-        };
-        for (const auto &[entries, log] : rows)
-            QCOMPARE(watched(entries, false), log);
-        QCOMPARE(errorOf([] { watched("Xn1=abc", false); }), ErrorNumber::TypeMismatch);
-    }
-
     void theLocaleWithAComma()
     {
         inLocale("de_DE.UTF-8", [] {
@@ -228,8 +167,6 @@ private Q_SLOTS:
                 {1, "BM3=1.5 BM5=3", ""}, // a point is no separator
                 {4, "Ci=10 Cf=9,5 Vf=1", MustBeHigher},
             });
-            QCOMPARE(watched("Xn1=0,35", true), "Xn1=0 Xn2=1 Xn1=0, Xn1=0,3 Xn2=0,7 Xn1=0,35 Xn2=0,65");
-            QCOMPARE(watched("Xn1=0,35 Xn1=0,", false), "Xn1=0,35 Xn2=0,65 Xn1=0, Xn2=1");
         });
     }
 };
