@@ -30,10 +30,9 @@ constexpr int Page = Qt::UserRole; ///< of an item: its page
 /// ignores it, for its link names no type.
 QString pageStyle(const QPalette &palette)
 {
-    return u"a { color: %1 } th { background: %2; text-align: left } td, th { border: 1px solid %3 } "
+    return u"a { color: %1 } th { background: %2; text-align: left } td, th { border: 1px solid gray } "
            "table { border-collapse: collapse; margin-top: 6px; margin-bottom: 6px }"_s.arg(
-               palette.color(QPalette::Link).name(), palette.color(QPalette::AlternateBase).name(),
-               palette.color(QPalette::Mid).name());
+               palette.color(QPalette::Link).name(), palette.color(QPalette::AlternateBase).name());
 }
 
 void showTopics(QListWidget &list, const QList<HelpBook::Topic> &topics)
