@@ -146,6 +146,13 @@ private Q_SLOTS:
                                             {QSize(100, 100), Scale::Least},
                                             {QSize(9000, 9000), Scale::Most}})
             QCOMPARE(Scale::fitting(window, room), percent);
+        for (const auto &[from, smaller, larger] :
+             {std::tuple(75, 75, 90), {100, 90, 110}, {120, 110, 125}, {250, 225, 250}}) {
+            QCOMPARE(Scale::smaller(from), smaller);
+            QCOMPARE(Scale::larger(from), larger);
+        }
+        for (const auto &[points, percent] : {std::pair(9.0, 100), {10.4, 105}, {14.0, 140}, {40.0, 250}})
+            QCOMPARE(Scale::forFontSize(points), percent);
     }
 
     void theUserChoosesOrFollowsTheDesktop()

@@ -123,6 +123,21 @@ private Q_SLOTS:
         const QString text = cooling(changed);
         QVERIFY2(text.startsWith("1,3-Dioxane + dry ice, 12\nYou added or changed this row."),
                  qPrintable(text));
+        QCOMPARE(
+            run(changed,
+                [&](Form1 &form) { // which is changed once more, then lost
+                    form.executeCommand(1117);
+                    changed.write(Database,
+                                  changed.read(Database).replace("1,3-Dioxane + dry", "1,2-Dioxane + dry"));
+                    QVERIFY(Walk::sourceOf(get(form, "ListView9"), Qt::Key_Down)
+                                .contains("now has another row here"));
+                    changed.write(Database, "no database");
+                    QVERIFY(
+                        Walk::sourceOf(get(form, "ListView9"), Qt::Key_Up).contains("can no longer be read"));
+                    form.executeCommand(1120); // the calculators
+                    QVERIFY(Walk::sourceOf(form).contains("No source is recorded for this."));
+                }),
+            0);
     }
 
     void readingOnDemandFailsLikeTheStart()
