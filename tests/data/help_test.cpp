@@ -102,9 +102,9 @@ private Q_SLOTS:
         for (const QString &link : links + values(m_index, Local))
             QVERIFY2((m_pages + m_pictures).contains(link), qPrintable(link));
         QStringList contents = values("alembra_help_uk.hhc", Local);
+        const QStringList titles = values("alembra_help_uk.hhc", Name);
         for (const QString &page : contents)
-            QVERIFY2(Page(page).title == values("alembra_help_uk.hhc", Name)[contents.indexOf(page)],
-                     qPrintable(page));
+            QVERIFY2(Page(page).title == titles.at(contents.indexOf(page)), qPrintable(page));
         QCOMPARE(contents.value(0), QString("index.html"));
         contents.sort();
         QCOMPARE(contents, m_pages);

@@ -204,7 +204,7 @@ private Q_SLOTS:
 private:
     static QString plainCaption(QString text)
     {
-        static const QRegularExpression ending("(\\.\\.\\.| ?:)$");
+        static const QRegularExpression ending(R"((\.\.\.| ?:)$)");
         return text.remove('&').simplified().remove(ending);
     }
 

@@ -106,8 +106,9 @@ private Q_SLOTS:
             for (const SearchIndex::Hit &hit : index.find(query, 5).best) {
                 found << rows[hit.row][0];
                 const auto marks = SearchIndex::marks(found.last(), query);
-                for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark)
-                    found.last().insert(mark->begin + mark->length, ']').insert(mark->begin, '[');
+                std::for_each(marks.rbegin(), marks.rend(), [&](const auto &mark) {
+                    found.last().insert(mark.begin + mark.length, ']').insert(mark.begin, '[');
+                });
             }
             QCOMPARE(found.join('|'), expected);
         }
@@ -259,7 +260,7 @@ private Q_SLOTS:
     void anElementIsFoundByItsWholeName()
     {
         QApplication::setKeyboardInputInterval(60000); // however slow the machine
-        for (const QString typed : {"tin", "neon", "gold"}) {
+        for (const QString &typed : QStringList{"tin", "neon", "gold"}) {
             Bar bar;
             const QSignalSpy picked(&bar.findBar, &FindBar::namePicked);
             bar.findBar.open(true);

@@ -57,7 +57,11 @@ private Q_SLOTS:
     {
         const QString password = DatabasePassword;
         const int failure = ErrorNumber::DatabaseFailure;
-        const std::tuple<QString, QString, QString, int> rows[] = {
+        const struct
+        {
+            QString path, user, password;
+            int number;
+        } rows[] = {
             {Database, {}, {}, failure},
             {Database, {}, password.toUpper(), failure},
             {Database, {}, password + 'x', failure},
@@ -68,9 +72,9 @@ private Q_SLOTS:
             {"/dev/zero", {}, password, ErrorNumber::PathAccess},
             {ALEMBRA_SOURCE "/data/SOURCES.md", {}, password, failure},
         };
-        for (const auto &[path, user, tried, number] : rows) {
+        for (const auto &row : rows) {
             DatabaseConnection connection;
-            QCOMPARE(errorOf([&] { connection.Open(path, user, tried); }), number);
+            QCOMPARE(errorOf([&] { connection.Open(row.path, row.user, row.password); }), row.number);
             QCOMPARE(connection.State(), DatabaseConnection::StateClosed);
         }
     }
@@ -85,8 +89,8 @@ private Q_SLOTS:
             {"select  CAS ,Solvant from solvants", 0},
             {"SELECT source FROM Solvants", 0},
         };
-        for (const auto &[statement, number] : rows)
-            QCOMPARE(errorOf([&] { Recordset(statement, *m_connection); }), number);
+        for (const auto &row : rows)
+            QCOMPARE(errorOf([&] { Recordset(row.first, *m_connection); }), row.second);
     }
 
     void readingPastTheEndIsAnError()
