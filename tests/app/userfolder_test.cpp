@@ -1,7 +1,6 @@
 #include "app/userfolder.h"
 #include "options/filefigures.h"
 #include "tests/store/sampledatabases.h"
-#include "tests/support/files.h"
 #include "tests/support/wholerun.h"
 
 #include <QLabel>

@@ -2,8 +2,6 @@
 
 #include "tests/support/files.h"
 
-#include <QTemporaryDir>
-
 /// A copy of the assembled program folder, for a test to spoil. The folders of pictures and of the original
 /// database are linked: nobody writes there. No tip opens at start, it would disable the main window.
 class ProgramFolder final

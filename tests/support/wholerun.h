@@ -6,7 +6,6 @@
 #include "tests/support/scripteddesktop.h"
 
 #include <QApplication>
-#include <QTest>
 #include <QTimer>
 
 /// What tests of whole runs of the program share, from `Main` to its end.

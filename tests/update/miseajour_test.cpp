@@ -6,7 +6,6 @@
 #include "update/updatenetwork.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <optional>
 
 namespace {
