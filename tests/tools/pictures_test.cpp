@@ -11,7 +11,6 @@
 
 #include <QFontMetricsF>
 #include <QImageReader>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -221,7 +220,7 @@ private Q_SLOTS:
             tool.start(QStringLiteral(MAKE_PICTURES), arguments);
             QVERIFY(tool.waitForFinished());
             QCOMPARE(tool.exitCode(), status);
-            QVERIFY(tool.readAllStandardError().startsWith(message));
+            QVERIFY(tool.readAllStandardError().contains(message)); // Qt may have said something before
         }
     }
 
