@@ -29,7 +29,6 @@ private Q_SLOTS:
         } const rows[] = {
             {"nothing but line ends", "\r\n\r\n", withoutSymbol},
             {"102 lines", QByteArray("1\r\n").repeated(102), tooMany},
-            {"returns alone", m_lines.join('\r') + '\r'},
             {"every line followed by an empty one", m_lines.join("\r\n\r\n"), tooMany},
             {"the first half", whole.first(whole.size() / 2)},
             {"the second half", whole.last(whole.size() / 2), withoutDecimals},
@@ -37,8 +36,6 @@ private Q_SLOTS:
             {"quote not closed in the last line", with({{87, "\"kWh (kWh)"}})},
             {"mark of UTF-8 in front", "\xEF\xBB\xBF" + whole, withoutDecimals},
             {"UTF-16", QStringEncoder(QStringEncoder::Utf16LE)(QString::fromLatin1(whole)), tooMany},
-            {"bytes without a character", with({{28, "\"\x81\x8D\x8F\x90\x9D (\x81)\""}})},
-            {"blanks around values", '\t' + m_lines.join(" \r\n  ") + ' '},
             {"units without brackets", withUnits("\"unit\""), withoutSymbol},
             {"units with brackets the wrong way round", withUnits("\")unit(\"")},
             {"units of 100,000 letters", with({{1, '"' + QByteArray(100000, 'u') + " (u)\""}})},

@@ -1,8 +1,6 @@
-#include "app/menulayout.h"
 #include "core/numbers.h"
 #include "core/optionslots.h"
 #include "core/runtimeerror.h"
-#include "sidewindows/tips.h"
 #include "tests/fuzz/fuzztarget.h"
 #include "update/profilefile.h"
 #include "update/versionnumber.h"
@@ -11,19 +9,6 @@
 #include <cmath>
 
 namespace {
-
-// A layout, whose commands all have ids, or the error of a file that is none.
-const FuzzTarget layout("layout", [](const QByteArray &input) {
-    try {
-        const MenuLayout read = MenuLayout::read(InputFile(input).path());
-        for (const MenuLayout::Menu &menu : read.menus + read.toolBars) {
-            for (const MenuLayout::Entry &entry : menu.entries)
-                require(entry.id >= 0);
-        }
-    } catch (const RuntimeError &error) {
-        require(error.number() == ErrorNumber::InvalidFileFormat);
-    }
-});
 
 // What reads as a number is finite, is written in plain characters, and reads as the same number again, once
 // the digits beyond the fifteenth are gone.
@@ -41,19 +26,6 @@ const FuzzTarget numbers("numbers", [](const QByteArray &input) {
         require(std::fabs(*number) > 1.797e308);
     else
         require(Numbers::formatInvariant(*again) == plain);
-});
-
-// Every line is a tip, no line end is left in one, and drawing the next one comes to an end.
-const FuzzTarget tips("tips", [](const QByteArray &input) {
-    const std::optional<QStringList> read = Tips::read(InputFile(input).path());
-    require(read.has_value());
-    for (const QString &tip : *read)
-        require(!tip.contains(QLatin1Char('\n')) && !tip.contains(QLatin1Char('\r')));
-    const int count = int(read->size());
-    double fraction = 0;
-    const auto draw = [&fraction] { return fraction = fraction < 0.9 ? fraction + 0.01 : 0; };
-    const int number = Tips::next(1, count, draw);
-    require(number >= 1 && number <= std::max(count, 1));
 });
 
 // The version file comes from the network: whatever it is, its values are short lines, and comparing them
