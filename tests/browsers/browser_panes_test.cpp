@@ -8,9 +8,9 @@
 #include "core/buildsettings.h"
 #include "core/module1.h"
 #include "search/findbar.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/tsvsource.h"
 #include "widgets/linklabel.h"
 
 #include <QClipboard>
@@ -79,12 +79,8 @@ private Q_SLOTS:
 
     void tabsAndOptionsShowWhatBelongsToThem()
     {
-        const struct
-        {
-            Pane pane;
-            const char *steps; ///< "TabStrip2:1" selects a tab, "Option4(3)" clicks
-            const char *expected;
-        } Rows[]{
+        // "TabStrip2:1" selects a tab, "Option4(3)" clicks.
+        const std::tuple<Pane, const char *, const char *> Rows[]{
             {Solvents, "TabStrip1:6 TabStrip1:4 TabStrip1:1", "ListView1 frmc"},
             {Solvents, "TabStrip1:3 Option2 TabStrip1:5 TabStrip1:3", "ListView5 frmrmn1"},
             {Solvents, "Option2", "ListView1 frmc"}, // a session clicks options of other tabs too
@@ -107,13 +103,13 @@ private Q_SLOTS:
              "(12) (23) f26 f27 f3"},
             {Biochemistry, "TabStrip9:4 TabStrip8:5 Option4(6) TabStrip8:1 TabStrip8:5", "(12) (20) f23 f3"},
         };
-        for (const auto &row : Rows) {
+        for (const auto &[which, steps, expected] : Rows) {
             init();
             ModulePanel *const panes[]{&m_window->solvents, &m_window->solutions, &m_window->biochemistry};
-            ModulePanel &pane = *panes[row.pane];
+            ModulePanel &pane = *panes[which];
             pane.show();
-            work(pane, row.steps);
-            QVERIFY2(onTop(pane) == row.expected, qPrintable(row.steps + (": " + onTop(pane))));
+            work(pane, steps);
+            QVERIFY2(onTop(pane) == expected, qPrintable(steps + (": " + onTop(pane))));
         }
     }
 
@@ -136,8 +132,8 @@ private Q_SLOTS:
     void theDeliveredTableAnswersLikeTheStandardCode()
     {
         DataStore store;
-        TsvSource::load(14, "Acidesamines", store);
-        TsvSource::load(18, "Codegenetique", store);
+        for (const int step : {14, 18}) // amino acids, genetic code
+            loadDelivered(step, store);
         QHash<QString, QString> shortNames{{"Stop", "Stop"}};
         for (int row = 0; row < 20; ++row)
             shortNames[store.lists.ListView3[9].text(row)] = store.lists.ListView3[9].subItem(row, 1).left(3);

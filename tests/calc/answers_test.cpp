@@ -2,8 +2,8 @@
 #include "calc/molarmass.h"
 #include "calc/plainanswer.h"
 #include "calc/stock.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
-#include "tests/support/tsvsource.h"
 
 using namespace CalcFields;
 
@@ -23,7 +23,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         DataStore store;
-        TsvSource::load(3, "Elements", store);
+        loadDelivered(3, store);
         for (int row = 0; row < 118; ++row)
             m_masses[store.tables.ElementData(row, ElementColumn::Symbol)] =
                 store.tables.ElementData(row, ElementColumn::AtomicMass);

@@ -3,8 +3,8 @@
 #include "charts/nmrcharts.h"
 #include "charts/reactioncharts.h"
 #include "core/runtimeerror.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/testclass.h"
-#include "tests/support/tsvsource.h"
 
 #include <QFileInfo>
 
@@ -16,10 +16,8 @@ private Q_SLOTS:
     void everyRowAsksForAFileThatIsThere()
     {
         DataStore store;
-        TsvSource::load(19, "RMN1Hspectro", store);
-        TsvSource::load(20, "RMN13Cspectro", store);
-        TsvSource::load(30, "IRgraphe", store);
-        TsvSource::load(35, "Reaction", store);
+        for (const int step : {19, 20, 30, 35}) // protons, carbons, infrared, reactions
+            loadDelivered(step, store);
         QStringList files;
         for (const NmrCharts &charts : {ProtonCharts, CarbonCharts}) {
             for (int row = 0; row < store.lists.ListView3[charts.list].rowCount(); ++row)

@@ -1,13 +1,12 @@
 #include "charts/chartpicture.h"
 #include "charts/reactionspane.h"
 #include "core/module1.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/unreadtables.h"
 
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 class ReactionsPaneTest final : public QObject
 {

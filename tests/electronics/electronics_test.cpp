@@ -1,8 +1,8 @@
 #include "electronics/eia96.h"
 #include "electronics/electronicspane.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/unreadtables.h"
 
 #include <QPushButton>
 
@@ -150,19 +150,15 @@ private Q_SLOTS:
 
     void markings()
     {
-        const struct
-        {
-            const char *code, *valeur, *letter, *expected; // marking and value
-        } Rows[]{
+        const std::tuple<const char *, const char *, const char *, const char *> Rows[]{
             {"01", "100", "Y", "01|Y 1"},    {"96", "976", "F", "96|F 97600000"},
             {"68", "499", "X", "68|X 49.9"}, {"01", "100", "F", "01|F 10000000"},
             {"", "", "C", "|C none"},        {"01", "100", "", "01| none"},
             {"", "", "", "| none"},          {"", "", " B ", "|B none"},
         };
-        for (const auto &row : Rows) {
-            const Eia96::Marking marking = Eia96::decode(row.code, row.valeur, row.letter);
-            QCOMPARE(marking.code + '|' + marking.letter + ' ' + marking.value.value_or("none"),
-                     row.expected);
+        for (const auto &[code, value, letter, expected] : Rows) {
+            const Eia96::Marking marking = Eia96::decode(code, value, letter);
+            QCOMPARE(marking.code + '|' + marking.letter + ' ' + marking.value.value_or("none"), expected);
         }
         load();
         QCOMPARE(list(10).count(), 8);

@@ -1,15 +1,14 @@
 #include "elements/elementspane.h"
 #include "search/findbar.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/tsvsource.h"
 #include "widgets/picturewindow.h"
 #include "widgets/tooltips.h"
 #include "widgets/windowunits.h"
 
 #include <QComboBox>
 #include <QPointer>
-#include <QTemporaryDir>
 
 /// What the panel shows, and the pane with the Find bar in `Form1`.
 class ElementsTest final : public QObject
@@ -60,7 +59,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         m_module1.AppFolder = "folder";
-        TsvSource::load(3, "Elements", m_store);
+        loadDelivered(3, m_store);
         m_store.lists.Combo2[3].filled();
         for (int number = 1; number <= 106; ++number)
             makePicture(m_folder.filePath(QString("Data/elements/%1.jpg").arg(number)), {4, 4});

@@ -1,9 +1,7 @@
 #include "core/runtimeerror.h"
-#include "store/datastore.h"
-#include "store/loadtable.h"
 #include "store/tablecatalog.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/testclass.h"
-#include "tests/support/tsvsource.h"
 
 namespace {
 
@@ -188,7 +186,7 @@ private Q_SLOTS:
     void everyDeliveredGroupGoesToItsList()
     {
         for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStep; ++step)
-            TsvSource::load(step, TableCatalog::table(step), *m_store);
+            loadDelivered(step, *m_store);
         const RowLists &lists = m_store->lists;
         QCOMPARE(sizes(lists.ListView2, 5), QString("10 6 14 11 4"));
         QCOMPARE(sizes(lists.ListView7, 7), QString("7 13 13 8 24 4 6"));

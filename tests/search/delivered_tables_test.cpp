@@ -1,21 +1,31 @@
+#include "search/samecompound.h"
 #include "search/searcheverything.h"
 #include "store/tablecatalog.h"
+#include "tests/support/deliveredtables.h"
 #include "tests/support/files.h"
-#include "tests/support/tsvsource.h"
 
-/// Numbers that a user looks up in the delivered tables.
-class NumbersTest final : public QObject
+/// What a user looks up in the delivered tables: numbers, and other rows of a compound.
+class DeliveredTablesTest final : public QObject
 {
     Q_OBJECT
 
     DataStore m_store;
     std::unique_ptr<SearchEverything> m_search;
 
+    QStringList names(const QString &list) const
+    {
+        const RowList &rows = Places::find(list)->rows(m_store.lists);
+        QStringList texts;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            texts << rows.text(row);
+        return texts;
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
         for (int step = TableCatalog::FirstStep; step <= TableCatalog::LastStepAtStart; ++step)
-            TsvSource::load(step, TableCatalog::table(step), m_store);
+            loadDelivered(step, m_store);
         m_search = std::make_unique<SearchEverything>(m_store, QList<NamedPlaces>());
     }
 
@@ -93,7 +103,63 @@ private Q_SLOTS:
                      quantity.example);
         }
     }
+
+    void aCompoundIsFoundUnderEveryName()
+    {
+        const std::tuple<QString, const char *, QString> Rows[]{
+            {"ListView1", "Acetone",
+             "ListView6 Acetone, ListView4 Acetone, ListView5 Acetone, ListView3(26) Acetone, ListView8 "
+             "Acetone"},
+            {"ListView4", "tert-Butyl alcohol",
+             "ListView1 2-Methyl-2-propanol, ListView5 tert-Butyl alcohol, ListView3(26) tert-Butyl alcohol, "
+             "ListView8 2-Methyl-2-propanol"},
+            {"ListView3(9)", "Glycine", "ListView3(3) Glycine, Comb2 Glycine"},
+            {"ListView3(0)", "p-Nitrophenol", "ListView3(3) 4-Nitrophenol"},
+            {"ListView3(12)", "Butyric acid",
+             "ListView1 Butanoic acid, ListView3(3) Butanoic acid, ListView3(26) Butanoic acid"},
+            {"ListView4", "Solvent residual peak", ""},
+            {"ListView9", "Acetone + dry ice", ""},
+        };
+        const SameCompound compounds(m_store.lists);
+        for (const auto &[list, name, others] : Rows) {
+            QStringList found;
+            for (const Place &place : compounds.of({list, int(names(list).indexOf(name))}))
+                found << place.list + ' ' + names(place.list).at(place.row);
+            QCOMPARE(found.join(", "), others);
+        }
+        QVERIFY(compounds.of({"ListView1", -1}).isEmpty());
+    }
+
+    // A false link is worse than none.
+    void everySynonymIsInATableAndInOneCompound()
+    {
+        QStringList all;
+        for (const ListPlace &each : Places::all())
+            all += each.rows ? names(each.list) : QStringList();
+        QSet<QString> seen;
+        QStringList lines = QString::fromUtf8(readFile(ALEMBRA_SOURCE "/data/synonyms.tsv")).split('\n');
+        for (const QString &line : lines.sliced(1, lines.size() - 2)) {
+            const QStringList cells = line.split('\t');
+            const QString &cas = cells[1];
+            for (const QString &name : QStringList(cells[0]) + cells[2].split("; ", Qt::SkipEmptyParts)) {
+                QVERIFY2(all.contains(name) && !seen.contains(name), qPrintable(name));
+                seen << name;
+                const int solvent = int(names("ListView1").indexOf(name));
+                QVERIFY2(solvent < 0 || m_store.lists.ListView1.subItem(solvent, 6) == cas, qPrintable(name));
+            }
+            for (const QString &name : cells[3].split("; ", Qt::SkipEmptyParts)) { // found, in no table
+                const QList<SearchAnswer> answers = m_search->find(name).answers;
+                const bool found = std::ranges::count(answers, cells[0], &SearchAnswer::name) > 0;
+                QVERIFY2(found && !all.contains(name), qPrintable(name));
+            }
+            int sum = 0; // the last digit checks the others
+            const QString digits = QString(cas).remove('-').chopped(cas.isEmpty() ? 0 : 1);
+            for (int place = 1; place <= digits.size(); ++place)
+                sum += place * digits.at(digits.size() - place).digitValue();
+            QVERIFY2(cas.isEmpty() || sum % 10 == cas.back().digitValue(), qPrintable(cas));
+        }
+    }
 };
 
-const TestClass<NumbersTest> numbersTest;
-#include "numbers_test.moc"
+const TestClass<DeliveredTablesTest> deliveredTablesTest;
+#include "delivered_tables_test.moc"
