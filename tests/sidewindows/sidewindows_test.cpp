@@ -3,6 +3,7 @@
 #include "sidewindows/frmabout.h"
 #include "sidewindows/frmtip.h"
 #include "sidewindows/legends.h"
+#include "sidewindows/tips.h"
 #include "store/memorytables.h"
 #include "tests/support/files.h"
 #include "tests/support/scripteddesktop.h"
@@ -14,7 +15,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSettings>
-#include <QTemporaryDir>
 
 class SideWindowsTest final : public QObject
 {
@@ -38,37 +38,39 @@ private Q_SLOTS:
         m_module1->ReadOptions("opt", m_folder->path());
     }
 
-    void everyWindowOpensAboveADisabledOwnerAndGivesItBack()
+    void everyLineIsATip()
     {
-        const struct
-        {
-            const char *name;
-            QString caption;
-            std::function<void()> open;
-        } windows[] = {
-            {"frmTip", "Tip of the day", [this] { openTipWindow(); }},
-            {"frmAbout", "About Alembra", [this] { openAbout(*m_desktop, *m_form1); }},
-            {"Formhelp", "Captions", [this] { openCaptions(*m_form1); }},
-            {"Formhelp2", "Abréviations", [this] { openJournals(m_tables, *m_form1); }},
-            {"Formhelp3", "Code couleur", [this] { openColourCode(*m_form1); }},
-            {"Formhelp4", "Form3", [this] { openMnemonic(*m_form1); }},
+        const QStringList two{"one", "two"};
+        const std::pair<QByteArray, QStringList> rows[] = {
+            {"one\r\ntwo\r\n", two},
+            {"one\ntwo\n", two},
+            {"one\rtwo\r", two},
+            {"one\r\ntwo", two},
+            {"one\r\n\r\ntwo\r\n", {"one", "", "two"}},
+            {"\r\n", {""}},
+            {"", {}},
+            {"80 \260C \226 \265L\r\n", {"80 °C – µL"}}, // Windows-1252
         };
-        const std::function<void(QWidget &)> waysOut[] = {
-            [](QWidget &opened) { QTest::keyClick(&opened, Qt::Key_Return); }, // OK is the default
-            [](QWidget &opened) { QTest::keyClick(&opened, Qt::Key_Escape); },
-            [](QWidget &opened) { opened.close(); },
-        };
-        for (const auto &each : windows) {
-            for (const auto &wayOut : waysOut) {
-                each.open();
-                const QPointer<QWidget> opened = window(each.name);
-                QVERIFY2(opened, each.name);
-                QCOMPARE(opened->windowTitle(), each.caption);
-                QVERIFY(opened->isVisible() && opened->isEnabled() && !m_form1->isEnabled());
-                wayOut(*opened);
-                QVERIFY(m_form1->isEnabled());
-                QTRY_VERIFY(!opened);
-            }
+        for (const auto &[content, tips] : rows) {
+            writeFile(path("tips"), content);
+            QCOMPARE(*Tips::read(path("tips")), tips);
+        }
+        for (const QString &none : {QString(), path("none"), m_folder->path()})
+            QVERIFY(!Tips::read(none));
+    }
+
+    void drawsAgainUntilTheTipIsAnotherOne()
+    {
+        QList<double> fractions{0.0, 0.1, 0.3, 0.999};
+        const auto take = [&] { return fractions.takeFirst(); };
+        for (const auto &[current, next] : {std::pair(0, 1), std::pair(1, 2), std::pair(2, 5)})
+            QCOMPARE(Tips::next(current, 5, take), next);
+        QVERIFY(fractions.isEmpty());
+        for (int i = 0; i < 40; ++i)
+            QCOMPARE(Tips::next(0, 40, [i] { return i / 40.0; }), i + 1);
+        for (const int count : {0, 1}) { // the only tip stays
+            for (const int current : {0, 1})
+                QCOMPARE(Tips::next(current, count, [] { return 0.7; }), 1);
         }
     }
 
@@ -76,6 +78,7 @@ private Q_SLOTS:
     {
         m_module1->OptionSlots(Slot::TipAtStart) = 0;
         openTipWindow();
+        QCOMPARE(window("frmTip")->windowTitle(), "Tip of the day");
         QVERIFY(control<QCheckBox>("frmTip", "chkLoadTipsAtStartup").isChecked()); // opening ticks it
         QVERIFY(m_module1->OptionSlots(Slot::TipAtStart).equals(1));
         QCOMPARE(m_check1, QList<bool>{true});
