@@ -3,8 +3,6 @@
 #include "widgets/picturewindow.h"
 #include "widgets/structurewindow.h"
 
-#include <QTemporaryDir>
-
 class StructureWindowTest final : public QObject
 {
     Q_OBJECT
