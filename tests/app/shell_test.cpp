@@ -17,7 +17,6 @@
 #include <QClipboard>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QTemporaryDir>
 
 class ShellTest final : public QObject
 {
@@ -153,20 +152,16 @@ private Q_SLOTS:
 
     void eachDoubleClickOnTheTrayCountsOnce()
     {
-        const struct
-        {
-            // c is a click, d a double click, a digit the hundreds of milliseconds that pass.
-            QByteArray told;
-            int counted;
-        } Rows[]{
+        // c is a click, d a double click, a digit the hundreds of milliseconds that pass.
+        const std::pair<QByteArray, int> Rows[]{
             {"c", 0},    {"c3c", 1}, {"c5c", 0},     {"c5c3c", 1},   {"c1d", 1},
             {"c1cd", 1}, {"d", 1},   {"c1d1c1d", 2}, {"c1c1c1c", 2}, {"c1d1c", 1},
         };
-        for (const auto &row : Rows) {
+        for (const auto &[told, counted] : Rows) {
             TrayDoubleClick clicks(400);
             qint64 now = 0;
             int count = 0;
-            for (const char c : row.told) {
+            for (const char c : told) {
                 if (c == 'c')
                     count += clicks.click(now) ? 1 : 0;
                 else if (c == 'd')
@@ -174,7 +169,7 @@ private Q_SLOTS:
                 else
                     now += qint64(100) * (c - '0');
             }
-            QVERIFY2(count == row.counted, row.told);
+            QVERIFY2(count == counted, told);
         }
     }
 };

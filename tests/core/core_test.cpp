@@ -7,7 +7,6 @@
 #include "tests/support/filetrouble.h"
 
 #include <QSettings>
-#include <QTemporaryDir>
 
 class CoreTest final : public QObject
 {
@@ -91,11 +90,8 @@ private Q_SLOTS:
 
     void readsDelimitedValues()
     {
-        const struct
-        {
-            const char *content;
-            QStringList values; ///< texts in quotes
-        } Rows[]{
+        const std::pair<const char *, QStringList> Rows[]{
+            // texts are quoted
             {"1,2\r\n3\r\n", {"1", "2", "3"}},          // a comma ends a bare value
             {"\"1\"\r\n1\r\n", {"'1'", "1"}},           // a quoted digit stays a text
             {"abc def\r\n", {"'abc def'"}},             // bare words are texts
@@ -103,13 +99,13 @@ private Q_SLOTS:
             {"1\n2\r3", {"1", "2", "3"}},               // other line ends
             {"\"a\r\n2\r\n", {"'a\r\n2\r\n'"}},         // an unclosed quote runs to the end
         };
-        for (const auto &row : Rows) {
+        for (const auto &[content, expected] : Rows) {
             OptionSlots options;
-            read(options, row.content);
+            read(options, content);
             QStringList values;
             for (int index = 0; index <= options.lastIndex(); ++index)
                 values << QString(options(index).isText() ? "'%1'" : "%1").arg(options(index).toText());
-            QCOMPARE(values, row.values);
+            QCOMPARE(values, expected);
         }
     }
 

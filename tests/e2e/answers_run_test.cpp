@@ -72,12 +72,8 @@ private Q_SLOTS:
     // Each in two steps: Ctrl+K and what is typed. Enter leads to the row.
     void questionsOfTheBench()
     {
-        const struct
-        {
-            const char *typed;
-            QString answer; ///< how the first one begins
-            QString list;
-        } questions[] = {
+        const std::tuple<const char *, QString, QString> questions[] = {
+            // the beginning of the first answer
             {"acetonitrile", "Acetonitrile|bp 81.6", "ListView1"},
             {"acetonitrile immiscible", "Acetonitrile|non-miscible: Cyclohexane, Decane", "ListView6"},
             {"2.05 CDCl3", "Ethyl acetate|CH3CO, s, CDCl3 2.05 ppm", "ListView4"},

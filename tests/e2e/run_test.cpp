@@ -1,4 +1,3 @@
-#include "app/commands.h"
 #include "app/singleinstance.h"
 #include "app/startagain.h"
 #include "tests/e2e/walk.h"
@@ -7,11 +6,9 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
-#include <QTextBrowser>
 #include <future>
 
 /// Whole runs of the program, from `Main` to its end, on copies of the assembled folder.

@@ -40,13 +40,7 @@ private Q_SLOTS:
             Q_EMIT get<RowListView>(form, "ListView1").rowDoubleClicked(0);
             m_seen = form.findChild<QWidget *>("Form2") ? " with Form2" : "";
         };
-        const struct
-        {
-            Steps steps;
-            const char *file;
-            const char *fault;
-            const char *outcome;
-        } rows[] = {
+        const std::tuple<Steps, const char *, const char *, const char *> rows[] = {
             {start, "options_uk.ini", "missing", "report 53"},
             {start, "options_uk.ini", "unreadable", "report 75"},
             {start, "options_uk.ini", "a folder", "report 75"},
@@ -81,21 +75,21 @@ private Q_SLOTS:
         };
         bool splashAlone = false; // at the last box
         m_desktop.whileWaiting = [&] { splashAlone = openWindow("frmload") && !openWindow("Form1"); };
-        for (const auto &row : rows) {
+        for (const auto &[steps, file, fault, expected] : rows) {
             const ProgramFolder folder;
             for (const int slot : {55, 58, 74}) // pictures are shown
                 folder.setOption(slot, "1");
-            folder.setOption(56, row.file == QByteArray("TIPOFDAY_UK.TXT") ? "1" : "0");
-            spoil(folder, row.file, row.fault);
+            const bool tips = file == QByteArray("TIPOFDAY_UK.TXT");
+            folder.setOption(56, tips ? "1" : "0");
+            spoil(folder, file, fault);
             m_seen.clear();
-            const QString end = outcome(folder, row.steps ? row.steps : help);
-            const QString name = QString("%1, %2: ").arg(row.file, row.fault);
-            QCOMPARE(name + end + m_seen, name + row.outcome);
-            const bool early = !row.steps || row.file == QByteArray("TIPOFDAY_UK.TXT");
-            QCOMPARE(m_cameUp, !early || end == "runs");
+            const QString end = outcome(folder, steps ? steps : help);
+            const QString name = QString("%1, %2: ").arg(file, fault);
+            QCOMPARE(name + end + m_seen, name + expected);
+            QCOMPARE(m_cameUp, (steps && !tips) || end == "runs");
             if (end.startsWith("report")) {
-                QVERIFY(m_desktop.boxes.constFirst().first.contains(folder.path(row.file)));
-                QCOMPARE(splashAlone, !row.steps);
+                QVERIFY(m_desktop.boxes.constFirst().first.contains(folder.path(file)));
+                QCOMPARE(splashAlone, !steps);
             }
         }
         m_desktop.whileWaiting = {};

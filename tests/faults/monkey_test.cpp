@@ -116,26 +116,17 @@ private:
         static const QList keys{Qt::Key_Left, Qt::Key_Down, Qt::Key_Tab,    Qt::Key_End,   Qt::Key_PageUp,
                                 Qt::Key_F,    Qt::Key_7,    Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape};
         const QPoint place(below(control.width()), below(control.height()));
-        switch (below(16)) {
-        case 0:
-        case 1:
-        case 2:
+        const int way = below(16);
+        if (way == 3 || way == 4)
+            QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier); // and a text over it
+        if (way < 3)
             QTest::keyClick(&control, keys[below(keys.size())]);
-            break;
-        case 3:
-        case 4:
-            QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
-            [[fallthrough]];
-        case 5:
-        case 6:
+        else if (way < 7)
             QTest::keyClicks(&control, texts[below(texts.size())]);
-            break;
-        case 7:
+        else if (way == 7)
             QTest::mouseDClick(&control, Qt::LeftButton, {}, place);
-            break;
-        default:
+        else
             QTest::mouseClick(&control, Qt::LeftButton, {}, place);
-        }
     }
 
     QRandomGenerator m_random{20260101};

@@ -3,8 +3,6 @@
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
 
-#include <QTemporaryDir>
-
 /// The options file is replaced in place and nothing is kept of the old one. So what a full disk or a killed
 /// process leaves is the beginning of the new file, and the next start reads what there is of it.
 class WritingTest final : public QObject

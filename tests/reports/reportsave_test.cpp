@@ -4,9 +4,7 @@
 #include "tests/support/files.h"
 #include "tests/support/filetrouble.h"
 #include "tests/support/scripteddesktop.h"
-#include "tests/support/testclass.h"
 
-#include <QTemporaryDir>
 #include <sys/stat.h>
 
 /// Where reports are saved, and what the user is asked and told.
