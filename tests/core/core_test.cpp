@@ -1,4 +1,5 @@
 #include "core/codepage.h"
+#include "core/filecopy.h"
 #include "core/numbers.h"
 #include "core/optionslots.h"
 #include "core/scale.h"
@@ -123,6 +124,50 @@ private Q_SLOTS:
         read(large, QByteArray(20000, 'x'));
         const FullDisk disk(0);
         QCOMPARE(errorOf([&] { large.write(m_path); }), ErrorNumber::DiskFull);
+    }
+
+    // The options file is replaced in place and nothing is kept of the old one. So what a full disk or a
+    // killed process leaves is the beginning of the new file, and the next start reads what there is of it.
+    void aFullDiskAndAKilledWriterLeaveTheBeginning()
+    {
+        OptionSlots meant;
+        meant.read(ALEMBRA_SOURCE "/data/program/options_uk.ini");
+        meant.write(m_path);
+        const QByteArray whole = readFile(m_path);
+        QVERIFY(whole.size() > 1000);
+        copyFileOver(m_path, m_path); // other than options, a copy is whole before it replaces anything
+        QCOMPARE(readFile(m_path), whole);
+        const auto requireBeginning = [&](qsizetype bytes) {
+            QCOMPARE(readFile(m_path), whole.first(bytes));
+            OptionSlots left;
+            left.read(m_path);
+            QVERIFY(left.lastIndex() <= meant.lastIndex());
+            for (int index = 0; index < left.lastIndex(); ++index) // the last one may be cut
+                QCOMPARE(left(index), meant(index));
+        };
+        for (qsizetype bytes = 0; bytes < whole.size(); bytes += 29) {
+            const int number = errorOf([&] {
+                const FullDisk disk{rlim_t(bytes)};
+                meant.write(m_path);
+            });
+            QCOMPARE(number, ErrorNumber::DiskFull);
+            requireBeginning(bytes);
+
+            meant.write(m_path);
+            QCOMPARE(readFile(m_path), whole);
+            const pid_t writer = fork(); // it ends by its first byte beyond the limit
+            QVERIFY(writer >= 0);
+            if (writer == 0) {
+                const FullDisk disk{rlim_t(bytes)};
+                signal(SIGXFSZ, SIG_DFL);
+                meant.write(m_path);
+                _exit(0);
+            }
+            int status = 0;
+            QCOMPARE(waitpid(writer, &status, 0), writer);
+            QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
+            requireBeginning(bytes);
+        }
     }
 
     void emptyEqualsZeroAndTextEqualsNoNumber()
