@@ -244,6 +244,11 @@ private Q_SLOTS:
         QCOMPARE(scale(), " 24 25 26: σ/ cm-1 307 318");
         m_window->click(Charts, 1);
         QCOMPARE(scale(), " 25 26 27: λ/ micrometer 307 318"); // moved by the dialog alone
+        m_window->pane.applyIrGraduation();
+        QCOMPARE(scale(), " 25 26 27: λ/ micrometer 287 298");
+        m_window->module.OptionSlots(Slot::IrInFrequency) = 1;
+        m_window->pane.applyIrGraduation();
+        QCOMPARE(scale(), " 24 25 26: σ/ cm-1 307 318");
 
         m_window->pane.ClearChartPanels();
         QVERIFY(m_window->picture().isClear() && scale().startsWith(':') && !m_window->shows("VScroll10"));

@@ -39,8 +39,6 @@ private Q_SLOTS:
             QVERIFY(!dialog(form));
             form.executeCommand(1058);
             QVERIFY(control<QCheckBox>(form, "Check1(6)").isChecked());
-            form.options().setTipAtStart(true);
-            QVERIFY(control<QCheckBox>(form, "Check1(1)").isChecked());
         });
         QCOMPARE(m_desktop.boxes.size(), 0);
     }
@@ -49,9 +47,11 @@ private Q_SLOTS:
     {
         m_folder->setOption(54, "0");
         m_folder->setOption(81, "0");
+        m_folder->setOption(89, "1");
         run(*m_folder, [&](Form1 &form) {
             const auto *bar = form.findChild<QToolBar *>();
             QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+            form.executeCommand(1144); // the infrared charts
             form.executeCommand(1120);
             auto &field = get<QLineEdit>(form, "TextBoxM7(0)");
             field.setText("12");
@@ -62,33 +62,17 @@ private Q_SLOTS:
             control<QComboBox>(form, "Combo2").setCurrentIndex(4);
             control<QCheckBox>(form, "Check1(2)").setChecked(false);
             control<QCheckBox>(form, "Check1(7)").setChecked(true);
+            control<QRadioButton>(form, "Option1(2)").click();
             press(form, "XPButton1");
 
             QVERIFY(!dialog(form) && form.isEnabled());
             QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
             QCOMPARE(field.text() + arrow.toolTip(), QString());
+            QCOMPARE(get<QLabel>(get(form, "frmana"), "Label25").text(), "/ micrometer");
         });
         const QList<QByteArray> written = m_folder->read("options_uk.ini").split('\n');
         QCOMPARE((QByteArrayList{written[54], written[57], written[81]}),
                  (QByteArrayList{"4\r", "0\r", "1\r"}));
-    }
-
-    void okPutsTheInfraredScaleOnShow()
-    {
-        m_folder->setOption(89, "1");
-        run(*m_folder, [&](Form1 &form) {
-            const QWidget &pane = get(form, "frmana");
-            for (const auto &[mode, button, unit, x] :
-                 {std::tuple(1145, "Option1(2)", "/ micrometer", 287), {1144, "Option1(3)", "/ cm-1", 307}}) {
-                form.executeCommand(mode);
-                form.executeCommand(1058);
-                control<QRadioButton>(form, button).click();
-                press(form, "XPButton1");
-                QCOMPARE(get<QLabel>(pane, "Label25").text(), unit);
-                QCOMPARE(get(pane, "Label25").isHidden(), mode == 1145); // the table is over it
-                QCOMPARE(get(pane, "Label26").x(), x);
-            }
-        });
     }
 
     void tipAndDialogShareTheirBox()

@@ -12,7 +12,6 @@ private Q_SLOTS:
     void whatIsLeftOfAnEditedTableIsShown()
     {
         const std::tuple<const char *, SampleDatabases::Edit, const char *> rows[] = {
-            {"a column more", {Table, 2, {}, true}, "0.0|0.1 1.0|1.1"},
             {"a row more", {Table, 3}, "0.0|0.1 1.0|1.1 2.0|2.1"},
             {"rows deleted", {Table, 4, {0, 2}}, "1.0|1.1 3.0|3.1"},
             {"no rows", {Table, 0}, ""},

@@ -21,7 +21,7 @@ private Q_SLOTS:
         const Steps help = [](Form1 &form) { form.executeCommand(CommandId::Help); };
         const Steps tip = [this](Form1 &form) {
             QVERIFY(!form.isEnabled());
-            m_seen = ": " + get<QLabel>(form, "lblTipText").text().section('\n', 0, 0);
+            m_seen = ": " + get<QLabel>(form, "lblTipText").text();
         };
         const Steps iron = [](Form1 &form) {
             form.executeCommand(1108);
@@ -54,7 +54,10 @@ private Q_SLOTS:
             // Never opened while the database is good, or by another program.
             {start, "Backup/Database_uk_origin.rbk", "a folder", "runs"},
             {start, "alembra_help_uk.chm", "a folder", "runs"},
-            {tip, "TIPOFDAY_UK.TXT", "missing", "runs: That the TIPOFDAY_UK.TXT file was not found? "},
+            {tip, "TIPOFDAY_UK.TXT", "missing",
+             "runs: That the TIPOFDAY_UK.TXT file was not found? \n\nCreate a text file named "
+             "TIPOFDAY_UK.TXT "
+             "using NotePad with 1 tip per line. Then place it in the same directory as the application. "},
             {tip, "TIPOFDAY_UK.TXT", "empty", "runs: There is no tip."},
             {tip, "TIPOFDAY_UK.TXT", "of another kind", "runs: This is no such file."},
             {tip, "TIPOFDAY_UK.TXT", "unreadable", "report 75"},

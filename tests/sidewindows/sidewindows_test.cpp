@@ -92,15 +92,6 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList{"one", "three", "two"}));
     }
 
-    void tipsThatAreMissingAreExplained()
-    {
-        QFile::remove(path("TIPOFDAY_UK.TXT"));
-        openTipWindow();
-        QCOMPARE(nextTip(), "That the TIPOFDAY_UK.TXT file was not found? \n\nCreate a text file named "
-                            "TIPOFDAY_UK.TXT using NotePad with 1 tip per line. Then place it in the same "
-                            "directory as the application. ");
-    }
-
     void onlyOkWritesTheOptions()
     {
         const QByteArray before = readFile(path("options_uk.ini"));

@@ -42,22 +42,16 @@ void addTable(Builder *builder, int step, const SampleDatabases::Edit &edit)
 {
     QList<Builder::Column> columns;
     QList<int> present;
-    QStringList names = TableCatalog::columns(step);
-    if (edit.extraColumn)
-        names.prepend(QStringLiteral("remarks"));
-    for (const QString &name : std::as_const(names)) {
+    for (const QString &name : TableCatalog::columns(step)) {
         const int number = int(columns.size());
         columns.append({name, Type::Text, number, number, 0, 510});
         present.append(number);
     }
     Builder::Page page;
-    const int first = edit.extraColumn ? 1 : 0;
     for (int row = 0; row < edit.rows; ++row) {
         QList<std::optional<QByteArray>> cells;
-        for (const int column : std::as_const(present)) {
-            const QString text = QStringLiteral("%1.%2").arg(row).arg(column - first);
-            cells.append(Builder::utf16(column < first ? QStringLiteral("mine") : text));
-        }
+        for (const int column : std::as_const(present))
+            cells.append(Builder::utf16(QStringLiteral("%1.%2").arg(row).arg(column)));
         page.append({Builder::row(int(columns.size()), {}, cells, present),
                      edit.deleted.contains(row) ? Jet::SlotIsDeleted : quint16(0)});
     }

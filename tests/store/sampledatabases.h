@@ -15,13 +15,12 @@ QByteArray varied();
 struct Edit
 {
     QString table;
-    int rows = 0;             ///< instead of those of the other tables
-    QSet<int> deleted = {};   ///< rows, from 0
-    bool extraColumn = false; ///< "remarks", in front of the others
+    int rows = 0;           ///< instead of those of the other tables
+    QSet<int> deleted = {}; ///< rows, from 0
 };
 
 /// All tables of the catalogue, with @p rows rows of short texts each, "2.1" in row 2 and column 1; with the
-/// program's password. Rows and columns count from 0, an extra column not at all.
+/// program's password. Rows and columns count from 0.
 QByteArray catalogued(int rows, const Edit &edit = {});
 
 } // namespace SampleDatabases
