@@ -175,7 +175,7 @@ endfunction()
 # program is built by that name, too.
 function(alembra_test_part name program environment)
     add_test(NAME ${name} COMMAND ${ARGN})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
                          "${environment};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings")
     string(REGEX REPLACE "_[0-9.]+$" "" target ${name})
     if(NOT TARGET ${target})
