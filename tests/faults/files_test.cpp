@@ -56,8 +56,8 @@ private Q_SLOTS:
             {start, "alembra_help_uk.chm", "a folder", "runs"},
             {tip, "TIPOFDAY_UK.TXT", "missing",
              "runs: That the TIPOFDAY_UK.TXT file was not found? \n\nCreate a text file named "
-             "TIPOFDAY_UK.TXT "
-             "using NotePad with 1 tip per line. Then place it in the same directory as the application. "},
+             "TIPOFDAY_UK.TXT using NotePad with 1 tip per line. Then place it in the same directory as the "
+             "application. "},
             {tip, "TIPOFDAY_UK.TXT", "empty", "runs: There is no tip."},
             {tip, "TIPOFDAY_UK.TXT", "of another kind", "runs: This is no such file."},
             {tip, "TIPOFDAY_UK.TXT", "unreadable", "report 75"},
