@@ -27,19 +27,17 @@ struct Settings
 {
     bool emptiesTitle;            ///< of `Label20`; otherwise the title of the last chart remains
     std::optional<Places> places; ///< none: unchanged
-    const char *heading;          ///< of `Label2(104)`; null: unchanged
     const char *toolTip;          ///< of `Command1`, if help balloons are on; null: unchanged
 };
 
-inline constexpr const char *Heading = "Functional group";
 inline constexpr const char *References = "Display explanation of references";
 
 /// By mode. The infrared charts keep the title of the last NMR chart until a row is chosen.
 inline constexpr std::array<Settings, 4> AllSettings{{
-    {true, NmrPlaces, Heading, References},
-    {true, NmrPlaces, Heading, References},
-    {false, IrPlaces, Heading, "Display color code"},
-    {false, std::nullopt, nullptr, nullptr},
+    {true, NmrPlaces, References},
+    {true, NmrPlaces, References},
+    {false, IrPlaces, "Display color code"},
+    {false, std::nullopt, nullptr},
 }};
 
 } // namespace SpectroscopyModes

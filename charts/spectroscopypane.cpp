@@ -230,8 +230,6 @@ void SpectroscopyPane::applyMode(SpectroscopyMode mode)
     if (settings.emptiesTitle)
         Label20->clear();
     Label20->setEnabled(settings.emptiesTitle); // a remaining title belongs to no chart shown
-    if (settings.heading)
-        Label2[104].setText(settings.heading);
     if (settings.toolTip && m_module1.OptionSlots(Slot::ToolTips).equals(1))
         Command1->setToolTip(settings.toolTip);
     if (const auto &places = settings.places) {

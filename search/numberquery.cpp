@@ -247,11 +247,9 @@ QString wordsOf(const QList<Term> &terms, const QString &solvent)
 {
     const Quantities quantities = terms.constFirst().quantities;
     QStringList names = each(quantities, &SoughtQuantity::name);
-    QStringList scopes = each(quantities, &SoughtQuantity::scope);
-    if (scopes.count(scopes.constFirst()) == scopes.size()) {
+    const QStringList scopes = each(quantities, &SoughtQuantity::scope);
+    if (scopes.count(scopes.constFirst()) == scopes.size())
         names = {joined(names, u" or "_s)};
-        scopes.resize(1);
-    }
     QStringList numbers;
     for (const Term &term : terms)
         numbers << term.number;
