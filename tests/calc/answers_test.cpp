@@ -136,6 +136,8 @@ private Q_SLOTS:
         texts[Xn1] = "0.25";
         texts[Xm1] = "0.461";
         QCOMPARE(PlainAnswer::fractions(texts), "By amount 25 % and 75 %, by mass 46.1 % and 53.9 %");
+        texts[Xn1] = "1.5";
+        QCOMPARE(PlainAnswer::fractions(texts), "");
     }
 };
 

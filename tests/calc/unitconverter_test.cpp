@@ -113,7 +113,8 @@ private Q_SLOTS:
                 QCOMPARE(converted(tab, 0, 1, input), byFormula);
         }
         for (const int tab : {Energy, Length, Temperature}) // no unit selected in one of the lists
-            QCOMPARE(converted(tab, -1, 0, "1") + converted(tab, 0, -1, "1"), QString());
+            QCOMPARE(converted(tab, -1, 0, "1") + converted(tab, 0, -1, "1") + converted(tab, 13, 0, "1"),
+                     "");
         for (const int tab : {Radioactivity, Energy}) // beyond the numbers
             QCOMPARE(converted(tab, tab == Energy ? 0 : 2, tab == Energy ? 3 : 0, "1E300"), QString());
     }

@@ -40,7 +40,7 @@ private Q_SLOTS:
     {
         QCOMPARE(SymbolText::toUnicode("a, b-, b+, e, ~é"), "α, β−, β+, ε, ~é");
         QCOMPARE(SymbolText::decayModes("b-, e, IT, SF"), "β−, ε, IT, SF");
-        QCOMPARE(SymbolText::toUnicode("DWlsz"), "ΔΩλσζ");
+        QCOMPARE(SymbolText::toUnicode("DWZlsz"), "ΔΩΖλσζ");
     }
 
     void invariantNumbers()

@@ -129,7 +129,9 @@ private Q_SLOTS:
             form.executeCommand(1120);
             get(form, "TextBoxM3").setFocus(); // a field has Ctrl+K for itself
             QTest::keyClick(&searchFor(form, "bp acetonitrile"), Qt::Key_Down);
-            const auto &answers = get<QTreeWidget>(form, "lstSearch");
+            auto &answers = get<QTreeWidget>(form, "lstSearch");
+            QTest::keyClick(&answers, Qt::Key_Up); // back into the field
+            QTest::keyClick(answers.window()->focusWidget(), Qt::Key_Down);
             QCOMPARE(answers.topLevelItem(0)->text(1), "Solvents, properties");
             QTest::keyClick(answers.window()->focusWidget(), Qt::Key_Return);
             const Place row{"ListView1", 3};
@@ -176,6 +178,15 @@ private Q_SLOTS:
             const auto &mass = get<QLineEdit>(form, "TextBoxM5");
             QCOMPARE(mass.text(), "198.171");
             QTRY_COMPARE(form.focusWidget(), &mass);
+
+            get<QTabBar>(form, "TabStrip4").setCurrentIndex(4); // of two masses the first that is empty
+            for (const char *next : {"TextBoxM7(4)", "TextBoxM7(5)"}) {
+                QTRY_VERIFY(!form.findChild<QWidget *>("frmFormula"));
+                QTest::keyClick(&form, Qt::Key_M, Qt::ControlModifier);
+                type(get(form, "frmFormula"), "txtFormula", "H2O");
+                QTest::keyClick(&get(form, "txtFormula"), Qt::Key_Return);
+                QCOMPARE(get<QLineEdit>(form, next).text(), "18.015");
+            }
         });
     }
 
@@ -206,21 +217,21 @@ private Q_SLOTS:
     void reportsOnPaper()
     {
         const QTemporaryDir folder;
-        m_desktop.savePaths = {folder.filePath("acids.pdf")};
+        m_desktop.savePaths = {folder.filePath("solvents.pdf")};
         run([](Form1 &form) {
             QVERIFY(get<QAction>(form, "actPdfReport").isEnabled()); // the elements
             form.executeCommand(1111);
             QVERIFY(!get<QAction>(form, "actPrintReport").isEnabled());
-            form.executeCommand(1113);
+            form.executeCommand(1119);
             get<QAction>(form, "actPdfReport").trigger();
             get<QAction>(form, "actPrintReport").trigger();
             QWidget &preview = get(form, "frmPreview");
             QVERIFY(QTest::qWaitForWindowExposed(&preview));
             preview.close();
         });
-        const QByteArray pdf = readFile(folder.filePath("acids.pdf"));
+        const QByteArray pdf = readFile(folder.filePath("solvents.pdf"));
         QVERIFY(pdf.startsWith("%PDF-"));
-        QVERIFY(pdf.count("/Type /Page\n") > 5);
+        QVERIFY(pdf.count("/Type /Page\n") > 5 && pdf.contains("/Subtype /Image"));
     }
 };
 

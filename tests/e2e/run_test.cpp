@@ -1,3 +1,4 @@
+#include "app/placeswitch.h"
 #include "app/singleinstance.h"
 #include "app/startagain.h"
 #include "tests/e2e/walk.h"
@@ -284,6 +285,15 @@ private Q_SLOTS:
             form.executeCommand(1108);
             get<QAbstractButton>(form, "Command7(0)").click();
             QVERIFY(Walk::sourceOf(form).startsWith("Hydrogen, H\nPython package mendeleev"));
+            for (const auto &[list, field, source] :
+                 {std::tuple("ListView3(9)", "ListView3(9)", "Arginine, Arg (R)\npK\nKeene State"),
+                  {"Comb2", "Comb2", "Arginine\nNCBI standard code"},
+                  {"ListView3(29)", "Combo4", "01, 100\nEIA-96"}}) {
+                get<PlaceSwitch>(form, QString()).show({list, 0});
+                QVERIFY2(Walk::sourceOf(get(form, field), Qt::Key_Down).startsWith(source), source);
+            }
+            get<QTabBar>(form, "TabStrip11").setCurrentIndex(0); // the colours of rings
+            QVERIFY(Walk::sourceOf(get(form, "Combo2(4)"), Qt::Key_Down).startsWith("Black\nIEC 60062"));
         });
     }
 

@@ -65,6 +65,7 @@ private Q_SLOTS:
         get<DropDown>("Combo4").setCurrentIndex(0);
         choose(10, "A");
         QVERIFY(!field(7).isEmpty() && !field(10).isEmpty());
+        QVERIFY(get<TextBoxM>("tbm(7)").isReadOnly() && get<TextBoxM>("tbm(10)").isReadOnly());
 
         m_unread->tables.forget();
         QVERIFY(!Controls::isShown(band(0)));

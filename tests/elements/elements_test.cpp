@@ -312,6 +312,9 @@ private Q_SLOTS:
         QTest::mouseClick(&imgato, Qt::LeftButton);
         QVERIFY(!m_form1->findChild<QWidget *>("Form5"));
         QCOMPARE(current(), int(Uuo));
+        m_form1->module1.OptionSlots(Slot::ElementPicture) = 0;
+        m_form1->pane.applyPictureOption();
+        QVERIFY(imgato.isHidden());
     }
 
     void crystalWindowShowsTheStructure()

@@ -6,7 +6,6 @@
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/reactionline.h"
-#include "tools/make_pictures/shiftaxis.h"
 #include "tools/tables/table.h"
 
 #include <QFontMetricsF>
@@ -82,21 +81,6 @@ private Q_SLOTS:
                 QVERIFY2(levels <= Tolerance,
                          qPrintable(u"%1 differs by %2 levels"_s.arg(drawn).arg(levels)));
             }
-        }
-    }
-
-    void shiftsFallFromLeftToRightOnRoundedScales()
-    {
-        const ShiftAxis axis(10, 0, 100, 300);
-        QCOMPARE(axis.abscissa(7.5), 150.0);
-        QCOMPARE(axis.abscissa(0), 300.0);
-        const ShiftAxis narrow = ShiftAxis::around(0.42, 0.94, 0, 100);
-        QVERIFY(narrow.low() <= 0.42 && narrow.low() > 0.3 && narrow.high() >= 0.94 && narrow.high() < 1.05);
-        for (const auto &[from, to, low, high] :
-             {std::array{-24.0, 76.0, -30.0, 80.0}, {1.0, 2.0, 1.0, 2.0}}) { // bounds on ticks stay
-            const ShiftAxis around = ShiftAxis::around(from, to, 0, 100);
-            QCOMPARE(around.low(), low);
-            QCOMPARE(around.high(), high);
         }
     }
 

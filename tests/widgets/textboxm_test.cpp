@@ -33,6 +33,7 @@ private Q_SLOTS:
               {Signed, 10, 23, "-.5", "-0.5"},
               {Plain, 3, 23, "1.23456", "1.234"},
               {Plain, 0, 23, "1.5", "15"},
+              {Plain, 10, 0, "12.50", "12.50"},    // of any length
               {Signed, 10, 5, "-12.345", "-12.3"}, // the length counts every character
               {TextBoxM::AnyText, 0, 0, "di, 1.5", "di, 1.5"}}) {
             TextBoxM box(entry, decimales, maxlength);
