@@ -130,7 +130,8 @@ private Q_SLOTS:
             get(form, "TextBoxM3").setFocus(); // a field has Ctrl+K for itself
             QTest::keyClick(&searchFor(form, "bp acetonitrile"), Qt::Key_Down);
             auto &answers = get<QTreeWidget>(form, "lstSearch");
-            QTest::keyClick(&answers, Qt::Key_Up); // back into the field
+            QTest::keyClick(&answers, Qt::Key_Up);
+            QCOMPARE(answers.window()->focusWidget(), &get(form, "txtSearch"));
             QTest::keyClick(answers.window()->focusWidget(), Qt::Key_Down);
             QCOMPARE(answers.topLevelItem(0)->text(1), "Solvents, properties");
             QTest::keyClick(answers.window()->focusWidget(), Qt::Key_Return);
@@ -180,9 +181,11 @@ private Q_SLOTS:
             QTRY_COMPARE(form.focusWidget(), &mass);
 
             get<QTabBar>(form, "TabStrip4").setCurrentIndex(4); // of two masses the first that is empty
-            for (const char *next : {"TextBoxM7(4)", "TextBoxM7(5)"}) {
+            for (const auto &[next, caption] :
+                 {std::pair("TextBoxM7(4)", "&Put into M1"), {"TextBoxM7(5)", "&Put into M2"}}) {
                 QTRY_VERIFY(!form.findChild<QWidget *>("frmFormula"));
                 QTest::keyClick(&form, Qt::Key_M, Qt::ControlModifier);
+                QCOMPARE(get<QPushButton>(form, "cmdPutM").text(), caption);
                 type(get(form, "frmFormula"), "txtFormula", "H2O");
                 QTest::keyClick(&get(form, "txtFormula"), Qt::Key_Return);
                 QCOMPARE(get<QLineEdit>(form, next).text(), "18.015");

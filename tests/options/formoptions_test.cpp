@@ -188,7 +188,9 @@ private Q_SLOTS:
     {
         Bench bench;
         writeFile(bench.folder.filePath("Backup/Database_uk_origin.rbk"), QByteArray(2048, 'x'));
+        writeFile(bench.folder.filePath("Data/large"), QByteArray(1 << 20, 'x'));
         bench.open();
+        QCOMPARE(bench.text("Label29"), QString("1 Mo"));
         QCOMPARE(bench.control<QLineEdit>("Text1").text(), bench.folder.filePath("Data/Database_uk.mdb"));
         QCOMPARE(bench.text("Label5"), QString("File size:   1.3056640625 Ko"));
         QVERIFY(bench.text("Label6").startsWith("Modification date:   "));
