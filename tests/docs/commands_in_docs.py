@@ -32,7 +32,7 @@ def missing_in(command):
 def run(block, folder):
     """What goes wrong in the block."""
     block = re.sub(r"cmake --build --preset \w+ --target (\w+)|\bbuild/\w+/(\S+)", rf"ninja -C {build} -n \1\2", block)
-    block = re.sub(r"^cmake --preset.*", "", block, flags=re.MULTILINE)
+    block = re.sub(r"^(?:cmake --preset|tools/setup).*", "", block, flags=re.MULTILINE)
     return subprocess.run(["bash", "-ec", block], cwd=folder, capture_output=True, text=True).stderr
 
 
