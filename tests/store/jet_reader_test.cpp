@@ -276,7 +276,6 @@ private Q_SLOTS:
     {
         const QByteArray next = Builder::u32(Builder::pointer(6, 1));
         const QByteArray infinite = bytesOf(std::numeric_limits<double>::infinity());
-        const QByteArray noNumber = bytesOf(std::numeric_limits<double>::quiet_NaN());
         const QList<Builder::Column> one{text("a", 0)};
         const QList<Builder::Column> two{text("a", 0), text("b", 1)};
         const auto check = [](const char *what, const QList<Builder::Column> &columns,
@@ -298,7 +297,9 @@ private Q_SLOTS:
         check("outside its row", {{"n", Type::Int32, 0, -1, 9000, 4}}, {{Builder::fixedRow(1, "abcd", {0})}},
               1);
         check("infinite", {{"n", Type::Double, 0, -1, 0, 8}}, {{Builder::fixedRow(1, infinite, {0})}}, 1);
-        check("no date", {{"d", Type::Date, 0, -1, 0, 8}}, {{Builder::fixedRow(1, noNumber, {0})}}, 1);
+        for (const double days : {std::numeric_limits<double>::quiet_NaN(), 1E7}) // 1E7 is in the year 29,279
+            check("no date", {{"d", Type::Date, 0, -1, 0, 8}}, {{Builder::fixedRow(1, bytesOf(days), {0})}},
+                  1);
     }
 
     void damagedLongTextsAreErrors()
