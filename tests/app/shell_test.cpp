@@ -55,9 +55,10 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath("menuc_uk.xcb");
-        for (const char *content : {"<html/>", "<layout><menubar><menu caption='a'><command id='1005'/>",
-                                    "<layout><menubar><button/></menubar></layout>",
-                                    "<layout><toolbar><command/></toolbar></layout>"}) {
+        for (const char *content :
+             {"<html/>", "<layout><menubar><menu caption='a'><command id='1005'/>",
+              "<layout><menubar><button/></menubar></layout>",
+              "<layout><toolbar><command/></toolbar></layout>", "<layout><bar/></layout>"}) {
             writeFile(path, content);
             QVERIFY2(errorOf([&] { MenuLayout::read(path); }) == ErrorNumber::InvalidFileFormat, content);
         }

@@ -113,8 +113,8 @@ private Q_SLOTS:
                 QCOMPARE(converted(tab, 0, 1, input), byFormula);
         }
         for (const int tab : {Energy, Length, Temperature}) // no unit selected in one of the lists
-            QCOMPARE(converted(tab, -1, 0, "1") + converted(tab, 0, -1, "1") + converted(tab, 13, 0, "1"),
-                     "");
+            for (const auto &[from, to] : {std::pair(-1, 0), {0, -1}, {13, 0}})
+                QCOMPARE(converted(tab, from, to, "1"), QString());
         for (const int tab : {Radioactivity, Energy}) // beyond the numbers
             QCOMPARE(converted(tab, tab == Energy ? 0 : 2, tab == Energy ? 3 : 0, "1E300"), QString());
     }

@@ -132,37 +132,34 @@ private Q_SLOTS:
     // "(fills itself)" marks a field that the program fills, an empty cell one that the example solves for.
     void everyCalculatorHasAnExampleAsTheProgramSolvesIt()
     {
-        const struct
-        {
-            QString page;
-            QList<Field> fields; ///< in the order of the rows
-            std::optional<double> vaporisationEntropy = std::nullopt;
-        } examples[] = {
-            {"calc_amount", {TextBoxM3, TextBoxM4, TextBoxM5}},
-            {"calc_concentration", {TextBoxM3, TextBoxM4, TextBoxM5}},
-            {"calc_volumic_mass", {TextBoxM3, TextBoxM4, TextBoxM5}},
+        const QList<Field> concentration{TextBoxM3, TextBoxM4, TextBoxM5}; // in the order of the rows
+        const std::pair<QString, QList<Field>> examples[] = {
+            {"calc_amount", concentration},
+            {"calc_concentration", concentration},
+            {"calc_volumic_mass", concentration},
             {"calc_dilution", {Ci, Vi, Cf, Vf, T}},
             {"calc_fractions", {Xn1, Xn2, M1, M2, Xm1, Xm2}},
-            {"calc_vapour", {Tc, P, TcStar, PStar}, 109},
+            {"calc_vapour", {Tc, P, TcStar, PStar}},
         };
+        constexpr double Water = 109; // the entropy of its vaporisation, which only the last one asks for
         int tab = 0;
-        for (const auto &example : examples) {
-            QList<QStringList> rows = Page(example.page + ".html").rows;
+        for (const auto &[page, fields] : examples) {
+            QList<QStringList> rows = Page(page + ".html").rows;
             rows.removeIf([](const QStringList &cells) { return cells[0] == "(button)"; });
-            QCOMPARE(rows.size(), example.fields.size());
+            QCOMPARE(rows.size(), fields.size());
             FieldTexts texts;
             QList<Change> expected;
             for (qsizetype i = 0; i < rows.size(); ++i) {
                 if (rows[i][1].isEmpty())
-                    expected.append(Change{example.fields[i], rows[i][2]});
+                    expected.append(Change{fields[i], rows[i][2]});
                 else
-                    texts[example.fields[i]] = rows[i][1] == "(fills itself)" ? rows[i][2] : rows[i][1];
+                    texts[fields[i]] = rows[i][1] == "(fills itself)" ? rows[i][2] : rows[i][1];
             }
-            const Outcome outcome = Solver::solve(++tab, texts, example.vaporisationEntropy);
+            const Outcome outcome = Solver::solve(++tab, texts, Water);
             QCOMPARE(outcome.message, QString());
             QCOMPARE(outcome.changes.size(), expected.size());
             for (const Change &change : expected)
-                QVERIFY2(outcome.changes.contains(change), qPrintable(example.page));
+                QVERIFY2(outcome.changes.contains(change), qPrintable(page));
         }
     }
 

@@ -231,22 +231,20 @@ private:
 
     void inAllLooks(const Steps &steps, const QByteArray &tip = "0")
     {
-        const struct
-        {
-            const char *family;
-            int points;
-            bool dark = false;
-        } rows[] = {
-            {"DejaVu Sans", 10}, {"Noto Sans", 10, true}, {"Liberation Sans", 9}, {"DejaVu Sans", 14}};
+        using Look = std::tuple<const char *, int, bool>; // whether it is dark
+        const Look rows[] = {{"DejaVu Sans", 10, false},
+                             {"Noto Sans", 10, true},
+                             {"Liberation Sans", 9, false},
+                             {"DejaVu Sans", 14, false}};
         const QFont font = QApplication::font();
         const QPalette palette = QApplication::palette();
-        for (const auto &look : rows) {
-            QVERIFY2(QFontDatabase::hasFamily(look.family), "see tools/packages");
+        for (const auto &[family, points, dark] : rows) {
+            QVERIFY2(QFontDatabase::hasFamily(family), "see tools/packages");
             for (const char *named : {"Tahoma", "Arial"})
-                QFont::insertSubstitutions(named, {look.family}); // a desktop that has none of them
-            QApplication::setFont(QFont(look.family, look.points));
-            QApplication::setPalette(look.dark ? QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a))
-                                               : palette);
+                QFont::insertSubstitutions(named, {family}); // a desktop that has none of them
+            QApplication::setFont(QFont(family, points));
+            QApplication::setPalette(dark ? QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2a, 0x2a))
+                                          : palette);
             const ProgramFolder folder;
             folder.setOption(56, tip);
             run(folder, [&](Form1 &form) {
@@ -258,7 +256,7 @@ private:
                 QFont::removeSubstitutions(named);
             const QStringList found = m_judge.takeFindings();
             for (const QString &each : found) // as many as there are: a message of QVERIFY2 is cut
-                qWarning("%s %d: %s", look.family, look.points, qPrintable(each));
+                qWarning("%s %d: %s", family, points, qPrintable(each));
             QCOMPARE(found.size(), 0);
             QVERIFY(m_desktop.boxes.isEmpty()); // a run-time error, which would have ended the walk
         }

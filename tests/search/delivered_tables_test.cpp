@@ -63,8 +63,7 @@ private Q_SLOTS:
             {"Carboxylic acids|C=O stretch (dimer), 1720-1680 cm-1; O-H stretch, 3300-2500 cm-1"});
         row("Mw 145", {"Promethium|Pm, M [145] g/mol"});
         row("66 kDa", {"High range, 29,000 - 200,000 Da|Serum albumin (bovine), mass 66,000 Da"});
-        row("resolving gel buffer", {"Resolving gel buffer, Tris-HCl 1.5 M, pH 8.8 (100 mL)|Tris base 1.5 M, "
-                                     "18.17 g; Hydrochloric acid 6 M (corrosive) to"});
+        row("resolving gel", {"Resolving gel buffer, Tris-HCl 1.5 M, pH 8.8 (100 mL)|Tris base 1.5 M"});
         row("−20 °C", {"Methanol + water (30:70) + dry ice|cools to -20 °C", "Propionic acid|mp -20.5"});
     }
 

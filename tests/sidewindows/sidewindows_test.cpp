@@ -49,6 +49,7 @@ private Q_SLOTS:
             {"one\r\n\r\ntwo\r\n", {"one", "", "two"}},
             {"\r\n", {""}},
             {"", {}},
+            {QByteArray("\0\r\n", 3), {QString(QChar(0))}},
             {"80 \260C \226 \265L\r\n", {"80 °C – µL"}}, // Windows-1252
         };
         for (const auto &[content, tips] : rows) {

@@ -57,11 +57,7 @@ private Q_SLOTS:
     {
         const QString password = DatabasePassword;
         const int failure = ErrorNumber::DatabaseFailure;
-        const struct
-        {
-            QString path, user, password;
-            int number;
-        } rows[] = {
+        const std::tuple<QString, QString, QString, int> rows[] = {
             {Database, {}, {}, failure},
             {Database, {}, password.toUpper(), failure},
             {Database, {}, password + 'x', failure},
@@ -72,9 +68,10 @@ private Q_SLOTS:
             {"/dev/zero", {}, password, ErrorNumber::PathAccess},
             {ALEMBRA_SOURCE "/data/SOURCES.md", {}, password, failure},
         };
-        for (const auto &row : rows) {
+        for (const auto &[path, user, typed, number] : rows) {
             DatabaseConnection connection;
-            QCOMPARE(errorOf([&] { connection.Open(row.path, row.user, row.password); }), row.number);
+            const auto open = std::bind_front(&DatabaseConnection::Open, &connection, path, user, typed);
+            QCOMPARE(errorOf(open), number);
             QCOMPARE(connection.State(), DatabaseConnection::StateClosed);
         }
     }

@@ -145,17 +145,12 @@ private Q_SLOTS:
     void packedTexts()
     {
         const QByteArray alpha("\xB1\x03", 2);
-        const struct
-        {
-            QByteArray stored;
-            QString expected;
-            bool packed = true;
-        } rows[] = {
-            {"\xFF\xFE\x61\xE9", "a\u00E9"},
-            {QByteArray("\xFF\xFE\x61\0", 4) + alpha + alpha, "a\u03B1\u03B1"}, // two bytes to the end
-            {QByteArray("\xFF\xFE\0", 3) + alpha + QByteArray("\0b", 2), "\u03B1b"},
-            {"\xFF\xFE", ""},
-            {alpha, "\u03B1"},
+        const std::tuple<QByteArray, QString, bool> rows[] = {
+            {"\xFF\xFE\x61\xE9", "a\u00E9", true},
+            {QByteArray("\xFF\xFE\x61\0", 4) + alpha + alpha, "a\u03B1\u03B1", true}, // two bytes to the end
+            {QByteArray("\xFF\xFE\0", 3) + alpha + QByteArray("\0b", 2), "\u03B1b", true},
+            {"\xFF\xFE", "", true},
+            {alpha, "\u03B1", true},
             {"\xFF\xFE\x61\x62", QStringLiteral("\uFEFF\u6261"), false},
         };
         for (const auto &[stored, expected, packed] : rows)

@@ -6,6 +6,7 @@
 #include "tools/make_pictures/painting.h"
 #include "tools/make_pictures/picturefolder.h"
 #include "tools/make_pictures/reactionline.h"
+#include "tools/make_pictures/shiftaxis.h"
 #include "tools/tables/table.h"
 
 #include <QFontMetricsF>
@@ -81,6 +82,15 @@ private Q_SLOTS:
                 QVERIFY2(levels <= Tolerance,
                          qPrintable(u"%1 differs by %2 levels"_s.arg(drawn).arg(levels)));
             }
+        }
+    }
+
+    void axesEndOnTicks()
+    {
+        for (const auto &[from, to, low, high] :
+             {std::array{-24.0, 76.0, -30.0, 80.0}, {1.0, 2.0, 1.0, 2.0}}) { // bounds on ticks stay
+            const ShiftAxis axis = ShiftAxis::around(from, to, 100, 300);
+            QVERIFY(axis.low() == low && axis.high() == high && axis.abscissa(high) == 100);
         }
     }
 

@@ -5,6 +5,7 @@
 #include "update/profilefile.h"
 #include "update/updatenetwork.h"
 
+#include <QSignalSpy>
 #include <optional>
 
 namespace {
@@ -167,6 +168,16 @@ private Q_SLOTS:
         for (const auto &[content, value] : rows) {
             writeFile(localCopy(), content);
             QCOMPARE(ProfileFile::value(localCopy(), "ALEMBRA", "URL"), QString(value));
+        }
+    }
+
+    void propertiesReportTheirChanges()
+    {
+        const QSignalSpy changes(m_updates.get(), &MiseAjour::propertyChanged);
+        for (const char *name : {"Adresse", "Logiciel", "Version"}) {
+            m_updates->setProperty(name, "text");
+            QCOMPARE(changes.last().at(0).toString(), QString(name));
+            QCOMPARE(m_updates->property(name).toString(), QString("text"));
         }
     }
 
